@@ -1,0 +1,13 @@
+# The portable core: every core/ folder of every area in one static library, without
+# Windows headers. Tests, benchmarks and fuzz targets link it; the DLLs compile the same
+# files into themselves with their export marks.
+set(core_globs "")
+foreach(area IN LISTS VORN_AREAS)
+    list(APPEND core_globs "${PROJECT_SOURCE_DIR}/${area}/*.cpp")
+endforeach()
+file(GLOB_RECURSE core_sources CONFIGURE_DEPENDS ${core_globs})
+list(FILTER core_sources INCLUDE REGEX "/core/[^/]+\\.cpp$")
+
+add_library(vorn_core STATIC ${core_sources})
+target_compile_definitions(vorn_core PUBLIC VORN_CORE_STATIC)
+target_link_libraries(vorn_core PUBLIC vorn_flags)

@@ -1,0 +1,43 @@
+enable_language(RC)
+
+# vorn_library(NAME EXPORT_MACRO folder...): one DLL from every source below the folders.
+function(vorn_library name macro)
+    set(globs "")
+    foreach(folder IN LISTS ARGN)
+        list(APPEND globs "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.rc")
+    endforeach()
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${globs})
+    add_library(${name} SHARED ${sources})
+    target_compile_definitions(${name} PRIVATE ${macro})
+    target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:vorn_flags>)
+    add_library(Vorn::${name} ALIAS ${name})
+    set_property(GLOBAL APPEND PROPERTY VORN_LIBRARIES ${name})
+endfunction()
+
+vorn_library(HostFramework HOSTFRAMEWORK_BUILD framework)
+target_link_libraries(HostFramework PUBLIC comctl32 comdlg32 winspool shell32 ole32 uuid oleaut32 version gdi32)
+
+vorn_library(TarnUtil TARNUTIL_BUILD family/TarnUtil)
+target_link_libraries(TarnUtil PUBLIC HostFramework)
+
+vorn_library(TarnComm TARNCOMM_BUILD family/TarnComm)
+target_link_libraries(TarnComm PUBLIC TarnUtil)
+
+vorn_library(VornChart VORNCHART_BUILD family/VornChart)
+target_link_libraries(VornChart PUBLIC TarnUtil)
+
+vorn_library(VornCommon VORNCOMMON_BUILD frame config aviation files toolkit resources)
+target_link_libraries(VornCommon PUBLIC HostFramework TarnUtil TarnComm VornChart)
+
+# The compiler's runtime DLLs stand beside the programs: exceptions and RTTI cross modules
+# only when every module shares them.
+set(VORN_RUNTIME_DLLS "")
+foreach(dll libgcc_s_dw2-1.dll libstdc++-6.dll libwinpthread-1.dll)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
+                    OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT IS_ABSOLUTE "${path}")
+        set(path "/usr/i686-w64-mingw32/lib/${dll}")
+    endif()
+    list(APPEND VORN_RUNTIME_DLLS "${path}")
+    configure_file("${path}" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll}" COPYONLY)
+endforeach()

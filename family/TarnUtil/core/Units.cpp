@@ -1,0 +1,1 @@
+#include "family/TarnUtil/core/Units.h"
