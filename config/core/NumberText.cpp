@@ -1,0 +1,72 @@
+#include "config/core/NumberText.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace vorn
+{
+namespace
+{
+constexpr std::int64_t kCeiling = std::int64_t{1} << 33; // beyond every 32-bit value, with or without sign
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool isBlank(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+/// Digits at the start of `text`, held at kCeiling once they pass it.
+std::int64_t digitsValue(std::string_view text)
+{
+    std::int64_t value = 0;
+    for (const char c : text)
+    {
+        if (!isDigit(c))
+        {
+            break;
+        }
+        value = std::min(value * 10 + (c - '0'), kCeiling);
+    }
+    return value;
+}
+
+int saturated(std::int64_t value)
+{
+    constexpr std::int64_t lowest = std::numeric_limits<int>::min();
+    constexpr std::int64_t highest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(value, lowest, highest));
+}
+} // namespace
+
+int leadingNumber(std::string_view text)
+{
+    const auto first = std::find_if_not(text.begin(), text.end(), isBlank);
+    text.remove_prefix(static_cast<std::size_t>(first - text.begin()));
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+'))
+    {
+        text.remove_prefix(1);
+    }
+    const std::int64_t value = digitsValue(text);
+    return saturated(negative ? -value : value);
+}
+
+int storedNumber(std::string_view text, int otherwise)
+{
+    return !text.empty() && isDigit(text.front()) ? saturated(digitsValue(text)) : otherwise;
+}
+
+std::optional<std::uint32_t> digitsOnly(std::string_view text)
+{
+    const std::int64_t value = digitsValue(text);
+    if (!std::all_of(text.begin(), text.end(), isDigit) || value > std::numeric_limits<std::uint32_t>::max())
+    {
+        return std::nullopt;
+    }
+    return static_cast<std::uint32_t>(value);
+}
+} // namespace vorn

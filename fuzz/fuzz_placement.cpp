@@ -1,0 +1,21 @@
+#include "frame/core/FixedFileInfo.h"
+#include "frame/core/PlacementText.h"
+
+#include <cstdlib>
+
+/// Any text as placement: what was understood comes back the same from its own text. The same bytes serve as a
+/// version resource.
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
+{
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    if (const auto placement = vorn::parsePlacement(text))
+    {
+        if (vorn::parsePlacement(vorn::placementText(*placement)) != placement)
+        {
+            std::abort();
+        }
+        vorn::keptOnScreen(placement->normal, 1024);
+    }
+    vorn::productVersion(std::as_bytes(std::span(data, size)));
+    return 0;
+}
