@@ -1,0 +1,11 @@
+#pragma once
+
+/// @file
+/// The framework's basic classes: objects, strings, exceptions.
+#include "framework/core/BaseTypes.h"
+#include "framework/core/CString.h"
+#include "framework/core/Diagnostics.h"
+#include "framework/core/Exception.h"
+#include "framework/core/Object.h"
+#include "framework/core/OleException.h"
+#include "framework/core/RuntimeClass.h"
