@@ -1,0 +1,106 @@
+#include "frame/core/BaseNDigits.h"
+
+#include <bit>
+#include <charconv>
+
+namespace vorn
+{
+
+namespace
+{
+
+constexpr int kLargestCharconvBase = 36;
+constexpr unsigned kBitsPerByte = 8;
+constexpr unsigned kBitsPerLargestDigit = 6;
+
+constexpr bool IsBase(int base)
+{
+    return base >= kSmallestBase && base <= kLargestBase;
+}
+
+/// Writes backwards and returns where the digits begin.
+char* EncodeBackwards(std::uint64_t value, unsigned base, char* end)
+{
+    do
+    {
+        *--end = kBaseNDigits[static_cast<std::size_t>(value % base)];
+        value /= base;
+    } while (value != 0);
+    return end;
+}
+
+} // namespace
+
+std::uint64_t DecodeNumber(std::string_view digits, int base)
+{
+    if (!IsBase(base))
+        return 0;
+    const std::uint64_t factor = static_cast<unsigned>(base);
+    std::uint64_t value = 0;
+    for (const char digit : digits)
+        value = value * factor + kDigitValues[static_cast<unsigned char>(digit)];
+    return value;
+}
+
+std::string EncodeNumber(std::uint64_t value, int base)
+{
+    if (!IsBase(base))
+        return {};
+    char buffer[64];
+    char* const end = buffer + sizeof buffer;
+    if (base <= kLargestCharconvBase)
+        return std::string(buffer, std::to_chars(buffer, end, value, base).ptr);
+    return std::string(EncodeBackwards(value, static_cast<unsigned>(base), end), end);
+}
+
+int BitsPerDigit(int base)
+{
+    return IsBase(base) && std::has_single_bit(static_cast<unsigned>(base))
+               ? std::countr_zero(static_cast<unsigned>(base))
+               : 0;
+}
+
+std::string EncodeBytes(std::span<const unsigned char> bytes, int base)
+{
+    const auto bits = static_cast<unsigned>(BitsPerDigit(base));
+    if (bits == 0 || bytes.empty())
+        return {};
+    const unsigned mask = (1U << bits) - 1;
+    std::string digits(
+        static_cast<std::size_t>((static_cast<std::uint64_t>(bytes.size()) * kBitsPerByte + bits - 1) / bits), '0');
+    char* out = digits.data();
+    unsigned pool = 0;
+    unsigned pending = 0;
+    for (const unsigned char byte : bytes)
+    {
+        pool |= static_cast<unsigned>(byte) << pending;
+        for (pending += kBitsPerByte; pending >= bits; pending -= bits, pool >>= bits)
+            *out++ = kBaseNDigits[pool & mask];
+    }
+    if (pending > 0)
+        *out = kBaseNDigits[pool & mask];
+    return digits;
+}
+
+std::size_t DecodeBytes(std::string_view digits, std::span<unsigned char> bytes)
+{
+    std::size_t count = 0;
+    unsigned pool = 0;
+    unsigned pending = 0;
+    for (const char digit : digits)
+    {
+        const unsigned value = kDigitValues[static_cast<unsigned char>(digit)];
+        if (value == kNoDigit || count == bytes.size())
+            break;
+        pool |= value << pending;
+        pending += kBitsPerLargestDigit;
+        if (pending < kBitsPerByte)
+            continue;
+        bytes[count++] = static_cast<unsigned char>(pool);
+        pool >>= kBitsPerByte;
+        pending -= kBitsPerByte;
+    }
+    return count;
+}
+
+} // namespace vorn

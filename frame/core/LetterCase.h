@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace vorn
+{
+
+/// Lower case of the 26 letters; every other byte, also above 127, stays.
+constexpr char ToLower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
+/// The lower-case form of each byte, for loops that fold whole texts.
+inline constexpr std::array<char, 256> kLowerCase = []
+{
+    std::array<char, 256> table{};
+    for (unsigned i = 0; i < table.size(); ++i)
+        table[i] = ToLower(static_cast<char>(i));
+    return table;
+}();
+
+/// A lower-case copy.
+inline std::string LowerCopy(std::string_view text)
+{
+    std::string copy(text);
+    for (char& c : copy)
+        c = kLowerCase[static_cast<unsigned char>(c)];
+    return copy;
+}
+
+/// Whole-text comparison that takes upper and lower case of the 26 letters for the same.
+constexpr bool EqualNoCase(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+    {
+        if (ToLower(a[i]) != ToLower(b[i]))
+            return false;
+    }
+    return true;
+}
+
+} // namespace vorn
