@@ -1,0 +1,13 @@
+#pragma once
+
+/// @file
+/// The system's common controls.
+#include "framework/include/afxwin.h"
+
+#include "framework/controls/CHeaderCtrl.h"
+#include "framework/controls/CImageList.h"
+#include "framework/controls/CListCtrl.h"
+#include "framework/controls/CProgressCtrl.h"
+#include "framework/controls/CSliderCtrl.h"
+#include "framework/controls/CSpinButtonCtrl.h"
+#include "framework/controls/CToolTipCtrl.h"
