@@ -1,5 +1,7 @@
 #include "frame/core/TextCase.h"
 
+#include "framework/core/AsciiText.h"
+
 #include <algorithm>
 
 namespace vorn
@@ -8,7 +10,7 @@ namespace
 {
 bool sameLetter(char a, char b)
 {
-    return asciiUpper(a) == asciiUpper(b);
+    return ToUpperAscii(a) == ToUpperAscii(b);
 }
 } // namespace
 

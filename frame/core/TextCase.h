@@ -7,11 +7,6 @@
 /// (programs, settings sections) are the family's own, and the result must not follow the user's locale.
 namespace vorn
 {
-constexpr char asciiUpper(char c)
-{
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
-}
-
 /// True when both texts are equal but for the case of letters.
 bool equalsNoCase(std::string_view a, std::string_view b);
 
