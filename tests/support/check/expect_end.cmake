@@ -1,0 +1,20 @@
+# cmake -DTEST=... -DCODE=... -DTEXT=... -P expect_end.cmake PROGRAM...
+# Runs one test of the broken program and checks its exit code and what it said.
+set(command "")
+set(collect OFF)
+foreach(i RANGE ${CMAKE_ARGC})
+    if(collect AND NOT "${CMAKE_ARGV${i}}" STREQUAL "")
+        list(APPEND command "${CMAKE_ARGV${i}}")
+    elseif("${CMAKE_ARGV${i}}" STREQUAL "--")
+        set(collect ON)
+    endif()
+endforeach()
+set(ENV{VORN_TEST_LIMIT} 1)
+execute_process(COMMAND ${command} --gtest_filter=Broken.${TEST}
+                RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output TIMEOUT 60)
+if(NOT code STREQUAL CODE)
+    message(FATAL_ERROR "exit code ${code} instead of ${CODE}:\n${output}")
+endif()
+if(NOT TEXT STREQUAL "" AND NOT output MATCHES "${TEXT} in Broken\\.${TEST}")
+    message(FATAL_ERROR "nothing about \"${TEXT} in Broken.${TEST}\":\n${output}")
+endif()
