@@ -6,6 +6,7 @@
 #include "framework/core/CString.h"
 #include "framework/core/Diagnostics.h"
 #include "framework/core/Exception.h"
+#include "framework/core/Geometry.h"
 #include "framework/core/Object.h"
 #include "framework/core/OleException.h"
 #include "framework/core/RuntimeClass.h"

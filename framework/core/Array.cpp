@@ -1,0 +1,9 @@
+#include "framework/core/Array.h"
+
+IMPLEMENT_DYNCREATE(CByteArray, CObject)
+IMPLEMENT_DYNCREATE(CWordArray, CObject)
+IMPLEMENT_DYNCREATE(CDWordArray, CObject)
+IMPLEMENT_DYNCREATE(CUIntArray, CObject)
+IMPLEMENT_DYNCREATE(CPtrArray, CObject)
+IMPLEMENT_DYNCREATE(CObArray, CObject)
+IMPLEMENT_DYNCREATE(CStringArray, CObject)

@@ -1,0 +1,9 @@
+#include "framework/core/Map.h"
+
+IMPLEMENT_DYNCREATE(CMapStringToString, CObject)
+IMPLEMENT_DYNCREATE(CMapStringToPtr, CObject)
+IMPLEMENT_DYNCREATE(CMapStringToOb, CObject)
+IMPLEMENT_DYNCREATE(CMapPtrToPtr, CObject)
+IMPLEMENT_DYNCREATE(CMapPtrToWord, CObject)
+IMPLEMENT_DYNCREATE(CMapWordToPtr, CObject)
+IMPLEMENT_DYNCREATE(CMapWordToOb, CObject)
