@@ -1,0 +1,77 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vorn::test
+{
+/// What the registry itself holds.
+struct RawValue
+{
+    DWORD type;
+    std::string bytes;
+    bool operator==(const RawValue&) const = default;
+};
+
+/// A value REG_SZ with its terminating zero.
+RawValue rawText(std::string_view text);
+/// A value REG_DWORD.
+RawValue rawNumber(DWORD number);
+
+/// Gives every test an application name of its own, with no settings and no INI file under either root before and
+/// after it, and raw access to both as another program would have it.
+class ScratchSettings : public testing::Test
+{
+protected:
+    ScratchSettings();
+    ~ScratchSettings() override;
+
+    const std::string& app() const
+    {
+        return m_app;
+    }
+
+    void put(const char* section, const char* key, const RawValue& value, HKEY root = HKEY_CURRENT_USER) const;
+    std::optional<RawValue> get(const char* section, const char* key, HKEY root = HKEY_CURRENT_USER) const;
+    bool hasKey(const std::string& section, HKEY root = HKEY_CURRENT_USER) const;
+    void deleteKey(const std::string& section, HKEY root = HKEY_CURRENT_USER) const;
+
+    /// The application's INI file in the Windows folder, and the user's copy of it.
+    std::string sharedIni() const;
+    std::string userIni() const;
+    void writeSharedIni(std::string_view text) const;
+    void writeUserIni(std::string_view text) const;
+
+private:
+    void cleanUp() const;
+    std::string keyPath(const std::string& section) const;
+
+    std::string m_app;
+};
+
+void writeFile(const std::string& path, std::string_view text);
+
+/// A text file of the test's own in the temporary folder.
+class ScratchFile
+{
+public:
+    explicit ScratchFile(std::string_view text);
+    ~ScratchFile();
+    ScratchFile(const ScratchFile&) = delete;
+    ScratchFile& operator=(const ScratchFile&) = delete;
+
+    const char* path() const
+    {
+        return m_path.c_str();
+    }
+
+private:
+    std::string m_path;
+};
+} // namespace vorn::test
