@@ -10,29 +10,29 @@ namespace
 constexpr unsigned long long kTrustedMs = 1000;
 constexpr unsigned long long kCoarsestFolderTime = 2 * 10'000'000ull; // 2 s, that of FAT volumes, in units of 100 ns
 
-unsigned long long ticks(const FILETIME& time)
+unsigned long long Ticks(const FILETIME& time)
 {
     return static_cast<unsigned long long>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
 }
 
-unsigned long long now()
+unsigned long long Now()
 {
     FILETIME time;
     GetSystemTimeAsFileTime(&time);
-    return ticks(time);
+    return Ticks(time);
 }
 
 /// Last change of a folder; nothing when there is no such folder.
-std::optional<unsigned long long> folderChange(const std::string& folder)
+std::optional<unsigned long long> FolderChange(const std::string& folder)
 {
     WIN32_FILE_ATTRIBUTE_DATA data;
     const bool found = GetFileAttributesExA(folder.c_str(), GetFileExInfoStandard, &data) != FALSE;
     const bool isFolder = found && (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    return isFolder ? std::optional(ticks(data.ftLastWriteTime)) : std::nullopt;
+    return isFolder ? std::optional(Ticks(data.ftLastWriteTime)) : std::nullopt;
 }
 
 /// The folder above; empty above a drive's root.
-std::string parent(const std::string& path)
+std::string Parent(const std::string& path)
 {
     const std::size_t slash = path.find_last_of('\\');
     const std::string folder = slash == std::string::npos ? std::string() : path.substr(0, slash);
@@ -44,14 +44,14 @@ AbsentFile::AbsentFile(std::string path) : m_path(std::move(path))
 {
 }
 
-bool AbsentFile::hasCome()
+bool AbsentFile::HasCome()
 {
-    if (m_path.empty() || isKnownAbsent())
+    if (m_path.empty() || IsKnownAbsent())
     {
         return false;
     }
     // The folder comes first: a file made between the two questions then counts as a change.
-    rememberFolder();
+    RememberFolder();
     const bool come = GetFileAttributesA(m_path.c_str()) != INVALID_FILE_ATTRIBUTES;
     if (come)
     {
@@ -60,22 +60,22 @@ bool AbsentFile::hasCome()
     return come;
 }
 
-bool AbsentFile::isKnownAbsent() const
+bool AbsentFile::IsKnownAbsent() const
 {
-    return !m_folder.empty() && GetTickCount64() - m_asked < kTrustedMs && folderChange(m_folder) == m_changed;
+    return !m_folder.empty() && GetTickCount64() - m_asked < kTrustedMs && FolderChange(m_folder) == m_changed;
 }
 
-void AbsentFile::rememberFolder()
+void AbsentFile::RememberFolder()
 {
     m_asked = GetTickCount64();
     std::optional<unsigned long long> change;
-    m_folder = parent(m_path);
-    while (!m_folder.empty() && !(change = folderChange(m_folder)))
+    m_folder = Parent(m_path);
+    while (!m_folder.empty() && !(change = FolderChange(m_folder)))
     {
-        m_folder = parent(m_folder);
+        m_folder = Parent(m_folder);
     }
     m_changed = change.value_or(0);
-    if (m_changed == 0 || m_changed + kCoarsestFolderTime > now())
+    if (m_changed == 0 || m_changed + kCoarsestFolderTime > Now())
     {
         m_folder.clear();
     }

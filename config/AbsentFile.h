@@ -18,17 +18,17 @@ public:
     AbsentFile() = default;
     explicit AbsentFile(std::string path);
 
-    const std::string& path() const
+    const std::string& Path() const
     {
         return m_path;
     }
 
     /// Whether the file is there now.
-    bool hasCome();
+    bool HasCome();
 
 private:
-    bool isKnownAbsent() const;
-    void rememberFolder();
+    bool IsKnownAbsent() const;
+    void RememberFolder();
 
     std::string m_path;
     std::string m_folder;             ///< nearest folder that exists; empty when nothing is remembered

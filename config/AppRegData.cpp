@@ -11,18 +11,18 @@ using vorn::SettingsRoot;
 
 namespace
 {
-std::span<const BYTE> numberBytes(const DWORD& value)
+std::span<const BYTE> NumberBytes(const DWORD& value)
 {
     return {reinterpret_cast<const BYTE*>(&value), sizeof value};
 }
 
 /// The characters of a text with their terminating zero.
-std::span<const BYTE> textBytes(const char* text)
+std::span<const BYTE> TextBytes(const char* text)
 {
     return {reinterpret_cast<const BYTE*>(text), std::strlen(text) + 1};
 }
 
-CString toCString(const std::string& text)
+CString ToCString(const std::string& text)
 {
     return {text.data(), static_cast<int>(text.size())};
 }
@@ -37,7 +37,7 @@ AppRegData::~AppRegData() = default;
 void AppRegData::SetModName(const CString& name)
 {
     m_modName = name;
-    m_source->keys.setApplication(name.GetString());
+    m_source->keys.SetApplication(name.GetString());
 }
 
 CString AppRegData::GetModName() const
@@ -57,8 +57,8 @@ int AppRegData::GetModPathIdx() const
 
 void AppRegData::InitINITable(const char* name)
 {
-    const std::string file = m_source->findIniFile(name ? name : "");
-    if (!file.empty() && vorn::loadIniFile(file, m_iniTable))
+    const std::string file = m_source->FindIniFile(name ? name : "");
+    if (!file.empty() && vorn::LoadIniFile(file, m_iniTable))
     {
         m_iniLoaded = true;
     }
@@ -95,7 +95,7 @@ const std::string* AppRegData::FindIniEntry(const char* section, const char* key
     {
         InitINITable(m_modName);
     }
-    return vorn::findEntry(m_iniTable, section, key);
+    return vorn::FindEntry(m_iniTable, section, key);
 }
 
 CString AppRegData::ReadString(SettingsRoot root, const char* section, const char* key, const char* defaultValue,
@@ -104,10 +104,10 @@ CString AppRegData::ReadString(SettingsRoot root, const char* section, const cha
     if (section && key && !m_modName.IsEmpty())
     {
         vorn::RegistryValue value;
-        m_source->keys.query(root, section, key, value);
-        if (value.isThere())
+        m_source->keys.Query(root, section, key, value);
+        if (value.IsThere())
         {
-            return toCString(vorn::storedAsText(value.type, value.bytes()));
+            return ToCString(vorn::StoredAsText(value.type, value.Bytes()));
         }
         if (const std::string* entry = FindIniEntry(section, key))
         {
@@ -115,7 +115,7 @@ CString AppRegData::ReadString(SettingsRoot root, const char* section, const cha
             {
                 WriteString(root, section, key, entry->c_str());
             }
-            return toCString(*entry);
+            return ToCString(*entry);
         }
     }
     return {defaultValue};
@@ -128,10 +128,10 @@ int AppRegData::ReadInt(SettingsRoot root, const char* section, const char* key,
         return defaultValue;
     }
     vorn::RegistryValue value;
-    m_source->keys.query(root, section, key, value);
-    if (value.isThere())
+    m_source->keys.Query(root, section, key, value);
+    if (value.IsThere())
     {
-        return vorn::storedAsNumber(value.type, value.bytes(), defaultValue);
+        return vorn::StoredAsNumber(value.type, value.Bytes(), defaultValue);
     }
     if (value.status == ERROR_MORE_DATA)
     {
@@ -142,7 +142,7 @@ int AppRegData::ReadInt(SettingsRoot root, const char* section, const char* key,
     {
         return defaultValue;
     }
-    const int number = vorn::leadingNumber(*entry);
+    const int number = vorn::LeadingNumber(*entry);
     if (keep)
     {
         WriteInt(root, section, key, number);
@@ -156,14 +156,14 @@ BOOL AppRegData::WriteString(SettingsRoot root, const char* section, const char*
     {
         return DeleteRegEntry(section, key, root);
     }
-    return section && !m_modName.IsEmpty() && m_source->keys.set(root, section, key, REG_SZ, textBytes(value));
+    return section && !m_modName.IsEmpty() && m_source->keys.Set(root, section, key, REG_SZ, TextBytes(value));
 }
 
 BOOL AppRegData::WriteInt(SettingsRoot root, const char* section, const char* key, int value)
 {
     const DWORD number = static_cast<DWORD>(value);
     return section && key && !m_modName.IsEmpty() &&
-           m_source->keys.set(root, section, key, REG_DWORD, numberBytes(number));
+           m_source->keys.Set(root, section, key, REG_DWORD, NumberBytes(number));
 }
 
 BOOL AppRegData::WriteStrInt(SettingsRoot root, const char* section, const char* key, const char* text)
@@ -172,20 +172,20 @@ BOOL AppRegData::WriteStrInt(SettingsRoot root, const char* section, const char*
     {
         return DeleteRegEntry(section, key, root);
     }
-    const auto number = vorn::digitsOnly(text);
+    const auto number = vorn::DigitsOnly(text);
     return number && WriteInt(root, section, key, static_cast<int>(*number));
 }
 
 BOOL AppRegData::DeleteRegEntry(const char* section, const char* key, SettingsRoot root)
 {
-    if (!section || m_modName.IsEmpty() || (!key && !vorn::namesOwnKey(section)))
+    if (!section || m_modName.IsEmpty() || (!key && !vorn::NamesOwnKey(section)))
     {
         return FALSE;
     }
     const char* application = m_modName;
-    const std::string path = key ? vorn::sectionKey(application, section) : vorn::applicationKey(application);
+    const std::string path = key ? vorn::SectionKey(application, section) : vorn::ApplicationKey(application);
     vorn::RegistryKey opened;
-    if (vorn::openKey(vorn::rootKey(root), path.c_str(), KEY_ALL_ACCESS, opened) != ERROR_SUCCESS)
+    if (vorn::OpenKey(vorn::RootKey(root), path.c_str(), KEY_ALL_ACCESS, opened) != ERROR_SUCCESS)
     {
         return FALSE;
     }

@@ -13,16 +13,16 @@ namespace
 AppRegMgr* g_instance = nullptr;
 
 /// Names whose settings are shared by the family.
-std::set<std::string>& sharedNames()
+std::set<std::string>& SharedNames()
 {
     static std::set<std::string> names{"Global", "Installers"};
     return names;
 }
 
-std::shared_ptr<AppRegData> makeRecord(const CString& name)
+std::shared_ptr<AppRegData> MakeRecord(const CString& name)
 {
     std::shared_ptr<AppRegData> record;
-    if (sharedNames().count(name.GetString()) != 0)
+    if (SharedNames().count(name.GetString()) != 0)
     {
         record = std::make_shared<GlobalRegData>();
     }
@@ -37,7 +37,7 @@ std::shared_ptr<AppRegData> makeRecord(const CString& name)
 
 AppRegMgr::AppRegMgr()
 {
-    m_records.push_back(makeRecord(vorn::hostName().c_str()));
+    m_records.push_back(MakeRecord(vorn::HostName().c_str()));
 }
 
 AppRegMgr::~AppRegMgr() = default;
@@ -67,7 +67,7 @@ int AppRegMgr::AddApp(CString name)
     {
         return index;
     }
-    m_records.push_back(makeRecord(name));
+    m_records.push_back(MakeRecord(name));
     return static_cast<int>(m_records.size()) - 1;
 }
 
@@ -98,13 +98,13 @@ bool AppRegMgr::AllowNetwork()
 
 void AppRegMgr::UseGlobalRegForApp(const CString& name)
 {
-    sharedNames().insert(name.GetString());
+    SharedNames().insert(name.GetString());
 }
 
 bool AppRegMgr::IsGlobalSet(CString& iniPath)
 {
     const bool exists = GetFileAttributesA(iniPath) != INVALID_FILE_ATTRIBUTES;
-    return exists && vorn::iniValue(iniPath.GetString(), "Registry Settings", "Local Machine", 9) == "1";
+    return exists && vorn::IniValue(iniPath.GetString(), "Registry Settings", "Local Machine", 9) == "1";
 }
 
 AppRegData* AppRegMgr::RecordAt(int index) const

@@ -8,14 +8,14 @@ namespace vorn
 {
 namespace
 {
-std::string windowsFolder()
+std::string WindowsFolder()
 {
     char path[MAX_PATH];
     const UINT length = GetWindowsDirectoryA(path, MAX_PATH);
     return length < MAX_PATH ? std::string(path, length) : std::string();
 }
 
-std::string localDataFolder()
+std::string LocalDataFolder()
 {
     char path[MAX_PATH];
     const bool found = SUCCEEDED(SHGetFolderPathA(nullptr, CSIDL_LOCAL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, path));
@@ -23,9 +23,9 @@ std::string localDataFolder()
 }
 } // namespace
 
-const FolderNames& folderNames()
+const FolderNames& SystemFolders()
 {
-    static const FolderNames names{windowsFolder(), localDataFolder()};
+    static const FolderNames names{WindowsFolder(), LocalDataFolder()};
     return names;
 }
 } // namespace vorn

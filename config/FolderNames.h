@@ -12,5 +12,5 @@ struct FolderNames
 };
 
 /// Asked of the system on the first call and kept: asking the shell costs more than a settings read.
-const FolderNames& folderNames();
+const FolderNames& SystemFolders();
 } // namespace vorn

@@ -10,7 +10,7 @@ namespace
 {
 constexpr std::size_t kLongestListed = 9; // characters of a listed name or mark
 
-vorn::SharedSections& sharedSections()
+vorn::SharedSections& ListedSections()
 {
     static vorn::SharedSections sections;
     return sections;
@@ -22,19 +22,19 @@ void GlobalRegData::SetGlobalSections(CString iniPath)
     const std::string path = iniPath.GetString();
     const auto listed = [&](const std::string& key)
     {
-        return vorn::iniValue(path, "Local Machine Sections", key.c_str(), kLongestListed);
+        return vorn::IniValue(path, "Local Machine Sections", key.c_str(), kLongestListed);
     };
-    sharedSections() = path.empty() ? vorn::SharedSections() : vorn::readSharedSections(listed);
+    ListedSections() = path.empty() ? vorn::SharedSections() : vorn::ReadSharedSections(listed);
 }
 
 BOOL GlobalRegData::FindGlobalSection(CString section)
 {
-    return sharedSections().holds(section.GetString());
+    return ListedSections().Holds(section.GetString());
 }
 
 SettingsRoot GlobalRegData::RootOf(const char* section) const
 {
-    const bool machine = sharedSections().isMachineWide(m_modName.GetString(), section ? section : "");
+    const bool machine = ListedSections().IsMachineWide(m_modName.GetString(), section ? section : "");
     return machine ? SettingsRoot::Machine : SettingsRoot::User;
 }
 

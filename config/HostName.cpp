@@ -6,7 +6,7 @@ namespace vorn
 {
 namespace
 {
-std::string executableName()
+std::string ExecutableName()
 {
     char path[MAX_PATH];
     const DWORD length = GetModuleFileNameA(nullptr, path, MAX_PATH);
@@ -16,8 +16,8 @@ std::string executableName()
 }
 } // namespace
 
-std::string hostName()
+std::string HostName()
 {
-    return executableName();
+    return ExecutableName();
 }
 } // namespace vorn

@@ -18,13 +18,13 @@ struct Block
     bool cut;
 };
 
-Block blockOf(const std::vector<char>& buffer, DWORD length)
+Block BlockOf(const std::vector<char>& buffer, DWORD length)
 {
     return {{buffer.data(), length}, length >= kBlockSize - 2};
 }
 
 /// The block up to its last line's start: of a cut block the last line may be half a line.
-std::string_view wholeLines(const Block& block)
+std::string_view WholeLines(const Block& block)
 {
     if (!block.cut)
     {
@@ -36,24 +36,24 @@ std::string_view wholeLines(const Block& block)
 }
 } // namespace
 
-bool loadIniFile(const std::string& path, IniTable& table)
+bool LoadIniFile(const std::string& path, IniTable& table)
 {
     std::vector<char> names(kBlockSize);
-    const Block sections = blockOf(names, GetPrivateProfileSectionNamesA(names.data(), kBlockSize, path.c_str()));
+    const Block sections = BlockOf(names, GetPrivateProfileSectionNamesA(names.data(), kBlockSize, path.c_str()));
     if (sections.text.empty() || sections.cut)
     {
         return false;
     }
     std::vector<char> lines(kBlockSize);
-    for (const std::string_view section : blockTexts(sections.text))
+    for (const std::string_view section : BlockTexts(sections.text))
     {
         const DWORD length = GetPrivateProfileSectionA(section.data(), lines.data(), kBlockSize, path.c_str());
-        addSection(table, section, wholeLines(blockOf(lines, length)));
+        AddSection(table, section, WholeLines(BlockOf(lines, length)));
     }
     return true;
 }
 
-std::string iniValue(const std::string& path, const char* section, const char* key, std::size_t limit)
+std::string IniValue(const std::string& path, const char* section, const char* key, std::size_t limit)
 {
     std::string value(limit + 1, '\0');
     value.resize(

@@ -2,7 +2,7 @@
 
 namespace vorn
 {
-LSTATUS openKey(HKEY root, const char* path, REGSAM access, RegistryKey& key)
+LSTATUS OpenKey(HKEY root, const char* path, REGSAM access, RegistryKey& key)
 {
     HKEY opened = nullptr;
     const LSTATUS status = RegOpenKeyExA(root, path, 0, access | KEY_WOW64_32KEY, &opened);
@@ -10,7 +10,7 @@ LSTATUS openKey(HKEY root, const char* path, REGSAM access, RegistryKey& key)
     return status;
 }
 
-LSTATUS createKey(HKEY root, const char* path, RegistryKey& key)
+LSTATUS CreateKey(HKEY root, const char* path, RegistryKey& key)
 {
     HKEY opened = nullptr;
     const LSTATUS status = RegCreateKeyExA(root, path, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_WRITE | KEY_WOW64_32KEY,

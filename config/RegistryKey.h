@@ -18,8 +18,8 @@ struct RegistryKeyCloser
 using RegistryKey = std::unique_ptr<HKEY__, RegistryKeyCloser>;
 
 /// Opens a key in the 32-bit view. On failure `key` is null and the system's code comes back.
-LSTATUS openKey(HKEY root, const char* path, REGSAM access, RegistryKey& key);
+LSTATUS OpenKey(HKEY root, const char* path, REGSAM access, RegistryKey& key);
 
 /// Creates a key, or opens the one that is there, for writing, in the 32-bit view.
-LSTATUS createKey(HKEY root, const char* path, RegistryKey& key);
+LSTATUS CreateKey(HKEY root, const char* path, RegistryKey& key);
 } // namespace vorn

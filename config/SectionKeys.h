@@ -19,7 +19,7 @@ enum class SettingsRoot : int
     Machine,
 };
 
-HKEY rootKey(SettingsRoot root);
+HKEY RootKey(SettingsRoot root);
 
 /// One value as the registry holds it. The bytes are valid when `status` is ERROR_SUCCESS, the type also when it is
 /// ERROR_MORE_DATA.
@@ -30,11 +30,11 @@ struct RegistryValue
     DWORD size = 0;
     std::byte buffer[kStoredLimit];
 
-    bool isThere() const
+    bool IsThere() const
     {
         return status == ERROR_SUCCESS;
     }
-    std::span<const std::byte> bytes() const
+    std::span<const std::byte> Bytes() const
     {
         return {buffer, size};
     }
@@ -46,16 +46,16 @@ struct RegistryValue
 class SectionKeys
 {
 public:
-    void setApplication(std::string_view name);
+    void SetApplication(std::string_view name);
 
     /// Queries a value of a section into `value`.
-    void query(SettingsRoot root, std::string_view section, const char* key, RegistryValue& value);
+    void Query(SettingsRoot root, std::string_view section, const char* key, RegistryValue& value);
 
     /// Stores a value, making the section's key if needed. A failure leaves the old value.
-    bool set(SettingsRoot root, std::string_view section, const char* key, DWORD type, std::span<const BYTE> data);
+    bool Set(SettingsRoot root, std::string_view section, const char* key, DWORD type, std::span<const BYTE> data);
 
     /// Closes every key.
-    void closeAll();
+    void CloseAll();
 
 private:
     struct Keys
@@ -69,9 +69,9 @@ private:
     };
     using KeyMap = std::unordered_map<std::string, Keys, TextHash, std::equal_to<>>;
 
-    Keys& keysOf(SettingsRoot root, std::string_view section);
-    LSTATUS openForReading(SettingsRoot root, std::string_view section, Keys& keys) const;
-    LSTATUS openForWriting(SettingsRoot root, std::string_view section, Keys& keys) const;
+    Keys& KeysOf(SettingsRoot root, std::string_view section);
+    LSTATUS OpenForReading(SettingsRoot root, std::string_view section, Keys& keys) const;
+    LSTATUS OpenForWriting(SettingsRoot root, std::string_view section, Keys& keys) const;
 
     std::string m_application;
     KeyMap m_keys[2];

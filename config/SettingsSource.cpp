@@ -4,28 +4,28 @@
 
 namespace vorn
 {
-std::string SettingsSource::findIniFile(const std::string& application)
+std::string SettingsSource::FindIniFile(const std::string& application)
 {
     if (application.empty())
     {
         return {};
     }
-    setPlaces(application);
-    if (m_perUser.hasCome())
+    SetPlaces(application);
+    if (m_perUser.HasCome())
     {
-        return m_perUser.path();
+        return m_perUser.Path();
     }
-    return m_shared.hasCome() ? m_shared.path() : std::string();
+    return m_shared.HasCome() ? m_shared.Path() : std::string();
 }
 
-void SettingsSource::setPlaces(const std::string& application)
+void SettingsSource::SetPlaces(const std::string& application)
 {
     if (application == m_application)
     {
         return;
     }
     m_application = application;
-    const FolderNames& folders = folderNames();
+    const FolderNames& folders = SystemFolders();
     const std::string file = '\\' + application + ".INI";
     m_shared = AbsentFile(folders.windows + file);
     const bool diverted = !folders.localData.empty() && folders.windows.size() > 2;

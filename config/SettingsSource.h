@@ -15,10 +15,10 @@ public:
 
     /// Path of the application's INI file: the per-user copy when there is one, else the file in the Windows folder.
     /// Empty when neither is there.
-    std::string findIniFile(const std::string& application);
+    std::string FindIniFile(const std::string& application);
 
 private:
-    void setPlaces(const std::string& application);
+    void SetPlaces(const std::string& application);
 
     std::string m_application;
     AbsentFile m_shared;

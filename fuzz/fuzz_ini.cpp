@@ -9,12 +9,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
 {
     const std::string_view block(reinterpret_cast<const char*>(data), size);
     vorn::IniTable table;
-    for (const std::string_view section : vorn::blockTexts(block))
+    for (const std::string_view section : vorn::BlockTexts(block))
     {
-        vorn::addSection(table, section, block);
-        vorn::leadingNumber(section);
-        vorn::storedNumber(section, -1);
-        vorn::digitsOnly(section);
+        vorn::AddSection(table, section, block);
+        vorn::LeadingNumber(section);
+        vorn::StoredNumber(section, -1);
+        vorn::DigitsOnly(section);
         if (table.size() > 1000)
         {
             break;
@@ -30,11 +30,11 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     for (std::uint32_t type = 0; type < 12; ++type)
     {
         const auto bytes = std::as_bytes(std::span(data, size));
-        if (vorn::storedAsText(type, bytes).size() > size && type != vorn::kStoredNumber)
+        if (vorn::StoredAsText(type, bytes).size() > size && type != vorn::kStoredNumber)
         {
             std::abort();
         }
-        vorn::storedAsNumber(type, bytes, 0);
+        vorn::StoredAsNumber(type, bytes, 0);
     }
     return 0;
 }

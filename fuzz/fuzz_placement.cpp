@@ -7,15 +7,15 @@
 /// version resource.
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {
-    const std::string_view text(reinterpret_cast<const char*>(data), size);
-    if (const auto placement = vorn::parsePlacement(text))
+    const std::string_view Text(reinterpret_cast<const char*>(data), size);
+    if (const auto placement = vorn::ParsePlacement(text))
     {
-        if (vorn::parsePlacement(vorn::placementText(*placement)) != placement)
+        if (vorn::ParsePlacement(vorn::PlacementText(*placement)) != placement)
         {
             std::abort();
         }
-        vorn::keptOnScreen(placement->normal, 1024);
+        vorn::KeptOnScreen(placement->normal, 1024);
     }
-    vorn::productVersion(std::as_bytes(std::span(data, size)));
+    vorn::ProductVersion(std::as_bytes(std::span(data, size)));
     return 0;
 }

@@ -6,7 +6,7 @@ namespace vorn
 {
 namespace
 {
-void addLine(IniTable& table, std::string& name, std::size_t prefix, std::string_view line)
+void AddLine(IniTable& table, std::string& name, std::size_t prefix, std::string_view line)
 {
     const std::size_t sign = line.find('=');
     if (sign == std::string_view::npos)
@@ -23,7 +23,7 @@ void addLine(IniTable& table, std::string& name, std::size_t prefix, std::string
 }
 } // namespace
 
-std::vector<std::string_view> blockTexts(std::string_view block)
+std::vector<std::string_view> BlockTexts(std::string_view block)
 {
     std::vector<std::string_view> texts;
     while (!block.empty() && block.front() != '\0')
@@ -35,18 +35,18 @@ std::vector<std::string_view> blockTexts(std::string_view block)
     return texts;
 }
 
-void addSection(IniTable& table, std::string_view section, std::string_view block)
+void AddSection(IniTable& table, std::string_view section, std::string_view block)
 {
     std::string name(section);
     name += '|';
     const std::size_t prefix = name.size();
-    for (const std::string_view line : blockTexts(block))
+    for (const std::string_view line : BlockTexts(block))
     {
-        addLine(table, name, prefix, line);
+        AddLine(table, name, prefix, line);
     }
 }
 
-const std::string* findEntry(const IniTable& table, std::string_view section, std::string_view key)
+const std::string* FindEntry(const IniTable& table, std::string_view section, std::string_view key)
 {
     std::string name;
     name.reserve(section.size() + 1 + key.size());

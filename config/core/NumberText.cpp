@@ -9,23 +9,23 @@ namespace
 {
 constexpr std::int64_t kCeiling = std::int64_t{1} << 33; // beyond every 32-bit value, with or without sign
 
-bool isDigit(char c)
+bool IsDigit(char c)
 {
     return c >= '0' && c <= '9';
 }
 
-bool isBlank(char c)
+bool IsBlank(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
 /// Digits at the start of `text`, held at kCeiling once they pass it.
-std::int64_t digitsValue(std::string_view text)
+std::int64_t DigitsValue(std::string_view text)
 {
     std::int64_t value = 0;
     for (const char c : text)
     {
-        if (!isDigit(c))
+        if (!IsDigit(c))
         {
             break;
         }
@@ -34,7 +34,7 @@ std::int64_t digitsValue(std::string_view text)
     return value;
 }
 
-int saturated(std::int64_t value)
+int Saturated(std::int64_t value)
 {
     constexpr std::int64_t lowest = std::numeric_limits<int>::min();
     constexpr std::int64_t highest = std::numeric_limits<int>::max();
@@ -42,28 +42,28 @@ int saturated(std::int64_t value)
 }
 } // namespace
 
-int leadingNumber(std::string_view text)
+int LeadingNumber(std::string_view text)
 {
-    const auto first = std::find_if_not(text.begin(), text.end(), isBlank);
+    const auto first = std::find_if_not(text.begin(), text.end(), IsBlank);
     text.remove_prefix(static_cast<std::size_t>(first - text.begin()));
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+'))
     {
         text.remove_prefix(1);
     }
-    const std::int64_t value = digitsValue(text);
-    return saturated(negative ? -value : value);
+    const std::int64_t value = DigitsValue(text);
+    return Saturated(negative ? -value : value);
 }
 
-int storedNumber(std::string_view text, int otherwise)
+int StoredNumber(std::string_view text, int otherwise)
 {
-    return !text.empty() && isDigit(text.front()) ? saturated(digitsValue(text)) : otherwise;
+    return !text.empty() && IsDigit(text.front()) ? Saturated(DigitsValue(text)) : otherwise;
 }
 
-std::optional<std::uint32_t> digitsOnly(std::string_view text)
+std::optional<std::uint32_t> DigitsOnly(std::string_view text)
 {
-    const std::int64_t value = digitsValue(text);
-    if (!std::all_of(text.begin(), text.end(), isDigit) || value > std::numeric_limits<std::uint32_t>::max())
+    const std::int64_t value = DigitsValue(text);
+    if (!std::all_of(text.begin(), text.end(), IsDigit) || value > std::numeric_limits<std::uint32_t>::max())
     {
         return std::nullopt;
     }

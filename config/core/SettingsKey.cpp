@@ -7,16 +7,16 @@ namespace
 constexpr std::string_view kFamilyKey = "Software\\Vornwald\\";
 }
 
-std::string applicationKey(std::string_view application)
+std::string ApplicationKey(std::string_view application)
 {
     std::string key(kFamilyKey);
     key += application;
     return key;
 }
 
-std::string sectionKey(std::string_view application, std::string_view section)
+std::string SectionKey(std::string_view application, std::string_view section)
 {
-    std::string key = applicationKey(application);
+    std::string key = ApplicationKey(application);
     if (!section.empty())
     {
         key += '\\';
@@ -25,7 +25,7 @@ std::string sectionKey(std::string_view application, std::string_view section)
     return key;
 }
 
-bool namesOwnKey(std::string_view section)
+bool NamesOwnKey(std::string_view section)
 {
     return section.find_first_not_of('\\') != std::string_view::npos;
 }

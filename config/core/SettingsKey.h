@@ -8,13 +8,13 @@
 namespace vorn
 {
 /// Key of an application's settings as a whole, "Software\Vornwald\Application".
-std::string applicationKey(std::string_view application);
+std::string ApplicationKey(std::string_view application);
 
 /// Key of one section, "Software\Vornwald\Application\Section". Backslashes in the section make nested keys; an
 /// empty section is the application's own key.
-std::string sectionKey(std::string_view application, std::string_view section);
+std::string SectionKey(std::string_view application, std::string_view section);
 
 /// True for a section that names a key of its own below the application's key. An empty section, or one of
 /// backslashes only, would name the application's key itself: deleting it would take every setting along.
-bool namesOwnKey(std::string_view section);
+bool NamesOwnKey(std::string_view section);
 } // namespace vorn

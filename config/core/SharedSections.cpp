@@ -7,17 +7,17 @@
 
 namespace vorn
 {
-void SharedSections::clear()
+void SharedSections::Clear()
 {
     m_names.clear();
 }
 
-void SharedSections::add(std::string section)
+void SharedSections::Add(std::string section)
 {
     m_names.push_back(std::move(section));
 }
 
-bool SharedSections::holds(std::string_view section) const
+bool SharedSections::Holds(std::string_view section) const
 {
     if (section.empty())
     {
@@ -26,17 +26,17 @@ bool SharedSections::holds(std::string_view section) const
     return m_names.empty() || std::any_of(m_names.begin(), m_names.end(),
                                           [=](const auto& name)
                                           {
-                                              return equalsNoCase(name, section);
+                                              return EqualsNoCase(name, section);
                                           });
 }
 
-bool SharedSections::isMachineWide(std::string_view module, std::string_view section) const
+bool SharedSections::IsMachineWide(std::string_view module, std::string_view section) const
 {
-    const bool userProxy = equalsNoCase(module, "global") && containsNoCase(section, "proxy");
-    return !userProxy && holds(section);
+    const bool userProxy = EqualsNoCase(module, "global") && ContainsNoCase(section, "proxy");
+    return !userProxy && Holds(section);
 }
 
-SharedSections readSharedSections(const ListedValue& value)
+SharedSections ReadSharedSections(const ListedValue& value)
 {
     SharedSections sections;
     for (int i = 0; i < kMostSharedSections; ++i)
@@ -48,7 +48,7 @@ SharedSections readSharedSections(const ListedValue& value)
         }
         if (value(name) == "1")
         {
-            sections.add(name);
+            sections.Add(name);
         }
     }
     return sections;

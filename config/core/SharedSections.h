@@ -14,20 +14,20 @@ class SharedSections
 {
 public:
     /// Forgets every listed section.
-    void clear();
+    void Clear();
 
     /// Lists a section as machine-wide.
-    void add(std::string section);
+    void Add(std::string section);
 
     /// False for an empty section; true when nothing is listed; else whether the section is listed, whatever its
     /// case.
-    bool holds(std::string_view section) const;
+    bool Holds(std::string_view section) const;
 
     /// Whether a section of a shared record is kept for the whole machine. Proxy settings of "Global" may hold a
     /// user's password and always stay with the user.
-    bool isMachineWide(std::string_view module, std::string_view section) const;
+    bool IsMachineWide(std::string_view module, std::string_view section) const;
 
-    const std::vector<std::string>& names() const
+    const std::vector<std::string>& Names() const
     {
         return m_names;
     }
@@ -44,5 +44,5 @@ inline constexpr int kMostSharedSections = 100;
 
 /// Sections that a list makes machine-wide: "Name0", "Name1", ... up to the first gap name the candidates; those
 /// whose own key is exactly "1" count.
-SharedSections readSharedSections(const ListedValue& value);
+SharedSections ReadSharedSections(const ListedValue& value);
 } // namespace vorn

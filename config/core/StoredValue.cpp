@@ -10,13 +10,13 @@ namespace vorn
 {
 namespace
 {
-std::string_view textPart(std::span<const std::byte> bytes)
+std::string_view TextPart(std::span<const std::byte> bytes)
 {
     const auto end = std::find(bytes.begin(), bytes.end(), std::byte{0});
     return {reinterpret_cast<const char*>(bytes.data()), static_cast<std::size_t>(end - bytes.begin())};
 }
 
-std::optional<std::int32_t> numberPart(std::uint32_t type, std::span<const std::byte> bytes)
+std::optional<std::int32_t> NumberPart(std::uint32_t type, std::span<const std::byte> bytes)
 {
     if (type != kStoredNumber || bytes.size() != 4)
     {
@@ -31,21 +31,21 @@ std::optional<std::int32_t> numberPart(std::uint32_t type, std::span<const std::
 }
 } // namespace
 
-std::string storedAsText(std::uint32_t type, std::span<const std::byte> bytes)
+std::string StoredAsText(std::uint32_t type, std::span<const std::byte> bytes)
 {
-    if (const auto number = numberPart(type, bytes))
+    if (const auto number = NumberPart(type, bytes))
     {
         return std::to_string(*number);
     }
-    return type == kStoredNumber ? std::string() : std::string(textPart(bytes));
+    return type == kStoredNumber ? std::string() : std::string(TextPart(bytes));
 }
 
-int storedAsNumber(std::uint32_t type, std::span<const std::byte> bytes, int otherwise)
+int StoredAsNumber(std::uint32_t type, std::span<const std::byte> bytes, int otherwise)
 {
-    if (const auto number = numberPart(type, bytes))
+    if (const auto number = NumberPart(type, bytes))
     {
         return *number;
     }
-    return type == kStoredText ? storedNumber(textPart(bytes), otherwise) : otherwise;
+    return type == kStoredText ? StoredNumber(TextPart(bytes), otherwise) : otherwise;
 }
 } // namespace vorn

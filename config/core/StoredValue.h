@@ -17,9 +17,9 @@ inline constexpr std::size_t kStoredLimit = 1024;
 
 /// A stored value taken as text. A number gives its decimal text with sign, so that what was written as a number
 /// reads the same both ways. Every other type gives its bytes up to the first zero or the end of the value.
-std::string storedAsText(std::uint32_t type, std::span<const std::byte> bytes);
+std::string StoredAsText(std::uint32_t type, std::span<const std::byte> bytes);
 
 /// A stored value taken as number: a number is itself, a text its leading digits when it begins with one.
 /// Everything else, a number not 4 bytes long included, gives `otherwise`.
-int storedAsNumber(std::uint32_t type, std::span<const std::byte> bytes, int otherwise);
+int StoredAsNumber(std::uint32_t type, std::span<const std::byte> bytes, int otherwise);
 } // namespace vorn

@@ -14,7 +14,7 @@ constexpr std::uint32_t kSignature = 0xFEEF04BD;
 using Bytes = std::span<const std::byte>;
 
 /// The two bytes at `offset`; beyond the end, zero.
-std::uint32_t wordAt(Bytes bytes, std::size_t offset)
+std::uint32_t WordAt(Bytes bytes, std::size_t offset)
 {
     if (offset + 2 > bytes.size())
     {
@@ -23,16 +23,16 @@ std::uint32_t wordAt(Bytes bytes, std::size_t offset)
     return std::to_integer<std::uint32_t>(bytes[offset]) | std::to_integer<std::uint32_t>(bytes[offset + 1]) << 8;
 }
 
-std::uint32_t doubleWordAt(Bytes bytes, std::size_t offset)
+std::uint32_t DoubleWordAt(Bytes bytes, std::size_t offset)
 {
-    return wordAt(bytes, offset) | wordAt(bytes, offset + 2) << 16;
+    return WordAt(bytes, offset) | WordAt(bytes, offset + 2) << 16;
 }
 
 /// Offset of the value behind the key's terminator, aligned to 4 bytes.
-std::size_t valueOffset(Bytes block)
+std::size_t ValueOffset(Bytes block)
 {
     std::size_t end = kHeaderSize;
-    while (wordAt(block, end) != 0)
+    while (WordAt(block, end) != 0)
     {
         end += 2;
     }
@@ -40,15 +40,15 @@ std::size_t valueOffset(Bytes block)
 }
 } // namespace
 
-std::optional<ProgramVersion> productVersion(Bytes resource)
+std::optional<ProgramVersion> ProductVersion(Bytes resource)
 {
-    const Bytes block = resource.first(std::min<std::size_t>(resource.size(), wordAt(resource, 0)));
-    const std::size_t value = valueOffset(block);
-    if (wordAt(block, 2) < kFixedSize || value + kFixedSize > block.size() || doubleWordAt(block, value) != kSignature)
+    const Bytes block = resource.first(std::min<std::size_t>(resource.size(), WordAt(resource, 0)));
+    const std::size_t value = ValueOffset(block);
+    if (WordAt(block, 2) < kFixedSize || value + kFixedSize > block.size() || DoubleWordAt(block, value) != kSignature)
     {
         return std::nullopt;
     }
-    return ProgramVersion{static_cast<int>(wordAt(block, value + kProductVersionOffset + 2)),
-                          static_cast<int>(wordAt(block, value + kProductVersionOffset))};
+    return ProgramVersion{static_cast<int>(WordAt(block, value + kProductVersionOffset + 2)),
+                          static_cast<int>(WordAt(block, value + kProductVersionOffset))};
 }
 } // namespace vorn

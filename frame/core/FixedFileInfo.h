@@ -13,5 +13,5 @@ namespace vorn
 /// Product version (not file version) in a version resource, as the system hands it out: a header of length, value
 /// length and type, the key as 16-bit text, and on the next multiple of 4 bytes the fixed information. Nothing when
 /// the fixed part is absent, cut off, reaches outside the resource or lacks its signature 0xFEEF04BD.
-std::optional<ProgramVersion> productVersion(std::span<const std::byte> resource);
+std::optional<ProgramVersion> ProductVersion(std::span<const std::byte> resource);
 } // namespace vorn

@@ -19,7 +19,7 @@ constexpr Glyph kGlyphs[] = {
 static_assert(std::size(kGlyphs) == 58);
 } // namespace
 
-std::span<const Glyph> glyphTable()
+std::span<const Glyph> GlyphTable()
 {
     return kGlyphs;
 }

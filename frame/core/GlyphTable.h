@@ -20,5 +20,5 @@ struct Glyph
 };
 
 /// The whole table; every token stands once.
-std::span<const Glyph> glyphTable();
+std::span<const Glyph> GlyphTable();
 } // namespace vorn

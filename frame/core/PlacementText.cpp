@@ -11,12 +11,12 @@ namespace
 constexpr std::int64_t kTopOnScreen = 50;
 constexpr std::int64_t kBeyond = std::int64_t{1} << 33; // more than any 32-bit number
 
-bool isBlank(char c)
+bool IsBlank(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-bool isDigit(char c)
+bool IsDigit(char c)
 {
     return c >= '0' && c <= '9';
 }
@@ -29,9 +29,9 @@ public:
     {
     }
 
-    std::uint32_t nextUnsigned()
+    std::uint32_t NextUnsigned()
     {
-        const Number number = next();
+        const Number number = Next();
         if (number.magnitude > std::numeric_limits<std::uint32_t>::max())
         {
             return std::numeric_limits<std::uint32_t>::max();
@@ -39,16 +39,16 @@ public:
         return static_cast<std::uint32_t>(number.negative ? -number.magnitude : number.magnitude);
     }
 
-    std::int32_t nextSigned()
+    std::int32_t NextSigned()
     {
-        const Number number = next();
+        const Number number = Next();
         const std::int64_t lowest = std::numeric_limits<std::int32_t>::min();
         const std::int64_t highest = std::numeric_limits<std::int32_t>::max();
         return static_cast<std::int32_t>(
             std::clamp(number.negative ? -number.magnitude : number.magnitude, lowest, highest));
     }
 
-    bool failed() const
+    bool Failed() const
     {
         return m_failed;
     }
@@ -60,26 +60,26 @@ private:
         bool negative = false;
     };
 
-    Number next()
+    Number Next()
     {
-        skipComma();
+        SkipComma();
         m_rest.remove_prefix(
-            static_cast<std::size_t>(std::find_if_not(m_rest.begin(), m_rest.end(), isBlank) - m_rest.begin()));
+            static_cast<std::size_t>(std::find_if_not(m_rest.begin(), m_rest.end(), IsBlank) - m_rest.begin()));
         Number number;
         number.negative = m_rest.starts_with('-');
         if (number.negative || m_rest.starts_with('+'))
         {
             m_rest.remove_prefix(1);
         }
-        m_failed = m_failed || m_rest.empty() || !isDigit(m_rest.front());
-        for (; !m_rest.empty() && isDigit(m_rest.front()); m_rest.remove_prefix(1))
+        m_failed = m_failed || m_rest.empty() || !IsDigit(m_rest.front());
+        for (; !m_rest.empty() && IsDigit(m_rest.front()); m_rest.remove_prefix(1))
         {
             number.magnitude = std::min(number.magnitude * 10 + (m_rest.front() - '0'), kBeyond);
         }
         return number;
     }
 
-    void skipComma()
+    void SkipComma()
     {
         if (m_first)
         {
@@ -96,7 +96,7 @@ private:
 };
 } // namespace
 
-std::string placementText(const Placement& p)
+std::string PlacementText(const Placement& p)
 {
     char text[10 * 12]; // ten numbers of at most eleven characters, each with its comma or the final zero
     const int length =
@@ -105,22 +105,22 @@ std::string placementText(const Placement& p)
     return {text, static_cast<std::size_t>(length)};
 }
 
-std::optional<Placement> parsePlacement(std::string_view text)
+std::optional<Placement> ParsePlacement(std::string_view text)
 {
     NumberReader reader(text);
     Placement placement;
-    placement.flags = reader.nextUnsigned();
-    placement.showCommand = reader.nextUnsigned();
+    placement.flags = reader.NextUnsigned();
+    placement.showCommand = reader.NextUnsigned();
     PlacedRect& rect = placement.normal;
     for (std::int32_t* number : {&placement.minX, &placement.minY, &placement.maxX, &placement.maxY, &rect.left,
                                  &rect.top, &rect.right, &rect.bottom})
     {
-        *number = reader.nextSigned();
+        *number = reader.NextSigned();
     }
-    return reader.failed() ? std::nullopt : std::optional(placement);
+    return reader.Failed() ? std::nullopt : std::optional(placement);
 }
 
-PlacedRect keptOnScreen(const PlacedRect& rect, std::int32_t screenHeight)
+PlacedRect KeptOnScreen(const PlacedRect& rect, std::int32_t screenHeight)
 {
     if (rect.top >= 0 && rect.bottom <= screenHeight)
     {

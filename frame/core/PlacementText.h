@@ -33,14 +33,14 @@ struct Placement
 };
 
 /// Text "%u,%u,%d,%d,%d,%d,%d,%d,%d,%d" of a placement.
-std::string placementText(const Placement& placement);
+std::string PlacementText(const Placement& placement);
 
 /// Reads a placement text by the rules of the C library's formatted input: blanks before a number are skipped, a
 /// comma must follow its number at once, numbers beyond 32 bits stop at the limit, an unsigned number may carry a
 /// sign, whatever follows the tenth number is ignored. Nothing unless all ten numbers are there.
-std::optional<Placement> parsePlacement(std::string_view text);
+std::optional<Placement> ParsePlacement(std::string_view text);
 
 /// Moves a rectangle whose top is above the screen or whose bottom is below it down or up to a top of 50; its
 /// height is kept. Left and right stay.
-PlacedRect keptOnScreen(const PlacedRect& rect, std::int32_t screenHeight);
+PlacedRect KeptOnScreen(const PlacedRect& rect, std::int32_t screenHeight);
 } // namespace vorn

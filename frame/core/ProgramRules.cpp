@@ -23,11 +23,11 @@ constexpr Program kPrograms[] = {
     {"Glasspad", "Glasspad3\\Glasspad3.exe", {kPlanner, kViewer}},
 };
 
-const Program* findProgram(std::string_view product)
+const Program* FindProgram(std::string_view product)
 {
     for (const Program& program : kPrograms)
     {
-        if (equalsNoCase(program.product, product))
+        if (EqualsNoCase(program.product, product))
         {
             return &program;
         }
@@ -36,19 +36,19 @@ const Program* findProgram(std::string_view product)
 }
 } // namespace
 
-const SiblingRules* siblingRules(std::string_view product)
+const SiblingRules* FindSiblingRules(std::string_view product)
 {
-    const Program* program = findProgram(product);
+    const Program* program = FindProgram(product);
     return program ? &program->siblings : nullptr;
 }
 
-const char* programFile(std::string_view product)
+const char* ProgramFile(std::string_view product)
 {
-    const Program* program = findProgram(product);
+    const Program* program = FindProgram(product);
     return program ? program->file : nullptr;
 }
 
-std::optional<std::string> programPath(std::string_view folder, std::string_view file)
+std::optional<std::string> ProgramPath(std::string_view folder, std::string_view file)
 {
     std::string path(folder);
     if (!path.ends_with('\\'))

@@ -27,7 +27,7 @@ struct SiblingRule
     const char* pathKey;
     ProgramVersion least;
 
-    bool isMetBy(const ProgramVersion& version) const
+    bool IsMetBy(const ProgramVersion& version) const
     {
         return version.major >= least.major && version.minor >= least.minor;
     }
@@ -41,12 +41,12 @@ struct SiblingRules
 };
 
 /// Rules of a program, by its name without regard to case; null for others.
-const SiblingRules* siblingRules(std::string_view product);
+const SiblingRules* FindSiblingRules(std::string_view product);
 
 /// File of a program relative to its installation folder, by its name without regard to case; null for others.
-const char* programFile(std::string_view product);
+const char* ProgramFile(std::string_view product);
 
 /// Folder and relative file name, with a backslash between them if the folder ends in none; nothing when the path
 /// is longer than the system takes.
-std::optional<std::string> programPath(std::string_view folder, std::string_view file);
+std::optional<std::string> ProgramPath(std::string_view folder, std::string_view file);
 } // namespace vorn

@@ -8,19 +8,19 @@ namespace vorn
 {
 namespace
 {
-bool sameLetter(char a, char b)
+bool SameLetter(char a, char b)
 {
     return ToUpperAscii(a) == ToUpperAscii(b);
 }
 } // namespace
 
-bool equalsNoCase(std::string_view a, std::string_view b)
+bool EqualsNoCase(std::string_view a, std::string_view b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), sameLetter);
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), SameLetter);
 }
 
-bool containsNoCase(std::string_view text, std::string_view part)
+bool ContainsNoCase(std::string_view text, std::string_view part)
 {
-    return std::search(text.begin(), text.end(), part.begin(), part.end(), sameLetter) != text.end() || part.empty();
+    return std::search(text.begin(), text.end(), part.begin(), part.end(), SameLetter) != text.end() || part.empty();
 }
 } // namespace vorn

@@ -8,8 +8,8 @@
 namespace vorn
 {
 /// True when both texts are equal but for the case of letters.
-bool equalsNoCase(std::string_view a, std::string_view b);
+bool EqualsNoCase(std::string_view a, std::string_view b);
 
 /// True when `part` occurs in `text`, letters compared without regard to case. An empty part always occurs.
-bool containsNoCase(std::string_view text, std::string_view part);
+bool ContainsNoCase(std::string_view text, std::string_view part);
 } // namespace vorn

@@ -7,10 +7,10 @@
 
 namespace
 {
-std::map<std::string, std::string> glyphs()
+std::map<std::string, std::string> Glyphs()
 {
     std::map<std::string, std::string> result;
-    for (const auto& glyph : vorn::glyphTable())
+    for (const auto& glyph : vorn::GlyphTable())
     {
         result[glyph.token] = glyph.text;
     }
@@ -20,13 +20,13 @@ std::map<std::string, std::string> glyphs()
 
 TEST(GlyphTable, NamesEachTokenOnce)
 {
-    EXPECT_EQ(glyphs().size(), vorn::glyphTable().size());
-    EXPECT_EQ(vorn::glyphTable().size(), 58u);
+    EXPECT_EQ(Glyphs().size(), vorn::GlyphTable().size());
+    EXPECT_EQ(vorn::GlyphTable().size(), 58u);
 }
 
 TEST(GlyphTable, DrawsEachTokenWithOneCharacter)
 {
-    for (const auto& [token, text] : glyphs())
+    for (const auto& [token, text] : Glyphs())
     {
         EXPECT_EQ(text.size(), 1u) << token;
         EXPECT_LE(token.size(), static_cast<std::size_t>(vorn::kLongestGlyphToken)) << token;
@@ -38,7 +38,7 @@ TEST(GlyphTable, RunsThroughTheFontsUpperCodes)
     const char* const inOrder[] = {"NM",  "SM", "KM",   "FT", "M",  "KTS", "MPH",  "KPH", "MPS", "GAL", "L",
                                    "LBS", "KG", "IN",   "YD", "CM", "MM",  "CRS",  "BRG", "TRK", "DTK", "MSL",
                                    "AGL", "FL", "/MIN", "<-", "->", "UP",  "DOWN", "ETE", "ETA", "AM",  "PM"};
-    auto table = glyphs();
+    auto table = Glyphs();
     unsigned code = 0xC0;
     for (const char* token : inOrder)
     {
@@ -52,7 +52,7 @@ TEST(GlyphTable, RunsThroughTheFontsUpperCodes)
 
 TEST(GlyphTable, HasLettersForSymbolsOfTheLowerCodes)
 {
-    auto table = glyphs();
+    auto table = Glyphs();
     EXPECT_EQ(table["LEFT"], "l");
     EXPECT_EQ(table["RIGHT"], "r");
     EXPECT_EQ(table["VORN"], "B");
@@ -62,7 +62,7 @@ TEST(GlyphTable, HasLettersForSymbolsOfTheLowerCodes)
 
 TEST(GlyphTable, MapsDigitsAndSignsToThemselves)
 {
-    auto table = glyphs();
+    auto table = Glyphs();
     for (const char sign : std::string(":()-.0123456789<>="))
     {
         EXPECT_EQ(table[std::string(1, sign)], std::string(1, sign));

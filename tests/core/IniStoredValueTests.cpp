@@ -6,8 +6,8 @@
 #include <cstring>
 #include <vector>
 
-using vorn::storedAsNumber;
-using vorn::storedAsText;
+using vorn::StoredAsNumber;
+using vorn::StoredAsText;
 
 namespace
 {
@@ -33,66 +33,66 @@ using namespace std::string_view_literals;
 
 TEST(IniStoredValue, TextEndsAtItsFirstZero)
 {
-    EXPECT_EQ(storedAsText(vorn::kStoredText, bytes("Denver\0"sv)), "Denver");
-    EXPECT_EQ(storedAsText(vorn::kStoredText, bytes("Den\0ver\0"sv)), "Den");
+    EXPECT_EQ(StoredAsText(vorn::kStoredText, bytes("Denver\0"sv)), "Denver");
+    EXPECT_EQ(StoredAsText(vorn::kStoredText, bytes("Den\0ver\0"sv)), "Den");
 }
 
 TEST(IniStoredValue, UnterminatedTextEndsWithTheValue)
 {
-    EXPECT_EQ(storedAsText(vorn::kStoredText, bytes("Denver"sv)), "Denver");
-    EXPECT_EQ(storedAsText(vorn::kStoredText, bytes(std::string(1024, 'x'))), std::string(1024, 'x'));
+    EXPECT_EQ(StoredAsText(vorn::kStoredText, bytes("Denver"sv)), "Denver");
+    EXPECT_EQ(StoredAsText(vorn::kStoredText, bytes(std::string(1024, 'x'))), std::string(1024, 'x'));
 }
 
 TEST(IniStoredValue, EmptyTextIsEmpty)
 {
-    EXPECT_EQ(storedAsText(vorn::kStoredText, bytes("\0"sv)), "");
-    EXPECT_EQ(storedAsText(vorn::kStoredText, {}), "");
+    EXPECT_EQ(StoredAsText(vorn::kStoredText, bytes("\0"sv)), "");
+    EXPECT_EQ(StoredAsText(vorn::kStoredText, {}), "");
 }
 
 TEST(IniStoredValue, NumberReadsAsItsDecimalText)
 {
-    EXPECT_EQ(storedAsText(vorn::kStoredNumber, bytes("\x50\x46\0\0"sv)), "18000");
-    EXPECT_EQ(storedAsText(vorn::kStoredNumber, bytes("\0\0\0\0"sv)), "0");
-    EXPECT_EQ(storedAsText(vorn::kStoredNumber, bytes("\xFF\xFF\xFF\xFF"sv)), "-1");
-    EXPECT_EQ(storedAsText(vorn::kStoredNumber, bytes("\0\0\0\x80"sv)), "-2147483648");
+    EXPECT_EQ(StoredAsText(vorn::kStoredNumber, bytes("\x50\x46\0\0"sv)), "18000");
+    EXPECT_EQ(StoredAsText(vorn::kStoredNumber, bytes("\0\0\0\0"sv)), "0");
+    EXPECT_EQ(StoredAsText(vorn::kStoredNumber, bytes("\xFF\xFF\xFF\xFF"sv)), "-1");
+    EXPECT_EQ(StoredAsText(vorn::kStoredNumber, bytes("\0\0\0\x80"sv)), "-2147483648");
 }
 
 TEST(IniStoredValue, NumberOfTheWrongSizeIsEmptyAsTextNotItsRawBytes)
 {
-    EXPECT_EQ(storedAsText(vorn::kStoredNumber, bytes("AB"sv)), "");
-    EXPECT_EQ(storedAsText(vorn::kStoredNumber, bytes("ABCDEFGH"sv)), "");
+    EXPECT_EQ(StoredAsText(vorn::kStoredNumber, bytes("AB"sv)), "");
+    EXPECT_EQ(StoredAsText(vorn::kStoredNumber, bytes("ABCDEFGH"sv)), "");
 }
 
 TEST(IniStoredValue, OtherTypesReadAsTheirBytesUpToTheFirstZero)
 {
-    EXPECT_EQ(storedAsText(kBinary, bytes("ab\0cd"sv)), "ab");
-    EXPECT_EQ(storedAsText(kTextList, bytes("one\0two\0\0"sv)), "one");
-    EXPECT_EQ(storedAsText(kExpandText, bytes("%TEMP%\0"sv)), "%TEMP%");
-    EXPECT_EQ(storedAsText(kNone, bytes("\x80z"sv)), "\x80z");
+    EXPECT_EQ(StoredAsText(kBinary, bytes("ab\0cd"sv)), "ab");
+    EXPECT_EQ(StoredAsText(kTextList, bytes("one\0two\0\0"sv)), "one");
+    EXPECT_EQ(StoredAsText(kExpandText, bytes("%TEMP%\0"sv)), "%TEMP%");
+    EXPECT_EQ(StoredAsText(kNone, bytes("\x80z"sv)), "\x80z");
 }
 
 TEST(IniStoredValue, NumberIsItselfWithSign)
 {
-    EXPECT_EQ(storedAsNumber(vorn::kStoredNumber, bytes("\x50\x46\0\0"sv), 3), 18000);
-    EXPECT_EQ(storedAsNumber(vorn::kStoredNumber, bytes("\xFF\xFF\xFF\xFF"sv), 3), -1);
-    EXPECT_EQ(storedAsNumber(vorn::kStoredNumber, bytes("\xFF\xFF\xFF\x7F"sv), 3), INT_MAX);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredNumber, bytes("\x50\x46\0\0"sv), 3), 18000);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredNumber, bytes("\xFF\xFF\xFF\xFF"sv), 3), -1);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredNumber, bytes("\xFF\xFF\xFF\x7F"sv), 3), INT_MAX);
 }
 
 TEST(IniStoredValue, TextIsANumberWhenItBeginsWithADigit)
 {
-    EXPECT_EQ(storedAsNumber(vorn::kStoredText, bytes("12x\0"sv), 3), 12);
-    EXPECT_EQ(storedAsNumber(vorn::kStoredText, bytes("12"sv), 3), 12);
-    EXPECT_EQ(storedAsNumber(vorn::kStoredText, bytes("1\0002"sv), 3), 1);
-    EXPECT_EQ(storedAsNumber(vorn::kStoredText, bytes("x12\0"sv), 3), 3);
-    EXPECT_EQ(storedAsNumber(vorn::kStoredText, bytes("-1\0"sv), 3), 3);
-    EXPECT_EQ(storedAsNumber(vorn::kStoredText, {}, 3), 3);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredText, bytes("12x\0"sv), 3), 12);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredText, bytes("12"sv), 3), 12);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredText, bytes("1\0002"sv), 3), 1);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredText, bytes("x12\0"sv), 3), 3);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredText, bytes("-1\0"sv), 3), 3);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredText, {}, 3), 3);
 }
 
 TEST(IniStoredValue, UnusableTypesAreNoNumbers)
 {
-    EXPECT_EQ(storedAsNumber(kBinary, bytes("12\0"sv), 3), 3);
-    EXPECT_EQ(storedAsNumber(kTextList, bytes("12\0\0"sv), 3), 3);
-    EXPECT_EQ(storedAsNumber(kExpandText, bytes("12\0"sv), 3), 3);
-    EXPECT_EQ(storedAsNumber(kBigEndian, bytes("\0\0\0\x01"sv), 3), 3);
-    EXPECT_EQ(storedAsNumber(vorn::kStoredNumber, bytes("\x01\x02"sv), 3), 3);
+    EXPECT_EQ(StoredAsNumber(kBinary, bytes("12\0"sv), 3), 3);
+    EXPECT_EQ(StoredAsNumber(kTextList, bytes("12\0\0"sv), 3), 3);
+    EXPECT_EQ(StoredAsNumber(kExpandText, bytes("12\0"sv), 3), 3);
+    EXPECT_EQ(StoredAsNumber(kBigEndian, bytes("\0\0\0\x01"sv), 3), 3);
+    EXPECT_EQ(StoredAsNumber(vorn::kStoredNumber, bytes("\x01\x02"sv), 3), 3);
 }

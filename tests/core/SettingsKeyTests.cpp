@@ -11,9 +11,9 @@ namespace
 {
 using Values = std::map<std::string, std::string>;
 
-SharedSections fromValues(const Values& values)
+SharedSections FromValues(const Values& values)
 {
-    return readSharedSections(
+    return ReadSharedSections(
         [&](const std::string& key)
         {
             const auto value = values.find(key);
@@ -21,75 +21,75 @@ SharedSections fromValues(const Values& values)
         });
 }
 
-SharedSections listed(std::string section)
+SharedSections Listed(std::string section)
 {
     SharedSections sections;
-    sections.add(std::move(section));
+    sections.Add(std::move(section));
     return sections;
 }
 } // namespace
 
 TEST(SettingsKey, IsMadeOfApplicationAndSection)
 {
-    EXPECT_EQ(applicationKey("VornView"), "Software\\Vornwald\\VornView");
-    EXPECT_EQ(sectionKey("VornView", "Units"), "Software\\Vornwald\\VornView\\Units");
-    EXPECT_EQ(sectionKey("VornView", "Views\\World"), "Software\\Vornwald\\VornView\\Views\\World");
+    EXPECT_EQ(ApplicationKey("VornView"), "Software\\Vornwald\\VornView");
+    EXPECT_EQ(SectionKey("VornView", "Units"), "Software\\Vornwald\\VornView\\Units");
+    EXPECT_EQ(SectionKey("VornView", "Views\\World"), "Software\\Vornwald\\VornView\\Views\\World");
 }
 
 TEST(SettingsKey, EmptySectionIsTheApplicationsKey)
 {
-    EXPECT_EQ(sectionKey("VornView", ""), "Software\\Vornwald\\VornView");
+    EXPECT_EQ(SectionKey("VornView", ""), "Software\\Vornwald\\VornView");
 }
 
 TEST(SettingsKey, OnlyARealSectionNamesAKeyOfItsOwn)
 {
-    EXPECT_TRUE(namesOwnKey("Units"));
-    EXPECT_TRUE(namesOwnKey("\\Units"));
-    EXPECT_FALSE(namesOwnKey(""));
-    EXPECT_FALSE(namesOwnKey("\\"));
-    EXPECT_FALSE(namesOwnKey("\\\\\\"));
+    EXPECT_TRUE(NamesOwnKey("Units"));
+    EXPECT_TRUE(NamesOwnKey("\\Units"));
+    EXPECT_FALSE(NamesOwnKey(""));
+    EXPECT_FALSE(NamesOwnKey("\\"));
+    EXPECT_FALSE(NamesOwnKey("\\\\\\"));
 }
 
 TEST(SettingsKeyRoot, IsTheMachineForEverySectionWhenNoneIsListed)
 {
     const SharedSections none;
-    EXPECT_TRUE(none.isMachineWide("Global", "Network"));
-    EXPECT_TRUE(none.isMachineWide("Installers", "Paths"));
+    EXPECT_TRUE(none.IsMachineWide("Global", "Network"));
+    EXPECT_TRUE(none.IsMachineWide("Installers", "Paths"));
 }
 
 TEST(SettingsKeyRoot, IsTheUserForSectionsThatAreNotListed)
 {
-    const SharedSections sections = listed("Network");
-    EXPECT_TRUE(sections.isMachineWide("Global", "Network"));
-    EXPECT_TRUE(sections.isMachineWide("Global", "NETWORK"));
-    EXPECT_FALSE(sections.isMachineWide("Global", "Paths"));
-    EXPECT_FALSE(sections.isMachineWide("Global", "Networks"));
+    const SharedSections sections = Listed("Network");
+    EXPECT_TRUE(sections.IsMachineWide("Global", "Network"));
+    EXPECT_TRUE(sections.IsMachineWide("Global", "NETWORK"));
+    EXPECT_FALSE(sections.IsMachineWide("Global", "Paths"));
+    EXPECT_FALSE(sections.IsMachineWide("Global", "Networks"));
 }
 
 TEST(SettingsKeyRoot, IsTheUserForAnEmptySection)
 {
-    EXPECT_FALSE(SharedSections().holds(""));
-    EXPECT_FALSE(SharedSections().isMachineWide("Global", ""));
-    EXPECT_FALSE(listed("Network").isMachineWide("Global", ""));
+    EXPECT_FALSE(SharedSections().Holds(""));
+    EXPECT_FALSE(SharedSections().IsMachineWide("Global", ""));
+    EXPECT_FALSE(Listed("Network").IsMachineWide("Global", ""));
 }
 
 TEST(SettingsKeyRoot, IsTheUserForProxySectionsOfGlobalEvenWhenListed)
 {
-    EXPECT_FALSE(SharedSections().isMachineWide("Global", "proxy"));
-    EXPECT_FALSE(SharedSections().isMachineWide("GLOBAL", "My Proxy Settings"));
-    EXPECT_FALSE(listed("Proxy").isMachineWide("global", "Proxy"));
-    EXPECT_TRUE(SharedSections().isMachineWide("Global", "prox"));
+    EXPECT_FALSE(SharedSections().IsMachineWide("Global", "proxy"));
+    EXPECT_FALSE(SharedSections().IsMachineWide("GLOBAL", "My Proxy Settings"));
+    EXPECT_FALSE(Listed("Proxy").IsMachineWide("global", "Proxy"));
+    EXPECT_TRUE(SharedSections().IsMachineWide("Global", "prox"));
 }
 
 TEST(SettingsKeyRoot, IsTheMachineForProxySectionsOfOtherNames)
 {
-    EXPECT_TRUE(SharedSections().isMachineWide("Installers", "Proxy"));
-    EXPECT_TRUE(listed("Proxy").isMachineWide("Installers", "proxy"));
+    EXPECT_TRUE(SharedSections().IsMachineWide("Installers", "Proxy"));
+    EXPECT_TRUE(Listed("Proxy").IsMachineWide("Installers", "proxy"));
 }
 
 TEST(SettingsKeyList, TakesNamesWhoseOwnKeyIsExactlyOne)
 {
-    const auto sections = fromValues({{"Name0", "Network"},
+    const auto sections = FromValues({{"Name0", "Network"},
                                       {"Name1", "Paths"},
                                       {"Name2", "Charts"},
                                       {"Name3", "Fonts"},
@@ -97,13 +97,13 @@ TEST(SettingsKeyList, TakesNamesWhoseOwnKeyIsExactlyOne)
                                       {"Paths", "0"},
                                       {"Charts", "1 "},
                                       {"Fonts", "11"}});
-    EXPECT_EQ(sections.names(), std::vector<std::string>{"Network"});
+    EXPECT_EQ(sections.Names(), std::vector<std::string>{"Network"});
 }
 
 TEST(SettingsKeyList, EndsAtTheFirstGap)
 {
-    const auto sections = fromValues({{"Name0", "A"}, {"Name2", "C"}, {"A", "1"}, {"C", "1"}});
-    EXPECT_EQ(sections.names(), std::vector<std::string>{"A"});
+    const auto sections = FromValues({{"Name0", "A"}, {"Name2", "C"}, {"A", "1"}, {"C", "1"}});
+    EXPECT_EQ(sections.Names(), std::vector<std::string>{"A"});
 }
 
 TEST(SettingsKeyList, TakesAHundredNamesAtMost)
@@ -113,19 +113,19 @@ TEST(SettingsKeyList, TakesAHundredNamesAtMost)
     {
         values.emplace("Name" + std::to_string(i), "S");
     }
-    EXPECT_EQ(fromValues(values).names().size(), 100u);
+    EXPECT_EQ(FromValues(values).Names().size(), 100u);
 }
 
 TEST(SettingsKeyList, OfNothingIsEmpty)
 {
-    EXPECT_TRUE(fromValues({}).names().empty());
-    EXPECT_TRUE(fromValues({}).holds("Anything"));
+    EXPECT_TRUE(FromValues({}).Names().empty());
+    EXPECT_TRUE(FromValues({}).Holds("Anything"));
 }
 
 TEST(SettingsKeyList, ForgetsItsSectionsWhenCleared)
 {
-    SharedSections sections = listed("Network");
-    EXPECT_FALSE(sections.holds("Paths"));
-    sections.clear();
-    EXPECT_TRUE(sections.holds("Paths"));
+    SharedSections sections = Listed("Network");
+    EXPECT_FALSE(sections.Holds("Paths"));
+    sections.Clear();
+    EXPECT_TRUE(sections.Holds("Paths"));
 }

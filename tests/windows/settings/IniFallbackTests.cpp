@@ -17,7 +17,7 @@ public:
         AppRegData::InitINITable(name);
     }
 
-    bool isLoaded() const
+    bool IsLoaded() const
     {
         return m_iniLoaded;
     }
@@ -30,15 +30,15 @@ class IniFallback : public ScratchSettings
 protected:
     IniFallback()
     {
-        record.SetModName(app().c_str());
+        record.SetModName(App().c_str());
     }
 
-    std::string text(const char* section, const char* key)
+    std::string Text(const char* section, const char* key)
     {
         return record.ReadVornString(section, key, "default").GetString();
     }
 
-    int number(const char* section, const char* key)
+    int Number(const char* section, const char* key)
     {
         return record.ReadVornInt(section, key, -77);
     }
@@ -46,7 +46,7 @@ protected:
     CountingRecord record;
 };
 
-std::string manySections(int count)
+std::string ManySections(int count)
 {
     std::string text;
     for (int i = 0; i < count; ++i)
@@ -59,143 +59,143 @@ std::string manySections(int count)
 
 TEST_F(IniFallback, AnswersWhereTheRegistryHasNoValue)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 2);
-    EXPECT_EQ(text("Units", "Speed"), "2");
-    EXPECT_EQ(number("Units", "Distance"), -77);
-    EXPECT_EQ(number("General", "Speed"), -77);
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 2);
+    EXPECT_EQ(Text("Units", "Speed"), "2");
+    EXPECT_EQ(Number("Units", "Distance"), -77);
+    EXPECT_EQ(Number("General", "Speed"), -77);
 }
 
 TEST_F(IniFallback, YieldsToTheRegistry)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\nName=ini\r\n");
-    put("Units", "Speed", rawNumber(5));
-    put("Units", "Name", rawText("registry"));
-    EXPECT_EQ(number("Units", "Speed"), 5);
-    EXPECT_EQ(text("Units", "Name"), "registry");
+    WriteSharedIni("[Units]\r\nSpeed=2\r\nName=ini\r\n");
+    Put("Units", "Speed", RawNumber(5));
+    Put("Units", "Name", RawText("registry"));
+    EXPECT_EQ(Number("Units", "Speed"), 5);
+    EXPECT_EQ(Text("Units", "Name"), "registry");
 }
 
 TEST_F(IniFallback, YieldsToAnEmptyTextInTheRegistry)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    put("Units", "Speed", rawText(""));
-    EXPECT_EQ(text("Units", "Speed"), "");
-    EXPECT_EQ(number("Units", "Speed"), -77);
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    Put("Units", "Speed", RawText(""));
+    EXPECT_EQ(Text("Units", "Speed"), "");
+    EXPECT_EQ(Number("Units", "Speed"), -77);
 }
 
 TEST_F(IniFallback, YieldsToAValueThatIsNoNumber)
 {
-    writeSharedIni("[Units]\r\nSpeed=3\r\nMass=3\r\n");
-    put("Units", "Speed", rawText("x12"));
-    put("Units", "Mass", {REG_BINARY, "12"});
-    EXPECT_EQ(number("Units", "Speed"), -77);
-    EXPECT_EQ(number("Units", "Mass"), -77);
+    WriteSharedIni("[Units]\r\nSpeed=3\r\nMass=3\r\n");
+    Put("Units", "Speed", RawText("x12"));
+    Put("Units", "Mass", {REG_BINARY, "12"});
+    EXPECT_EQ(Number("Units", "Speed"), -77);
+    EXPECT_EQ(Number("Units", "Mass"), -77);
 }
 
 TEST_F(IniFallback, AnswersForATextTooLongToRead)
 {
-    writeSharedIni("[General]\r\nName=short\r\n");
-    put("General", "Name", rawText(std::string(1024, 'a')));
-    EXPECT_EQ(text("General", "Name"), "short");
+    WriteSharedIni("[General]\r\nName=short\r\n");
+    Put("General", "Name", RawText(std::string(1024, 'a')));
+    EXPECT_EQ(Text("General", "Name"), "short");
 }
 
 TEST_F(IniFallback, GivesPlainDecimalValues)
 {
-    writeSharedIni("[N]\r\na=-5\r\nb=abc\r\nc=\r\nd=12x\r\ne=99999999999\r\nf=+4\r\ng=-99999999999\r\n");
-    EXPECT_EQ(number("N", "a"), -5);
-    EXPECT_EQ(number("N", "b"), 0);
-    EXPECT_EQ(number("N", "c"), 0);
-    EXPECT_EQ(number("N", "d"), 12);
-    EXPECT_EQ(number("N", "e"), INT_MAX);
-    EXPECT_EQ(number("N", "f"), 4);
-    EXPECT_EQ(number("N", "g"), INT_MIN);
+    WriteSharedIni("[N]\r\na=-5\r\nb=abc\r\nc=\r\nd=12x\r\ne=99999999999\r\nf=+4\r\ng=-99999999999\r\n");
+    EXPECT_EQ(Number("N", "a"), -5);
+    EXPECT_EQ(Number("N", "b"), 0);
+    EXPECT_EQ(Number("N", "c"), 0);
+    EXPECT_EQ(Number("N", "d"), 12);
+    EXPECT_EQ(Number("N", "e"), INT_MAX);
+    EXPECT_EQ(Number("N", "f"), 4);
+    EXPECT_EQ(Number("N", "g"), INT_MIN);
 }
 
 TEST_F(IniFallback, KeepsQuotesAndLaterEqualsSigns)
 {
-    writeSharedIni("[Links]\r\nhome=\"http://x/?a=1&b=2\"\r\n");
-    EXPECT_EQ(text("Links", "home"), "\"http://x/?a=1&b=2\"");
+    WriteSharedIni("[Links]\r\nhome=\"http://x/?a=1&b=2\"\r\n");
+    EXPECT_EQ(Text("Links", "home"), "\"http://x/?a=1&b=2\"");
 }
 
 TEST_F(IniFallback, SkipsLinesWithoutEqualsSignAndKeepsTheFirstOfTwo)
 {
-    writeSharedIni("[Units]\r\nremark\r\nSpeed=2\r\nSpeed=3\r\n[Units]\r\nSpeed=4\r\n");
-    EXPECT_EQ(text("Units", "Speed"), "2");
-    EXPECT_EQ(text("Units", "remark"), "default");
+    WriteSharedIni("[Units]\r\nremark\r\nSpeed=2\r\nSpeed=3\r\n[Units]\r\nSpeed=4\r\n");
+    EXPECT_EQ(Text("Units", "Speed"), "2");
+    EXPECT_EQ(Text("Units", "remark"), "default");
 }
 
 TEST_F(IniFallback, MatchesExactly)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    EXPECT_EQ(text("units", "Speed"), "default");
-    EXPECT_EQ(text("Units", "speed"), "default");
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    EXPECT_EQ(Text("units", "Speed"), "default");
+    EXPECT_EQ(Text("Units", "speed"), "default");
 }
 
 TEST_F(IniFallback, PrefersTheUsersCopyAndThenIgnoresTheOtherFile)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\nMass=11\r\n");
-    writeUserIni("[Units]\r\nSpeed=7\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 7);
-    EXPECT_EQ(number("Units", "Mass"), -77);
+    WriteSharedIni("[Units]\r\nSpeed=2\r\nMass=11\r\n");
+    WriteUserIni("[Units]\r\nSpeed=7\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 7);
+    EXPECT_EQ(Number("Units", "Mass"), -77);
 }
 
 TEST_F(IniFallback, FindsTheUsersCopyAlone)
 {
-    writeUserIni("[Units]\r\nSpeed=7\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 7);
+    WriteUserIni("[Units]\r\nSpeed=7\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 7);
 }
 
 TEST_F(IniFallback, LoadsOnTheFirstMissWithTheModuleName)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    put("Units", "Mass", rawNumber(12));
-    EXPECT_EQ(number("Units", "Mass"), 12);
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    Put("Units", "Mass", RawNumber(12));
+    EXPECT_EQ(Number("Units", "Mass"), 12);
     EXPECT_TRUE(record.names.empty());
-    EXPECT_EQ(number("Units", "Speed"), 2);
-    EXPECT_EQ(record.names, std::vector<std::string>{app()});
+    EXPECT_EQ(Number("Units", "Speed"), 2);
+    EXPECT_EQ(record.names, std::vector<std::string>{App()});
 }
 
 TEST_F(IniFallback, IsNotLoadedAgain)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 2);
-    EXPECT_TRUE(record.isLoaded());
-    writeSharedIni("[Units]\r\nSpeed=3\r\nMass=11\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 2);
-    EXPECT_EQ(number("Units", "Mass"), -77);
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 2);
+    EXPECT_TRUE(record.IsLoaded());
+    WriteSharedIni("[Units]\r\nSpeed=3\r\nMass=11\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 2);
+    EXPECT_EQ(Number("Units", "Mass"), -77);
     EXPECT_EQ(record.names.size(), 1u);
 }
 
 TEST_F(IniFallback, IsLookedForAtEveryMissUntilItIsThere)
 {
-    EXPECT_EQ(number("Units", "Speed"), -77);
-    EXPECT_EQ(text("Units", "Speed"), "default");
+    EXPECT_EQ(Number("Units", "Speed"), -77);
+    EXPECT_EQ(Text("Units", "Speed"), "default");
     EXPECT_EQ(record.names.size(), 2u);
-    EXPECT_FALSE(record.isLoaded());
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 2);
+    EXPECT_FALSE(record.IsLoaded());
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 2);
 }
 
 TEST_F(IniFallback, FindsTheUsersCopyThatComesLater)
 {
-    writeUserIni("[Units]\r\nSpeed=7\r\n");
-    DeleteFileA(userIni().c_str());
-    EXPECT_EQ(number("Units", "Speed"), -77);
-    writeUserIni("[Units]\r\nSpeed=7\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 7);
+    WriteUserIni("[Units]\r\nSpeed=7\r\n");
+    DeleteFileA(UserIni().c_str());
+    EXPECT_EQ(Number("Units", "Speed"), -77);
+    WriteUserIni("[Units]\r\nSpeed=7\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 7);
 }
 
 TEST_F(IniFallback, FindsAFileMadeInTheInstantAfterAMiss)
 {
     for (int i = 0; i < 40; ++i)
     {
-        const std::string folder = i % 2 == 0 ? sharedIni() : userIni();
+        const std::string folder = i % 2 == 0 ? SharedIni() : UserIni();
         CountingRecord fresh;
-        fresh.SetModName(app().c_str());
-        writeUserIni("");
-        DeleteFileA(userIni().c_str()); // both folders changed just now: their times may not change again
+        fresh.SetModName(App().c_str());
+        WriteUserIni("");
+        DeleteFileA(UserIni().c_str()); // both folders changed just now: their times may not change again
         EXPECT_EQ(fresh.ReadVornInt("Units", "Speed", -77), -77);
-        writeFile(folder, "[Units]\r\nSpeed=2\r\n");
+        WriteFile(folder, "[Units]\r\nSpeed=2\r\n");
         EXPECT_EQ(fresh.ReadVornInt("Units", "Speed", -77), 2) << i;
         DeleteFileA(folder.c_str());
     }
@@ -203,21 +203,21 @@ TEST_F(IniFallback, FindsAFileMadeInTheInstantAfterAMiss)
 
 TEST_F(IniFallback, FileWithoutSectionsIsLookedAtAgain)
 {
-    writeSharedIni("Speed=2\r\n");
-    EXPECT_EQ(number("Units", "Speed"), -77);
-    EXPECT_FALSE(record.isLoaded());
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 2);
+    WriteSharedIni("Speed=2\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), -77);
+    EXPECT_FALSE(record.IsLoaded());
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 2);
 }
 
 TEST_F(IniFallback, ReadsNothingWhenThereAreTooManySections)
 {
-    writeSharedIni(manySections(3000));
-    EXPECT_EQ(number("A section with a long name 7", "key"), -77);
-    EXPECT_FALSE(record.isLoaded());
-    writeSharedIni(manySections(1000));
-    EXPECT_EQ(number("A section with a long name 7", "key"), 7);
-    EXPECT_EQ(number("A section with a long name 999", "key"), 999);
+    WriteSharedIni(ManySections(3000));
+    EXPECT_EQ(Number("A section with a long name 7", "key"), -77);
+    EXPECT_FALSE(record.IsLoaded());
+    WriteSharedIni(ManySections(1000));
+    EXPECT_EQ(Number("A section with a long name 7", "key"), 7);
+    EXPECT_EQ(Number("A section with a long name 999", "key"), 999);
 }
 
 TEST_F(IniFallback, SectionLargerThanTheSystemsBufferGivesWholeEntriesOnly)
@@ -227,17 +227,17 @@ TEST_F(IniFallback, SectionLargerThanTheSystemsBufferGivesWholeEntriesOnly)
     {
         lines += "key" + std::to_string(i) + "=123456789012345\r\n";
     }
-    writeSharedIni(lines + "[Behind]\r\na=1\r\n");
-    EXPECT_EQ(text("Big", "key0"), "123456789012345");
+    WriteSharedIni(lines + "[Behind]\r\na=1\r\n");
+    EXPECT_EQ(Text("Big", "key0"), "123456789012345");
     int found = 0;
     for (int i = 0; i < 4000; ++i)
     {
-        const std::string value = text("Big", ("key" + std::to_string(i)).c_str());
+        const std::string value = Text("Big", ("key" + std::to_string(i)).c_str());
         EXPECT_TRUE(value == "123456789012345" || value == "default") << i << ' ' << value;
         found += value != "default";
     }
     EXPECT_GT(found, 2500);
-    EXPECT_EQ(number("Behind", "a"), 1);
+    EXPECT_EQ(Number("Behind", "a"), 1);
 }
 
 TEST_F(IniFallback, FilesOfAnyBytesGiveEntriesOrNone)
@@ -247,33 +247,33 @@ TEST_F(IniFallback, FilesOfAnyBytesGiveEntriesOrNone)
     {
         bytes += static_cast<char>((i * 7919 + i / 251) & 0xFF);
     }
-    writeSharedIni(bytes);
-    EXPECT_EQ(text("Units", "Speed"), "default");
-    writeSharedIni(bytes + "\r\n[Units]\r\nSpeed=2\r\n" + bytes);
-    EXPECT_NO_FATAL_FAILURE(text("Units", "Speed"));
+    WriteSharedIni(bytes);
+    EXPECT_EQ(Text("Units", "Speed"), "default");
+    WriteSharedIni(bytes + "\r\n[Units]\r\nSpeed=2\r\n" + bytes);
+    EXPECT_NO_FATAL_FAILURE(Text("Units", "Speed"));
 }
 
 TEST_F(IniFallback, FolderInPlaceOfTheFileIsNoFile)
 {
-    CreateDirectoryA(sharedIni().c_str(), nullptr);
-    EXPECT_EQ(number("Units", "Speed"), -77);
-    RemoveDirectoryA(sharedIni().c_str());
+    CreateDirectoryA(SharedIni().c_str(), nullptr);
+    EXPECT_EQ(Number("Units", "Speed"), -77);
+    RemoveDirectoryA(SharedIni().c_str());
 }
 
 TEST_F(IniFallback, DeletingAnEntryLeavesTheTable)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    put("Units", "Speed", rawNumber(5));
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    Put("Units", "Speed", RawNumber(5));
     EXPECT_TRUE(record.WriteVornString("Units", "Speed", nullptr));
-    EXPECT_EQ(number("Units", "Speed"), 2);
+    EXPECT_EQ(Number("Units", "Speed"), 2);
 }
 
 TEST_F(IniFallback, IsNotWrittenBack)
 {
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    EXPECT_EQ(number("Units", "Speed"), 2);
-    EXPECT_EQ(text("Units", "Speed"), "2");
-    EXPECT_FALSE(hasKey(""));
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    EXPECT_EQ(Number("Units", "Speed"), 2);
+    EXPECT_EQ(Text("Units", "Speed"), "2");
+    EXPECT_FALSE(HasKey(""));
 }
 
 TEST_F(IniFallback, LoadingByHandTakesAnyName)
@@ -281,8 +281,8 @@ TEST_F(IniFallback, LoadingByHandTakesAnyName)
     record.InitINITable(nullptr);
     record.InitINITable("");
     record.InitINITable("No such application");
-    EXPECT_FALSE(record.isLoaded());
-    writeSharedIni("[Units]\r\nSpeed=2\r\n");
-    record.InitINITable(app().c_str());
-    EXPECT_TRUE(record.isLoaded());
+    EXPECT_FALSE(record.IsLoaded());
+    WriteSharedIni("[Units]\r\nSpeed=2\r\n");
+    record.InitINITable(App().c_str());
+    EXPECT_TRUE(record.IsLoaded());
 }

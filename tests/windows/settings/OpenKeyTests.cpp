@@ -11,10 +11,10 @@ class OpenKey : public ScratchSettings
 protected:
     OpenKey()
     {
-        record.SetModName(app().c_str());
+        record.SetModName(App().c_str());
     }
 
-    int level()
+    int Level()
     {
         return record.ReadVornInt("General", "Level", -77);
     }
@@ -24,7 +24,7 @@ protected:
 
 /// Number of the first handle that is free. Handles are given out from the lowest number on, so it tells how many are
 /// in use.
-std::size_t firstFreeHandle()
+std::size_t FirstFreeHandle()
 {
     const HANDLE event = CreateEventA(nullptr, TRUE, FALSE, nullptr);
     CloseHandle(event);
@@ -36,116 +36,116 @@ TEST_F(OpenKey, SeesEveryWriteOfAnotherProgram)
 {
     for (DWORD i = 1; i <= 20; ++i)
     {
-        put("General", "Level", rawNumber(i));
-        EXPECT_EQ(level(), static_cast<int>(i));
+        Put("General", "Level", RawNumber(i));
+        EXPECT_EQ(Level(), static_cast<int>(i));
     }
-    put("General", "Level", rawText("21"));
-    EXPECT_EQ(level(), 21);
+    Put("General", "Level", RawText("21"));
+    EXPECT_EQ(Level(), 21);
 }
 
 TEST_F(OpenKey, SeesAValueDeletedByAnotherProgram)
 {
-    put("General", "Level", rawNumber(1));
-    EXPECT_EQ(level(), 1);
+    Put("General", "Level", RawNumber(1));
+    EXPECT_EQ(Level(), 1);
     HKEY key = nullptr;
-    RegOpenKeyExA(HKEY_CURRENT_USER, ("Software\\Vornwald\\" + app() + "\\General").c_str(), 0, KEY_ALL_ACCESS, &key);
+    RegOpenKeyExA(HKEY_CURRENT_USER, ("Software\\Vornwald\\" + App() + "\\General").c_str(), 0, KEY_ALL_ACCESS, &key);
     EXPECT_EQ(RegDeleteValueA(key, "Level"), ERROR_SUCCESS);
     RegCloseKey(key);
-    EXPECT_EQ(level(), -77);
+    EXPECT_EQ(Level(), -77);
 }
 
 TEST_F(OpenKey, SurvivesTheDeletionOfItsKey)
 {
-    put("General", "Level", rawNumber(1));
-    EXPECT_EQ(level(), 1);
-    deleteKey("General");
-    EXPECT_EQ(level(), -77);
-    EXPECT_EQ(level(), -77);
+    Put("General", "Level", RawNumber(1));
+    EXPECT_EQ(Level(), 1);
+    DeleteKey("General");
+    EXPECT_EQ(Level(), -77);
+    EXPECT_EQ(Level(), -77);
 }
 
 TEST_F(OpenKey, SeesAKeyMadeAnew)
 {
     for (DWORD i = 1; i <= 5; ++i)
     {
-        put("General", "Level", rawNumber(i));
-        EXPECT_EQ(level(), static_cast<int>(i));
-        deleteKey("");
+        Put("General", "Level", RawNumber(i));
+        EXPECT_EQ(Level(), static_cast<int>(i));
+        DeleteKey("");
         if (i % 2 == 0)
         {
-            EXPECT_EQ(level(), -77);
+            EXPECT_EQ(Level(), -77);
         }
     }
 }
 
 TEST_F(OpenKey, NeverRemembersThatAKeyWasMissing)
 {
-    EXPECT_EQ(level(), -77);
-    put("General", "Level", rawNumber(1));
-    EXPECT_EQ(level(), 1);
+    EXPECT_EQ(Level(), -77);
+    Put("General", "Level", RawNumber(1));
+    EXPECT_EQ(Level(), 1);
 }
 
 TEST_F(OpenKey, WritesIntoAKeyMadeAnewAfterItsDeletion)
 {
     EXPECT_TRUE(record.WriteVornInt("General", "Level", 1));
-    deleteKey("");
+    DeleteKey("");
     EXPECT_TRUE(record.WriteVornInt("General", "Level", 2));
-    EXPECT_EQ(get("General", "Level"), rawNumber(2));
-    EXPECT_EQ(level(), 2);
+    EXPECT_EQ(Get("General", "Level"), RawNumber(2));
+    EXPECT_EQ(Level(), 2);
 }
 
 TEST_F(OpenKey, WritesAndReadsAfterTheRecordDeletedTheSection)
 {
     EXPECT_TRUE(record.WriteVornInt("General", "Level", 1));
-    EXPECT_EQ(level(), 1);
+    EXPECT_EQ(Level(), 1);
     EXPECT_TRUE(record.WriteVornString("General", nullptr, nullptr));
-    EXPECT_EQ(level(), -77);
+    EXPECT_EQ(Level(), -77);
     EXPECT_TRUE(record.WriteVornInt("General", "Level", 3));
-    EXPECT_EQ(level(), 3);
+    EXPECT_EQ(Level(), 3);
 }
 
 TEST_F(OpenKey, ReadingMakesNoKey)
 {
-    EXPECT_EQ(level(), -77);
-    EXPECT_FALSE(hasKey(""));
+    EXPECT_EQ(Level(), -77);
+    EXPECT_FALSE(HasKey(""));
 }
 
 TEST_F(OpenKey, IsOneHandleHoweverOftenTheSectionIsRead)
 {
-    put("General", "Level", rawNumber(1));
-    level();
-    const std::size_t before = firstFreeHandle();
+    Put("General", "Level", RawNumber(1));
+    Level();
+    const std::size_t before = FirstFreeHandle();
     for (int i = 0; i < 1000; ++i)
     {
-        level();
+        Level();
     }
-    EXPECT_EQ(firstFreeHandle(), before);
+    EXPECT_EQ(FirstFreeHandle(), before);
 }
 
 TEST_F(OpenKey, IsClosedWithItsRecord)
 {
-    put("General", "Level", rawNumber(1));
-    const std::size_t before = firstFreeHandle();
+    Put("General", "Level", RawNumber(1));
+    const std::size_t before = FirstFreeHandle();
     {
         AppRegData another;
-        another.SetModName(app().c_str());
+        another.SetModName(App().c_str());
         another.ReadVornInt("General", "Level", 0);
         another.WriteVornInt("General", "Level", 2);
         another.ReadVornInt("General", "Level", 0);
-        EXPECT_EQ(firstFreeHandle(), before + 2);
+        EXPECT_EQ(FirstFreeHandle(), before + 2);
     }
-    EXPECT_EQ(firstFreeHandle(), before);
+    EXPECT_EQ(FirstFreeHandle(), before);
 }
 
 TEST_F(OpenKey, HandlesStayFewWithManySections)
 {
-    const std::size_t before = firstFreeHandle();
+    const std::size_t before = FirstFreeHandle();
     for (int i = 0; i < 600; ++i)
     {
         const std::string section = "Section" + std::to_string(i);
         EXPECT_TRUE(record.WriteVornInt(section.c_str(), "Level", i));
         EXPECT_EQ(record.ReadVornInt(section.c_str(), "Level", -1), i);
     }
-    EXPECT_LE(firstFreeHandle(), before + 2 * 256);
+    EXPECT_LE(FirstFreeHandle(), before + 2 * 256);
     EXPECT_EQ(record.ReadVornInt("Section0", "Level", -1), 0);
     EXPECT_EQ(record.ReadVornInt("Section599", "Level", -1), 599);
 }

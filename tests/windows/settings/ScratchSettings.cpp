@@ -11,64 +11,64 @@ namespace vorn::test
 {
 namespace
 {
-std::string windowsFolder()
+std::string WindowsFolder()
 {
     char path[MAX_PATH];
     GetWindowsDirectoryA(path, MAX_PATH);
     return path;
 }
 
-std::string userCopyFolder()
+std::string UserCopyFolder()
 {
     char path[MAX_PATH];
     SHGetFolderPathA(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, path);
-    return std::string(path) + "\\VirtualStore" + windowsFolder().substr(2);
+    return std::string(path) + "\\VirtualStore" + WindowsFolder().substr(2);
 }
 } // namespace
 
-RawValue rawText(std::string_view text)
+RawValue RawText(std::string_view text)
 {
     return {REG_SZ, std::string(text) + '\0'};
 }
 
-RawValue rawNumber(DWORD number)
+RawValue RawNumber(DWORD number)
 {
     return {REG_DWORD, std::string(reinterpret_cast<const char*>(&number), sizeof number)};
 }
 
 ScratchSettings::ScratchSettings() : m_app("VornTest" + std::to_string(GetCurrentProcessId()))
 {
-    cleanUp();
+    CleanUp();
 }
 
 ScratchSettings::~ScratchSettings()
 {
-    cleanUp();
+    CleanUp();
 }
 
-void ScratchSettings::cleanUp() const
+void ScratchSettings::CleanUp() const
 {
     AppRegMgr::FreeInst();
     GlobalRegData::SetGlobalSections("");
     for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
     {
-        RegDeleteTreeA(root, keyPath("").c_str());
+        RegDeleteTreeA(root, KeyPath("").c_str());
     }
-    DeleteFileA(sharedIni().c_str());
-    DeleteFileA(userIni().c_str());
+    DeleteFileA(SharedIni().c_str());
+    DeleteFileA(UserIni().c_str());
 }
 
-std::string ScratchSettings::keyPath(const std::string& section) const
+std::string ScratchSettings::KeyPath(const std::string& section) const
 {
     return "Software\\Vornwald\\" + m_app + (section.empty() ? "" : "\\" + section);
 }
 
-void ScratchSettings::put(const char* section, const char* key, const RawValue& value, HKEY root) const
+void ScratchSettings::Put(const char* section, const char* key, const RawValue& value, HKEY root) const
 {
     // The system takes a zero behind an unterminated text along: something else must stand there.
     const std::string guarded = value.bytes + '#';
     HKEY opened = nullptr;
-    ASSERT_EQ(RegCreateKeyExA(root, keyPath(section).c_str(), 0, nullptr, 0, KEY_ALL_ACCESS | KEY_WOW64_32KEY, nullptr,
+    ASSERT_EQ(RegCreateKeyExA(root, KeyPath(section).c_str(), 0, nullptr, 0, KEY_ALL_ACCESS | KEY_WOW64_32KEY, nullptr,
                               &opened, nullptr),
               ERROR_SUCCESS);
     EXPECT_EQ(RegSetValueExA(opened, key, 0, value.type, reinterpret_cast<const BYTE*>(guarded.data()),
@@ -77,12 +77,12 @@ void ScratchSettings::put(const char* section, const char* key, const RawValue& 
     RegCloseKey(opened);
 }
 
-std::optional<RawValue> ScratchSettings::get(const char* section, const char* key, HKEY root) const
+std::optional<RawValue> ScratchSettings::Get(const char* section, const char* key, HKEY root) const
 {
     RawValue value{0, std::string(4096, '\0')};
     auto size = static_cast<DWORD>(value.bytes.size());
     HKEY opened = nullptr;
-    if (RegOpenKeyExA(root, keyPath(section).c_str(), 0, KEY_READ | KEY_WOW64_32KEY, &opened) != ERROR_SUCCESS)
+    if (RegOpenKeyExA(root, KeyPath(section).c_str(), 0, KEY_READ | KEY_WOW64_32KEY, &opened) != ERROR_SUCCESS)
     {
         return std::nullopt;
     }
@@ -93,42 +93,42 @@ std::optional<RawValue> ScratchSettings::get(const char* section, const char* ke
     return status == ERROR_SUCCESS ? std::optional(value) : std::nullopt;
 }
 
-bool ScratchSettings::hasKey(const std::string& section, HKEY root) const
+bool ScratchSettings::HasKey(const std::string& section, HKEY root) const
 {
     HKEY opened = nullptr;
     const bool found =
-        RegOpenKeyExA(root, keyPath(section).c_str(), 0, KEY_READ | KEY_WOW64_32KEY, &opened) == ERROR_SUCCESS;
+        RegOpenKeyExA(root, KeyPath(section).c_str(), 0, KEY_READ | KEY_WOW64_32KEY, &opened) == ERROR_SUCCESS;
     RegCloseKey(opened);
     return found;
 }
 
-void ScratchSettings::deleteKey(const std::string& section, HKEY root) const
+void ScratchSettings::DeleteKey(const std::string& section, HKEY root) const
 {
-    EXPECT_EQ(RegDeleteTreeA(root, keyPath(section).c_str()), ERROR_SUCCESS);
+    EXPECT_EQ(RegDeleteTreeA(root, KeyPath(section).c_str()), ERROR_SUCCESS);
 }
 
-std::string ScratchSettings::sharedIni() const
+std::string ScratchSettings::SharedIni() const
 {
-    return windowsFolder() + '\\' + m_app + ".INI";
+    return WindowsFolder() + '\\' + m_app + ".INI";
 }
 
-std::string ScratchSettings::userIni() const
+std::string ScratchSettings::UserIni() const
 {
-    return userCopyFolder() + '\\' + m_app + ".INI";
+    return UserCopyFolder() + '\\' + m_app + ".INI";
 }
 
-void ScratchSettings::writeSharedIni(std::string_view text) const
+void ScratchSettings::WriteSharedIni(std::string_view text) const
 {
-    writeFile(sharedIni(), text);
+    WriteFile(SharedIni(), text);
 }
 
-void ScratchSettings::writeUserIni(std::string_view text) const
+void ScratchSettings::WriteUserIni(std::string_view text) const
 {
-    SHCreateDirectoryExA(nullptr, userCopyFolder().c_str(), nullptr);
-    writeFile(userIni(), text);
+    SHCreateDirectoryExA(nullptr, UserCopyFolder().c_str(), nullptr);
+    WriteFile(UserIni(), text);
 }
 
-void writeFile(const std::string& path, std::string_view text)
+void WriteFile(const std::string& path, std::string_view text)
 {
     FILE* file = std::fopen(path.c_str(), "wb");
     ASSERT_NE(file, nullptr) << path;
@@ -143,7 +143,7 @@ ScratchFile::ScratchFile(std::string_view text)
     GetTempPathA(MAX_PATH, folder);
     GetTempFileNameA(folder, "vrn", 0, path);
     m_path = path;
-    writeFile(m_path, text);
+    WriteFile(m_path, text);
 }
 
 ScratchFile::~ScratchFile()

@@ -20,9 +20,9 @@ struct RawValue
 };
 
 /// A value REG_SZ with its terminating zero.
-RawValue rawText(std::string_view text);
+RawValue RawText(std::string_view text);
 /// A value REG_DWORD.
-RawValue rawNumber(DWORD number);
+RawValue RawNumber(DWORD number);
 
 /// Gives every test an application name of its own, with no settings and no INI file under either root before and
 /// after it, and raw access to both as another program would have it.
@@ -32,30 +32,30 @@ protected:
     ScratchSettings();
     ~ScratchSettings() override;
 
-    const std::string& app() const
+    const std::string& App() const
     {
         return m_app;
     }
 
-    void put(const char* section, const char* key, const RawValue& value, HKEY root = HKEY_CURRENT_USER) const;
-    std::optional<RawValue> get(const char* section, const char* key, HKEY root = HKEY_CURRENT_USER) const;
-    bool hasKey(const std::string& section, HKEY root = HKEY_CURRENT_USER) const;
-    void deleteKey(const std::string& section, HKEY root = HKEY_CURRENT_USER) const;
+    void Put(const char* section, const char* key, const RawValue& value, HKEY root = HKEY_CURRENT_USER) const;
+    std::optional<RawValue> Get(const char* section, const char* key, HKEY root = HKEY_CURRENT_USER) const;
+    bool HasKey(const std::string& section, HKEY root = HKEY_CURRENT_USER) const;
+    void DeleteKey(const std::string& section, HKEY root = HKEY_CURRENT_USER) const;
 
     /// The application's INI file in the Windows folder, and the user's copy of it.
-    std::string sharedIni() const;
-    std::string userIni() const;
-    void writeSharedIni(std::string_view text) const;
-    void writeUserIni(std::string_view text) const;
+    std::string SharedIni() const;
+    std::string UserIni() const;
+    void WriteSharedIni(std::string_view text) const;
+    void WriteUserIni(std::string_view text) const;
 
 private:
-    void cleanUp() const;
-    std::string keyPath(const std::string& section) const;
+    void CleanUp() const;
+    std::string KeyPath(const std::string& section) const;
 
     std::string m_app;
 };
 
-void writeFile(const std::string& path, std::string_view text);
+void WriteFile(const std::string& path, std::string_view text);
 
 /// A text file of the test's own in the temporary folder.
 class ScratchFile
@@ -66,7 +66,7 @@ public:
     ScratchFile(const ScratchFile&) = delete;
     ScratchFile& operator=(const ScratchFile&) = delete;
 
-    const char* path() const
+    const char* Path() const
     {
         return m_path.c_str();
     }

@@ -10,12 +10,12 @@ namespace
 class SettingsManager : public ScratchSettings
 {
 protected:
-    AppRegMgr& manager()
+    AppRegMgr& Manager()
     {
         return *AppRegMgr::Instance();
     }
 
-    std::string hostName()
+    std::string HostName()
     {
         char path[MAX_PATH];
         GetModuleFileNameA(nullptr, path, MAX_PATH);
@@ -24,7 +24,7 @@ protected:
     }
 };
 
-bool isShared(AppRegData* record)
+bool IsShared(AppRegData* record)
 {
     return dynamic_cast<GlobalRegData*>(record) != nullptr;
 }
@@ -37,139 +37,139 @@ TEST_F(SettingsManager, IsMadeOnce)
 
 TEST_F(SettingsManager, StartsWithTheHostNamedAfterTheExecutable)
 {
-    EXPECT_EQ(manager().GetAppRegIndex(hostName().c_str()), 0);
-    AppRegData* host = manager().GetAppRegData(hostName().c_str());
+    EXPECT_EQ(Manager().GetAppRegIndex(HostName().c_str()), 0);
+    AppRegData* host = Manager().GetAppRegData(HostName().c_str());
     ASSERT_NE(host, nullptr);
-    EXPECT_EQ(host->GetModName(), hostName().c_str());
-    EXPECT_FALSE(isShared(host));
+    EXPECT_EQ(host->GetModName(), HostName().c_str());
+    EXPECT_FALSE(IsShared(host));
 }
 
 TEST_F(SettingsManager, AddsAnApplicationOnce)
 {
-    EXPECT_EQ(manager().AddApp(app().c_str()), 1);
-    EXPECT_EQ(manager().AddApp("VornTestOther"), 2);
-    EXPECT_EQ(manager().AddApp(app().c_str()), 1);
-    EXPECT_EQ(manager().AddApp(hostName().c_str()), 0);
-    EXPECT_EQ(manager().GetAppRegIndex(app().c_str()), 1);
-    EXPECT_STREQ(manager().GetAppRegData(app().c_str())->GetModName(), app().c_str());
+    EXPECT_EQ(Manager().AddApp(App().c_str()), 1);
+    EXPECT_EQ(Manager().AddApp("VornTestOther"), 2);
+    EXPECT_EQ(Manager().AddApp(App().c_str()), 1);
+    EXPECT_EQ(Manager().AddApp(HostName().c_str()), 0);
+    EXPECT_EQ(Manager().GetAppRegIndex(App().c_str()), 1);
+    EXPECT_STREQ(Manager().GetAppRegData(App().c_str())->GetModName(), App().c_str());
 }
 
 TEST_F(SettingsManager, ComparesNamesExactly)
 {
-    manager().AddApp(app().c_str());
-    const std::string upper = CString(app().c_str()).MakeUpper().GetString();
-    EXPECT_EQ(manager().GetAppRegIndex(upper.c_str()), -1);
-    EXPECT_EQ(manager().GetAppRegData(upper.c_str()), nullptr);
-    EXPECT_EQ(manager().AddApp(upper.c_str()), 2);
+    Manager().AddApp(App().c_str());
+    const std::string upper = CString(App().c_str()).MakeUpper().GetString();
+    EXPECT_EQ(Manager().GetAppRegIndex(upper.c_str()), -1);
+    EXPECT_EQ(Manager().GetAppRegData(upper.c_str()), nullptr);
+    EXPECT_EQ(Manager().AddApp(upper.c_str()), 2);
 }
 
 TEST_F(SettingsManager, EmptyNameIsTheHostWhenAddedAndUnknownWhenLookedUp)
 {
-    EXPECT_EQ(manager().AddApp(""), 0);
-    EXPECT_EQ(manager().GetAppRegIndex(""), -1);
-    EXPECT_EQ(manager().GetAppRegData(""), nullptr);
+    EXPECT_EQ(Manager().AddApp(""), 0);
+    EXPECT_EQ(Manager().GetAppRegIndex(""), -1);
+    EXPECT_EQ(Manager().GetAppRegData(""), nullptr);
 }
 
 TEST_F(SettingsManager, GlobalAndInstallersAreShared)
 {
-    manager().AddApp("Global");
-    manager().AddApp("Installers");
-    manager().AddApp("global");
-    EXPECT_TRUE(isShared(manager().GetAppRegData("Global")));
-    EXPECT_TRUE(isShared(manager().GetAppRegData("Installers")));
-    EXPECT_FALSE(isShared(manager().GetAppRegData("global")));
+    Manager().AddApp("Global");
+    Manager().AddApp("Installers");
+    Manager().AddApp("global");
+    EXPECT_TRUE(IsShared(Manager().GetAppRegData("Global")));
+    EXPECT_TRUE(IsShared(Manager().GetAppRegData("Installers")));
+    EXPECT_FALSE(IsShared(Manager().GetAppRegData("global")));
 }
 
 TEST_F(SettingsManager, SharedNamesHoldForRecordsAddedLaterAndOutliveTheManager)
 {
-    const CString early = (app() + "Early").c_str();
-    const CString late = (app() + "Late").c_str();
-    manager().AddApp(early);
+    const CString early = (App() + "Early").c_str();
+    const CString late = (App() + "Late").c_str();
+    Manager().AddApp(early);
     AppRegMgr::UseGlobalRegForApp(early);
     AppRegMgr::UseGlobalRegForApp(late);
     AppRegMgr::UseGlobalRegForApp(late);
-    manager().AddApp(late);
-    EXPECT_FALSE(isShared(manager().GetAppRegData(early)));
-    EXPECT_TRUE(isShared(manager().GetAppRegData(late)));
+    Manager().AddApp(late);
+    EXPECT_FALSE(IsShared(Manager().GetAppRegData(early)));
+    EXPECT_TRUE(IsShared(Manager().GetAppRegData(late)));
     AppRegMgr::FreeInst();
-    manager().AddApp(early);
-    EXPECT_TRUE(isShared(manager().GetAppRegData(early)));
+    Manager().AddApp(early);
+    EXPECT_TRUE(IsShared(Manager().GetAppRegData(early)));
 }
 
 TEST_F(SettingsManager, IsMadeAnewAfterFreeing)
 {
-    manager().AddApp(app().c_str());
-    manager().AllowNetwork(true);
+    Manager().AddApp(App().c_str());
+    Manager().AllowNetwork(true);
     AppRegMgr::Instance()->FreeInst();
-    EXPECT_EQ(manager().GetAppRegIndex(app().c_str()), -1);
-    EXPECT_FALSE(manager().AllowNetwork());
+    EXPECT_EQ(Manager().GetAppRegIndex(App().c_str()), -1);
+    EXPECT_FALSE(Manager().AllowNetwork());
     AppRegMgr::FreeInst();
     AppRegMgr::FreeInst();
 }
 
 TEST_F(SettingsManager, RemembersWhetherTheNetworkIsAllowed)
 {
-    EXPECT_FALSE(manager().AllowNetwork());
-    manager().AllowNetwork(true);
-    EXPECT_TRUE(manager().AllowNetwork());
-    manager().AllowNetwork(false);
-    EXPECT_FALSE(manager().AllowNetwork());
+    EXPECT_FALSE(Manager().AllowNetwork());
+    Manager().AllowNetwork(true);
+    EXPECT_TRUE(Manager().AllowNetwork());
+    Manager().AllowNetwork(false);
+    EXPECT_FALSE(Manager().AllowNetwork());
 }
 
 TEST_F(SettingsManager, HandsCallsOnByIndex)
 {
-    const int index = manager().AddApp(app().c_str());
-    EXPECT_TRUE(manager().WriteVornString("General", "Name", "Denver", index));
-    EXPECT_TRUE(manager().WriteVornInt("General", "Level", 5, index));
-    EXPECT_TRUE(manager().WriteVornStrInt("General", "Count", "6", index));
-    EXPECT_FALSE(manager().WriteVornStrInt("General", "Count", "-6", index));
-    EXPECT_EQ(get("General", "Name"), rawText("Denver"));
-    EXPECT_EQ(get("General", "Level"), rawNumber(5));
-    EXPECT_EQ(get("General", "Count"), rawNumber(6));
-    EXPECT_STREQ(manager().ReadVornString("General", "Name", "", index), "Denver");
-    EXPECT_EQ(manager().ReadVornInt("General", "Level", 0, index), 5);
+    const int index = Manager().AddApp(App().c_str());
+    EXPECT_TRUE(Manager().WriteVornString("General", "Name", "Denver", index));
+    EXPECT_TRUE(Manager().WriteVornInt("General", "Level", 5, index));
+    EXPECT_TRUE(Manager().WriteVornStrInt("General", "Count", "6", index));
+    EXPECT_FALSE(Manager().WriteVornStrInt("General", "Count", "-6", index));
+    EXPECT_EQ(Get("General", "Name"), RawText("Denver"));
+    EXPECT_EQ(Get("General", "Level"), RawNumber(5));
+    EXPECT_EQ(Get("General", "Count"), RawNumber(6));
+    EXPECT_STREQ(Manager().ReadVornString("General", "Name", "", index), "Denver");
+    EXPECT_EQ(Manager().ReadVornInt("General", "Level", 0, index), 5);
 }
 
 TEST_F(SettingsManager, HandsCallsOnByName)
 {
-    const char* name = app().c_str();
-    manager().AddApp(name);
-    EXPECT_TRUE(manager().WriteVornString("General", "Name", "Denver", name));
-    EXPECT_TRUE(manager().WriteVornInt("General", "Level", 5, name));
-    EXPECT_TRUE(manager().WriteVornStrInt("General", "Count", "6", name));
-    EXPECT_EQ(get("General", "Name"), rawText("Denver"));
-    EXPECT_EQ(get("General", "Level"), rawNumber(5));
-    EXPECT_EQ(get("General", "Count"), rawNumber(6));
-    EXPECT_STREQ(manager().ReadVornString("General", "Name", "", name), "Denver");
-    EXPECT_EQ(manager().ReadVornInt("General", "Level", 0, name), 5);
+    const char* name = App().c_str();
+    Manager().AddApp(name);
+    EXPECT_TRUE(Manager().WriteVornString("General", "Name", "Denver", name));
+    EXPECT_TRUE(Manager().WriteVornInt("General", "Level", 5, name));
+    EXPECT_TRUE(Manager().WriteVornStrInt("General", "Count", "6", name));
+    EXPECT_EQ(Get("General", "Name"), RawText("Denver"));
+    EXPECT_EQ(Get("General", "Level"), RawNumber(5));
+    EXPECT_EQ(Get("General", "Count"), RawNumber(6));
+    EXPECT_STREQ(Manager().ReadVornString("General", "Name", "", name), "Denver");
+    EXPECT_EQ(Manager().ReadVornInt("General", "Level", 0, name), 5);
 }
 
 TEST_F(SettingsManager, NullAndEmptyNamesAreTheHost)
 {
     const char* const nobody = nullptr;
-    EXPECT_TRUE(manager().WriteVornInt(app().c_str(), "Level", 5, nobody));
-    EXPECT_EQ(manager().ReadVornInt(app().c_str(), "Level", 0, ""), 5);
-    EXPECT_EQ(manager().ReadVornInt(app().c_str(), "Level", 0, 0), 5);
-    EXPECT_TRUE(manager().WriteVornString(app().c_str(), nullptr, nullptr, ""));
-    EXPECT_EQ(manager().ReadVornInt(app().c_str(), "Level", 0, nobody), 0);
+    EXPECT_TRUE(Manager().WriteVornInt(App().c_str(), "Level", 5, nobody));
+    EXPECT_EQ(Manager().ReadVornInt(App().c_str(), "Level", 0, ""), 5);
+    EXPECT_EQ(Manager().ReadVornInt(App().c_str(), "Level", 0, 0), 5);
+    EXPECT_TRUE(Manager().WriteVornString(App().c_str(), nullptr, nullptr, ""));
+    EXPECT_EQ(Manager().ReadVornInt(App().c_str(), "Level", 0, nobody), 0);
 }
 
 TEST_F(SettingsManager, UnknownNameOrIndexReadsTheDefaultAndWritesFalse)
 {
-    put("General", "Level", rawNumber(5));
-    const char* name = app().c_str();
-    EXPECT_EQ(manager().ReadVornInt("General", "Level", 3, name), 3);
-    EXPECT_STREQ(manager().ReadVornString("General", "Level", "d", name), "d");
-    EXPECT_FALSE(manager().WriteVornInt("General", "Level", 3, name));
-    EXPECT_FALSE(manager().WriteVornString("General", "Level", "3", name));
-    EXPECT_FALSE(manager().WriteVornStrInt("General", "Level", "3", name));
+    Put("General", "Level", RawNumber(5));
+    const char* name = App().c_str();
+    EXPECT_EQ(Manager().ReadVornInt("General", "Level", 3, name), 3);
+    EXPECT_STREQ(Manager().ReadVornString("General", "Level", "d", name), "d");
+    EXPECT_FALSE(Manager().WriteVornInt("General", "Level", 3, name));
+    EXPECT_FALSE(Manager().WriteVornString("General", "Level", "3", name));
+    EXPECT_FALSE(Manager().WriteVornStrInt("General", "Level", "3", name));
     for (const int index : {-1, 1, 1000, INT_MIN, INT_MAX})
     {
-        EXPECT_EQ(manager().ReadVornInt("General", "Level", 3, index), 3);
-        EXPECT_STREQ(manager().ReadVornString("General", "Level", nullptr, index), "");
-        EXPECT_FALSE(manager().WriteVornInt("General", "Level", 3, index));
-        EXPECT_FALSE(manager().WriteVornString("General", "Level", "3", index));
-        EXPECT_FALSE(manager().WriteVornStrInt("General", "Level", "3", index));
+        EXPECT_EQ(Manager().ReadVornInt("General", "Level", 3, index), 3);
+        EXPECT_STREQ(Manager().ReadVornString("General", "Level", nullptr, index), "");
+        EXPECT_FALSE(Manager().WriteVornInt("General", "Level", 3, index));
+        EXPECT_FALSE(Manager().WriteVornString("General", "Level", "3", index));
+        EXPECT_FALSE(Manager().WriteVornStrInt("General", "Level", "3", index));
     }
 }
 
@@ -178,7 +178,7 @@ TEST_F(SettingsManager, MachineWideMarkIsReadFromAnExistingFile)
     const auto isSet = [](std::string_view text)
     {
         const ScratchFile file(text);
-        CString path = file.path();
+        CString path = file.Path();
         return AppRegMgr::IsGlobalSet(path);
     };
     EXPECT_TRUE(isSet("[Registry Settings]\r\nLocal Machine=1\r\n"));

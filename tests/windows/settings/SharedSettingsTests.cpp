@@ -11,7 +11,7 @@ class SharedSettings : public ScratchSettings
 protected:
     SharedSettings()
     {
-        record.SetModName(app().c_str());
+        record.SetModName(App().c_str());
     }
 
     GlobalRegData record;
@@ -20,7 +20,7 @@ protected:
 constexpr char kOneSection[] = "[Local Machine Sections]\r\nName0=Network\r\nNetwork=1\r\n";
 
 /// Roots under which "Global" has a value; its section is then deleted from both.
-std::string rootsOfGlobal(const std::string& section, const char* key)
+std::string RootsOfGlobal(const std::string& section, const char* key)
 {
     std::string found;
     for (const auto& [root, name] : {std::pair(HKEY_LOCAL_MACHINE, "machine "), std::pair(HKEY_CURRENT_USER, "user ")})
@@ -41,10 +41,10 @@ TEST_F(SharedSettings, AreTheMachinesWhenNoSectionIsListed)
     EXPECT_TRUE(record.WriteVornString("Network", "Host", "h"));
     EXPECT_TRUE(record.WriteVornInt("Network", "Port", 80));
     EXPECT_TRUE(record.WriteVornStrInt("Network", "Retries", "3"));
-    EXPECT_EQ(get("Network", "Host", HKEY_LOCAL_MACHINE), rawText("h"));
-    EXPECT_EQ(get("Network", "Port", HKEY_LOCAL_MACHINE), rawNumber(80));
-    EXPECT_EQ(get("Network", "Retries", HKEY_LOCAL_MACHINE), rawNumber(3));
-    EXPECT_FALSE(hasKey("", HKEY_CURRENT_USER));
+    EXPECT_EQ(Get("Network", "Host", HKEY_LOCAL_MACHINE), RawText("h"));
+    EXPECT_EQ(Get("Network", "Port", HKEY_LOCAL_MACHINE), RawNumber(80));
+    EXPECT_EQ(Get("Network", "Retries", HKEY_LOCAL_MACHINE), RawNumber(3));
+    EXPECT_FALSE(HasKey("", HKEY_CURRENT_USER));
     EXPECT_STREQ(record.ReadVornString("Network", "Host", ""), "h");
     EXPECT_EQ(record.ReadVornInt("Network", "Port", 0), 80);
 }
@@ -52,16 +52,16 @@ TEST_F(SharedSettings, AreTheMachinesWhenNoSectionIsListed)
 TEST_F(SharedSettings, AreTheUsersForSectionsThatAreNotListed)
 {
     const ScratchFile ini(kOneSection);
-    GlobalRegData::SetGlobalSections(ini.path());
+    GlobalRegData::SetGlobalSections(ini.Path());
     EXPECT_TRUE(record.WriteVornString("network", "Host", "h"));
     EXPECT_TRUE(record.WriteVornString("Fonts", "Face", "f"));
     EXPECT_TRUE(record.WriteVornInt("Fonts", "Size", 9));
     EXPECT_TRUE(record.WriteVornStrInt("Fonts", "Weight", "700"));
-    EXPECT_EQ(get("Network", "Host", HKEY_LOCAL_MACHINE), rawText("h"));
-    EXPECT_EQ(get("Fonts", "Face", HKEY_CURRENT_USER), rawText("f"));
-    EXPECT_EQ(get("Fonts", "Size", HKEY_CURRENT_USER), rawNumber(9));
-    EXPECT_EQ(get("Fonts", "Weight", HKEY_CURRENT_USER), rawNumber(700));
-    EXPECT_FALSE(hasKey("Fonts", HKEY_LOCAL_MACHINE));
+    EXPECT_EQ(Get("Network", "Host", HKEY_LOCAL_MACHINE), RawText("h"));
+    EXPECT_EQ(Get("Fonts", "Face", HKEY_CURRENT_USER), RawText("f"));
+    EXPECT_EQ(Get("Fonts", "Size", HKEY_CURRENT_USER), RawNumber(9));
+    EXPECT_EQ(Get("Fonts", "Weight", HKEY_CURRENT_USER), RawNumber(700));
+    EXPECT_FALSE(HasKey("Fonts", HKEY_LOCAL_MACHINE));
     EXPECT_STREQ(record.ReadVornString("Fonts", "Face", ""), "f");
     EXPECT_EQ(record.ReadVornInt("Fonts", "Size", 0), 9);
 }
@@ -69,82 +69,82 @@ TEST_F(SharedSettings, AreTheUsersForSectionsThatAreNotListed)
 TEST_F(SharedSettings, EmptySectionIsTheUsers)
 {
     EXPECT_TRUE(record.WriteVornString("", "Version", "1"));
-    EXPECT_EQ(get("", "Version", HKEY_CURRENT_USER), rawText("1"));
-    EXPECT_FALSE(hasKey("", HKEY_LOCAL_MACHINE));
+    EXPECT_EQ(Get("", "Version", HKEY_CURRENT_USER), RawText("1"));
+    EXPECT_FALSE(HasKey("", HKEY_LOCAL_MACHINE));
 }
 
 TEST_F(SharedSettings, DeletesHitTheSameRoot)
 {
     for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
     {
-        put("Network", "Host", rawText("h"), root);
-        put("Network", "Port", rawNumber(1), root);
+        Put("Network", "Host", RawText("h"), root);
+        Put("Network", "Port", RawNumber(1), root);
     }
     EXPECT_TRUE(record.WriteVornString("Network", "Host", nullptr));
     EXPECT_TRUE(record.WriteVornStrInt("Network", "Port", nullptr));
-    EXPECT_EQ(get("Network", "Host", HKEY_LOCAL_MACHINE), std::nullopt);
-    EXPECT_EQ(get("Network", "Port", HKEY_LOCAL_MACHINE), std::nullopt);
+    EXPECT_EQ(Get("Network", "Host", HKEY_LOCAL_MACHINE), std::nullopt);
+    EXPECT_EQ(Get("Network", "Port", HKEY_LOCAL_MACHINE), std::nullopt);
     EXPECT_TRUE(record.WriteVornString("Network", nullptr, nullptr));
-    EXPECT_FALSE(hasKey("Network", HKEY_LOCAL_MACHINE));
-    EXPECT_EQ(get("Network", "Host", HKEY_CURRENT_USER), rawText("h"));
-    EXPECT_EQ(get("Network", "Port", HKEY_CURRENT_USER), rawNumber(1));
+    EXPECT_FALSE(HasKey("Network", HKEY_LOCAL_MACHINE));
+    EXPECT_EQ(Get("Network", "Host", HKEY_CURRENT_USER), RawText("h"));
+    EXPECT_EQ(Get("Network", "Port", HKEY_CURRENT_USER), RawNumber(1));
 }
 
 TEST_F(SharedSettings, MoveFromTheIniFileIntoTheRegistryWhenFirstRead)
 {
-    writeSharedIni("[Network]\r\nHost=h\r\nPort=-80\r\nBoth=12\r\n");
+    WriteSharedIni("[Network]\r\nHost=h\r\nPort=-80\r\nBoth=12\r\n");
     EXPECT_STREQ(record.ReadVornString("Network", "Host", ""), "h");
     EXPECT_EQ(record.ReadVornInt("Network", "Port", 0), -80);
     EXPECT_STREQ(record.ReadVornString("Network", "Both", ""), "12");
-    EXPECT_EQ(get("Network", "Host", HKEY_LOCAL_MACHINE), rawText("h"));
-    EXPECT_EQ(get("Network", "Port", HKEY_LOCAL_MACHINE), rawNumber(static_cast<DWORD>(-80)));
-    EXPECT_EQ(get("Network", "Both", HKEY_LOCAL_MACHINE), rawText("12"));
+    EXPECT_EQ(Get("Network", "Host", HKEY_LOCAL_MACHINE), RawText("h"));
+    EXPECT_EQ(Get("Network", "Port", HKEY_LOCAL_MACHINE), RawNumber(static_cast<DWORD>(-80)));
+    EXPECT_EQ(Get("Network", "Both", HKEY_LOCAL_MACHINE), RawText("12"));
     EXPECT_EQ(record.ReadVornInt("Network", "Both", 0), 12);
 }
 
 TEST_F(SharedSettings, MoveUnderTheChosenRoot)
 {
     const ScratchFile ini(kOneSection);
-    GlobalRegData::SetGlobalSections(ini.path());
-    writeSharedIni("[Fonts]\r\nFace=f\r\n");
+    GlobalRegData::SetGlobalSections(ini.Path());
+    WriteSharedIni("[Fonts]\r\nFace=f\r\n");
     EXPECT_STREQ(record.ReadVornString("Fonts", "Face", ""), "f");
-    EXPECT_EQ(get("Fonts", "Face", HKEY_CURRENT_USER), rawText("f"));
-    EXPECT_FALSE(hasKey("", HKEY_LOCAL_MACHINE));
+    EXPECT_EQ(Get("Fonts", "Face", HKEY_CURRENT_USER), RawText("f"));
+    EXPECT_FALSE(HasKey("", HKEY_LOCAL_MACHINE));
 }
 
 TEST_F(SharedSettings, DefaultsAreNotWrittenBack)
 {
     EXPECT_STREQ(record.ReadVornString("Network", "Host", "d"), "d");
     EXPECT_EQ(record.ReadVornInt("Network", "Port", 7), 7);
-    EXPECT_FALSE(hasKey("", HKEY_LOCAL_MACHINE));
-    EXPECT_FALSE(hasKey("", HKEY_CURRENT_USER));
+    EXPECT_FALSE(HasKey("", HKEY_LOCAL_MACHINE));
+    EXPECT_FALSE(HasKey("", HKEY_CURRENT_USER));
 }
 
 TEST_F(SharedSettings, TextTooLongToReadIsNotReplacedFromTheIniFile)
 {
     const std::string longText(2000, 'a');
-    put("Network", "Host", rawText(longText), HKEY_LOCAL_MACHINE);
-    writeSharedIni("[Network]\r\nHost=h\r\n");
+    Put("Network", "Host", RawText(longText), HKEY_LOCAL_MACHINE);
+    WriteSharedIni("[Network]\r\nHost=h\r\n");
     EXPECT_STREQ(record.ReadVornString("Network", "Host", ""), "h");
-    EXPECT_EQ(get("Network", "Host", HKEY_LOCAL_MACHINE), rawText(longText));
+    EXPECT_EQ(Get("Network", "Host", HKEY_LOCAL_MACHINE), RawText(longText));
 }
 
 TEST_F(SharedSettings, ProxySectionsOfGlobalAreTheUsers)
 {
-    const std::string section = app() + " My Proxy";
+    const std::string section = App() + " My Proxy";
     GlobalRegData global;
     global.SetModName("Global");
     EXPECT_TRUE(global.WriteVornString(section.c_str(), "Host", "h"));
     EXPECT_STREQ(global.ReadVornString(section.c_str(), "Host", ""), "h");
-    EXPECT_EQ(rootsOfGlobal(section, "Host"), "user ");
-    EXPECT_TRUE(global.WriteVornString(app().c_str(), "Host", "h"));
-    EXPECT_EQ(rootsOfGlobal(app(), "Host"), "machine ");
+    EXPECT_EQ(RootsOfGlobal(section, "Host"), "user ");
+    EXPECT_TRUE(global.WriteVornString(App().c_str(), "Host", "h"));
+    EXPECT_EQ(RootsOfGlobal(App(), "Host"), "machine ");
 }
 
 TEST_F(SharedSettings, ProxySectionsOfOtherNamesAreTheMachines)
 {
     EXPECT_TRUE(record.WriteVornInt("Proxy", "Port", 1));
-    EXPECT_EQ(get("Proxy", "Port", HKEY_LOCAL_MACHINE), rawNumber(1));
+    EXPECT_EQ(Get("Proxy", "Port", HKEY_LOCAL_MACHINE), RawNumber(1));
 }
 
 TEST_F(SharedSettings, NullTextsGiveTheDefaultAndFalse)
@@ -160,12 +160,12 @@ TEST_F(SharedSettings, NullTextsGiveTheDefaultAndFalse)
 TEST_F(SharedSettings, ListIsEmptyWithoutItsSection)
 {
     const ScratchFile one(kOneSection);
-    GlobalRegData::SetGlobalSections(one.path());
+    GlobalRegData::SetGlobalSections(one.Path());
     EXPECT_FALSE(GlobalRegData::FindGlobalSection("Fonts"));
     const ScratchFile none("[Other]\r\nName0=Network\r\nNetwork=1\r\n");
-    GlobalRegData::SetGlobalSections(none.path());
+    GlobalRegData::SetGlobalSections(none.Path());
     EXPECT_TRUE(GlobalRegData::FindGlobalSection("Fonts"));
-    GlobalRegData::SetGlobalSections(one.path());
+    GlobalRegData::SetGlobalSections(one.Path());
     GlobalRegData::SetGlobalSections("C:\\no such folder\\no.ini");
     EXPECT_TRUE(GlobalRegData::FindGlobalSection("Fonts"));
 }
@@ -174,7 +174,7 @@ TEST_F(SharedSettings, ListTakesMarkedNamesUpToTheFirstGap)
 {
     const ScratchFile ini("[Local Machine Sections]\r\nName0=One\r\nName1=Two\r\nName2=Three\r\nName4=Five\r\n"
                           "One=1\r\nTwo=0\r\nThree=10\r\nFive=1\r\n");
-    GlobalRegData::SetGlobalSections(ini.path());
+    GlobalRegData::SetGlobalSections(ini.Path());
     EXPECT_TRUE(GlobalRegData::FindGlobalSection("One"));
     EXPECT_TRUE(GlobalRegData::FindGlobalSection("oNE"));
     for (const char* section : {"Two", "Three", "Five", ""})
@@ -187,7 +187,7 @@ TEST_F(SharedSettings, ListCutsNamesAtNineCharacters)
 {
     const ScratchFile ini("[Local Machine Sections]\r\nName0=Navigation\r\nName1=Waypoints\r\nNavigatio=1\r\n"
                           "Navigation=0\r\nWaypoints=1\r\n");
-    GlobalRegData::SetGlobalSections(ini.path());
+    GlobalRegData::SetGlobalSections(ini.Path());
     EXPECT_TRUE(GlobalRegData::FindGlobalSection("Navigatio"));
     EXPECT_FALSE(GlobalRegData::FindGlobalSection("Navigation"));
     EXPECT_TRUE(GlobalRegData::FindGlobalSection("Waypoints"));
@@ -202,7 +202,7 @@ TEST_F(SharedSettings, ListTakesAHundredNamesAtMost)
         text += "Name" + number + "=S" + number + "\r\nS" + number + "=1\r\n";
     }
     const ScratchFile ini(text);
-    GlobalRegData::SetGlobalSections(ini.path());
+    GlobalRegData::SetGlobalSections(ini.Path());
     EXPECT_TRUE(GlobalRegData::FindGlobalSection("S99"));
     EXPECT_FALSE(GlobalRegData::FindGlobalSection("S100"));
 }
