@@ -31,17 +31,4 @@ inline std::string LowerCopy(std::string_view text)
     return copy;
 }
 
-/// Whole-text comparison that takes upper and lower case of the 26 letters for the same.
-constexpr bool EqualNoCase(std::string_view a, std::string_view b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (std::size_t i = 0; i < a.size(); ++i)
-    {
-        if (ToLower(a[i]) != ToLower(b[i]))
-            return false;
-    }
-    return true;
-}
-
 } // namespace vorn
