@@ -83,7 +83,7 @@ std::string_view RootOfHome(std::string_view home)
 bool EndsInDat(std::string_view fileName)
 {
     constexpr std::string_view ending = ".dat";
-    return fileName.size() >= ending.size() && equalsNoCase(fileName.substr(fileName.size() - ending.size()), ending);
+    return fileName.size() >= ending.size() && EqualsNoCase(fileName.substr(fileName.size() - ending.size()), ending);
 }
 
 ServerFolders ServerFoldersOf(std::string_view installation, std::string_view application)

@@ -15,7 +15,7 @@ PathInstances::List::iterator FindNoCase(PathInstances::List& list, std::string_
     return std::find_if(list.begin(), list.end(),
                         [folder](const std::string& instance)
                         {
-                            return equalsNoCase(instance, folder);
+                            return EqualsNoCase(instance, folder);
                         });
 }
 

@@ -95,7 +95,7 @@ bool MatchText(std::string_view pattern, std::string_view text, MatchOptions opt
     if (pattern == "*")
         return true;
     if (options.exact || pattern.find_first_of(kWildcards) == std::string_view::npos)
-        return options.caseSensitive ? pattern == text : equalsNoCase(pattern, text);
+        return options.caseSensitive ? pattern == text : EqualsNoCase(pattern, text);
     if (options.caseSensitive)
         return Walk(pattern, text);
     return Walk(LowerCopy(pattern), LowerCopy(text));
