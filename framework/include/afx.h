@@ -10,3 +10,4 @@
 #include "framework/core/Object.h"
 #include "framework/core/OleException.h"
 #include "framework/core/RuntimeClass.h"
+#include "framework/core/Time.h"
