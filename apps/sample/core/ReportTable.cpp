@@ -104,12 +104,17 @@ void AppendUtf8(std::string& out, unsigned codePoint)
 
 void ReportTable::AddHeading(std::string text)
 {
-    rows.push_back({{std::move(text)}, Tone::Plain, true});
+    rows.push_back({{std::move(text)}, Tone::Plain, true, {}});
 }
 
 void ReportTable::AddRow(std::vector<std::string> cells, Tone tone)
 {
-    rows.push_back({std::move(cells), tone, false});
+    rows.push_back({std::move(cells), tone, false, {}});
+}
+
+void ReportTable::AddColored(std::vector<std::string> cells, std::uint32_t color)
+{
+    rows.push_back({std::move(cells), Tone::Plain, false, color});
 }
 
 std::string ToText(const ReportTable& table)

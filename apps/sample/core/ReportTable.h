@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,7 +35,8 @@ struct ReportRow
 {
     std::vector<std::string> cells; ///< one a column; missing ones are empty
     Tone tone = Tone::Plain;
-    bool heading = false; ///< the first cell alone, over the rows that follow
+    bool heading = false;                    ///< the first cell alone, over the rows that follow
+    std::optional<std::uint32_t> color = {}; ///< of all cells but the first, 0x00BBGGRR; instead of the tone's
 };
 
 /// A titled table, the common form of what the sample shows on the screen and prints as its summary.
@@ -47,6 +50,7 @@ struct ReportTable
 
     void AddHeading(std::string text);
     void AddRow(std::vector<std::string> cells, Tone tone = Tone::Plain);
+    void AddColored(std::vector<std::string> cells, std::uint32_t color);
 };
 
 /// The table as lines of text: columns as wide as their widest cell, two blanks between them, no trailing blanks.
