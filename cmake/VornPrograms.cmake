@@ -1,6 +1,8 @@
 function(vorn_program name folder)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.rc")
-    if(NOT sources)
+    set(shell ${sources})
+    list(FILTER shell EXCLUDE REGEX "/core/")
+    if(NOT shell) # its portable part alone is no program yet
         return()
     endif()
     add_executable(${name} ${ARGN} ${sources})

@@ -1,0 +1,38 @@
+# shellcheck shell=bash
+# Third-party libraries, presets and the Wine session.
+
+export NINJA_STATUS='[%f/%t] '
+
+build_third_party() {
+    local stamps=build/deps/stamps
+    for name in zlib libpng1.6 libjpeg-turbo geographiclib googletest benchmark; do
+        if [ ! -e "$stamps/built-$name" ]; then
+            headline "Building the third-party libraries for 32-bit Windows (about two minutes, once)"
+            step tools/build-deps || exit 1
+            return
+        fi
+    done
+}
+
+# build_preset NAME [TARGET...]
+build_preset() {
+    local preset=$1 arguments=()
+    shift
+    [ $# -eq 0 ] || arguments=(--target "$@")
+    headline "Building $preset"
+    configure_preset "$preset"
+    long_step "build-$preset" cmake --build --preset "$preset" "${arguments[@]}" || exit 1
+}
+
+# Once configured, the build itself notices when it must be configured anew.
+configure_preset() {
+    [ -f "build/$1/build.ninja" ] && return
+    long_step "configure-$1" cmake --preset "$1" || exit 1
+}
+
+# The session is stopped at the end, however the end comes, unless it ran before.
+borrow_wine_session() {
+    if tools/wine-session status; then return; fi
+    at_exit+=("tools/wine-session stop")
+    tools/wine-session start || exit 1
+}
