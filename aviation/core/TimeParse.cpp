@@ -105,9 +105,11 @@ std::string ValidatedTime(std::string_view hhmm)
 
 std::int64_t WithinNextDay(std::int64_t t, std::int64_t now)
 {
-    const std::int64_t days = SubtractSaturated(t, now) / kSecondsPerDay;
-    const std::int64_t shift = t < now ? 1 - days : -days;
-    return AddSaturated(t, shift * kSecondsPerDay);
+    const bool past = t < now;
+    const std::uint64_t distance = past ? static_cast<std::uint64_t>(now) - static_cast<std::uint64_t>(t)
+                                        : static_cast<std::uint64_t>(t) - static_cast<std::uint64_t>(now);
+    const auto rest = static_cast<std::int64_t>(distance % static_cast<std::uint64_t>(kSecondsPerDay));
+    return AddSaturated(now, past ? kSecondsPerDay - rest : rest);
 }
 
 } // namespace vorn

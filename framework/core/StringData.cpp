@@ -21,9 +21,9 @@ static_assert(offsetof(EmptyStringData, end) == sizeof(StringData));
 
 namespace
 {
-constexpr std::size_t kClassStep = 32;
-constexpr std::size_t kClassCount = 4;
-constexpr int kBlocksKept = 256;
+[[maybe_unused]] constexpr std::size_t kClassStep = 32;
+[[maybe_unused]] constexpr std::size_t kClassCount = 4;
+[[maybe_unused]] constexpr int kBlocksKept = 256;
 
 std::size_t BlockSize(int capacity)
 {

@@ -157,3 +157,11 @@ TEST(WithinNextDay, PassesThirtyTwoBits)
     EXPECT_EQ(WithinNextDay(10, now), now + 86400 - (now - 10) % 86400);
     EXPECT_EQ(WithinNextDay(30'000'000'000, now), now + (30'000'000'000 - now) % 86400);
 }
+
+TEST(WithinNextDay, HoldsAtTheEndsOfTime)
+{
+    // 2^64 - 1 is 25,215 seconds past a whole number of days (Python: (2**64 - 1) % 86400).
+    EXPECT_EQ(WithinNextDay(INT64_MIN, INT64_MAX - 200'000), INT64_MAX - 200'000 + 86400 - 84415);
+    EXPECT_EQ(WithinNextDay(INT64_MIN, INT64_MAX), INT64_MAX);
+    EXPECT_EQ(WithinNextDay(INT64_MAX, INT64_MIN), INT64_MIN + 25215);
+}
