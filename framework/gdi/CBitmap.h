@@ -2,8 +2,9 @@
 
 /// @file
 /// Device-dependent bitmaps (and sections of device-independent ones, by Attach).
-#include "framework/core/CSize.h"
+#include "framework/core/Geometry.h"
 #include "framework/gdi/CGdiObject.h"
+#include <commctrl.h>
 
 class CDC;
 

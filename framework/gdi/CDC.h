@@ -2,11 +2,9 @@
 
 /// @file
 /// Device contexts: where drawing goes, and every drawing call.
-#include "framework/core/CPoint.h"
-#include "framework/core/CRect.h"
-#include "framework/core/CSize.h"
 #include "framework/core/CString.h"
 #include "framework/core/Export.h"
+#include "framework/core/Geometry.h"
 #include "framework/core/Object.h"
 
 class CBitmap;
