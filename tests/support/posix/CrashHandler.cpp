@@ -26,7 +26,8 @@ void PrintStack()
     backtrace_symbols_fd(frames.data(), count, STDERR_FILENO);
 }
 
-void OnCrash(int signal)
+// Unused where the sanitizer reports crashes itself.
+[[maybe_unused]] void OnCrash(int signal)
 {
     std::fprintf(stderr, "\nCRASH in %s: %s\n", CurrentTestName(), strsignal(signal));
     std::fflush(stderr);
@@ -48,7 +49,7 @@ void Handle(int signal, void (*handler)(int))
     sigaction(signal, &action, nullptr);
 }
 
-void UseOwnSignalStack()
+[[maybe_unused]] void UseOwnSignalStack()
 {
     static std::array<char, 65536> memory; // a stack overflow leaves no room on the thread's own
     stack_t stack = {};

@@ -1,5 +1,6 @@
 #include "aviation/ConversionBoy.h"
 #include "config/AppRegMgr.h"
+#include "tests/support/ScratchKey.h"
 
 #include <gtest/gtest.h>
 
@@ -18,16 +19,6 @@ constexpr const char* kSection = "Units";
 class UnitsOfTheUser : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        Forget();
-    }
-
-    void TearDown() override
-    {
-        Forget();
-    }
-
     static void Forget()
     {
         AppRegMgr::Instance()->WriteVornString(kSection, nullptr, nullptr, 0);
@@ -37,6 +28,9 @@ protected:
     {
         ASSERT_TRUE(AppRegMgr::Instance()->WriteVornInt(kSection, key, unit, 0));
     }
+
+private:
+    const vorn::test::ScratchKey m_settings{HKEY_CURRENT_USER, "Software\\Vornwald\\windows_units_tests"};
 };
 
 // Shows what the interface keeps for derived classes.
