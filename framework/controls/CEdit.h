@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/core/CPoint.h"
 #include "framework/core/CString.h"
+#include "framework/core/Geometry.h"
 #include "framework/window/CWnd.h"
 
 /// An edit box. Positions are 0-based character indices in the text, lines are 0-based.

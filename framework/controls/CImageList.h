@@ -1,8 +1,8 @@
 #pragma once
 
-#include "framework/core/CObject.h"
-#include "framework/core/CPoint.h"
 #include "framework/core/Export.h"
+#include "framework/core/Geometry.h"
+#include "framework/core/Object.h"
 
 #include <windows.h>
 

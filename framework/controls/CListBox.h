@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/core/CPoint.h"
 #include "framework/core/CString.h"
+#include "framework/core/Geometry.h"
 #include "framework/window/CWnd.h"
 
 /// A list box. Items are numbered from 0. Functions that answer an index or a count answer LB_ERR (-1) for an index

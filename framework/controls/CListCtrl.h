@@ -1,7 +1,8 @@
 #pragma once
 
-#include "framework/core/CPoint.h"
 #include "framework/core/CString.h"
+#include "framework/core/CollectionHelpers.h"
+#include "framework/core/Geometry.h"
 #include "framework/window/CWnd.h"
 
 #include <commctrl.h>

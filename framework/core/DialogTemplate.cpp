@@ -52,6 +52,11 @@ public:
         m_at = (m_at + 3) & ~std::size_t{3};
     }
 
+    std::size_t Position() const
+    {
+        return m_at;
+    }
+
     std::vector<std::uint8_t> Take(std::size_t count)
     {
         if (m_at > m_bytes.size() || count > m_bytes.size() - m_at)
@@ -181,6 +186,7 @@ DialogTemplate ReadWhole(std::span<const std::uint8_t> bytes)
         cursor.AlignToDoubleWord();
         result.items.push_back(ReadItem(cursor, result.extended));
     }
+    result.size = cursor.Position();
     return result;
 }
 

@@ -5,6 +5,7 @@
 /// (DLGTEMPLATE and DLGTEMPLATEEX, described in the Windows documentation under "Dialog Box Templates").
 #include "framework/core/Export.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -56,6 +57,7 @@ struct DialogTemplate
     std::uint16_t pointSize = 0; ///< 0 when the template names no font
     std::u16string typeface;
     std::vector<DialogTemplateItem> items;
+    std::size_t size = 0; ///< bytes from the beginning to the end of the last control
 };
 
 /// Reads a template of either layout. Nothing when the bytes end too early or the extended layout's version is

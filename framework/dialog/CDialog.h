@@ -3,12 +3,11 @@
 #include "framework/core/CString.h"
 #include "framework/window/CWnd.h"
 
-#include <memory>
-
 namespace vorn
 {
+class LoadedDialogTemplate;
 class ModalOwner;
-}
+} // namespace vorn
 
 /// A dialog box made from a dialog template: modal (DoModal) or modeless (Create).
 ///
@@ -90,9 +89,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    BOOL CreateFrom(HINSTANCE module, HWND owner, bool visibleAtOnce);
-    int RunInOwner(HWND owner);
+    BOOL CreateModeless(const vorn::LoadedDialogTemplate& dialogTemplate, CWnd* parent);
+    bool CreateFrom(const vorn::LoadedDialogTemplate& dialogTemplate, HWND owner);
+    int RunModal(const vorn::LoadedDialogTemplate& dialogTemplate, vorn::ModalOwner& owner);
 
     vorn::ModalOwner* m_modalOwner = nullptr; ///< while DoModal runs
-    bool m_ended = false;                     ///< EndDialog was called in this DoModal
+    int m_modalResult = -1;                   ///< what EndDialog was given
+    bool m_ended = false;                     ///< EndDialog was called since the creation began
 };

@@ -39,7 +39,8 @@ HOSTFRAMEWORK_API void DDX_Radio(CDataExchange* exchange, int id, int& value);
 
 /// @name Lists
 /// @{
-/// The selected item's text (empty for none). Selecting looks for the first item that begins with the text.
+/// The selected item's text (empty for none). Selecting looks for the first item that begins with the text; an empty
+/// text selects nothing.
 HOSTFRAMEWORK_API void DDX_LBString(CDataExchange* exchange, int id, CString& value);
 /// The same; selecting looks for the whole text, without regard to case.
 HOSTFRAMEWORK_API void DDX_LBStringExact(CDataExchange* exchange, int id, CString& value);

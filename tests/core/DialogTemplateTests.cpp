@@ -66,8 +66,11 @@ TEST_P(EachLayout, EveryShorterTemplateIsRefused)
 TEST_P(EachLayout, BytesAfterTheLastControlAreIgnored)
 {
     auto bytes = Sample(GetParam()).Bytes();
+    const std::size_t size = bytes.size();
     bytes.insert(bytes.end(), 7, 0xff);
-    EXPECT_TRUE(ReadDialogTemplate(bytes));
+    const auto read = ReadDialogTemplate(bytes);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->size, size);
 }
 
 TEST(DialogTemplate, WithoutFontHasNoPointSize)

@@ -4,35 +4,36 @@
 
 #include <functional>
 
-namespace vorn::test
-{
-
-/// Works on modal dialogs from outside: while the object lives, a timer of this thread looks for a
-/// visible top-level window of the dialog class and hands it to the action, again and again until the
-/// action returns true (then it has done its work, for instance posted IDOK). One dialog, one driver.
+/// Drives a modal dialog from outside: calls a step from the thread's message loop, by a timer, until it answers true.
+/// A step that is not done after ten seconds fails the test and cancels every dialog of the thread.
 class DialogDriver
 {
 public:
-    explicit DialogDriver(std::function<bool(HWND)> action);
+    using Step = std::function<bool()>;
+
+    explicit DialogDriver(Step step);
     ~DialogDriver();
     DialogDriver(const DialogDriver&) = delete;
     DialogDriver& operator=(const DialogDriver&) = delete;
 
-    /// True once the action has returned true.
-    bool Done() const
-    {
-        return m_done;
-    }
+    /// Whether the step answered true.
+    bool IsDone() const;
 
 private:
-    static void CALLBACK OnTimer(HWND window, UINT message, UINT_PTR id, DWORD time);
-    static BOOL CALLBACK OnWindow(HWND window, LPARAM driver);
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR id, DWORD now);
+    void Run();
+    void GiveUp();
 
-    std::function<bool(HWND)> m_action;
-    DialogDriver* m_outer;
+    Step m_step;
     UINT_PTR m_timer;
-    bool m_busy = false;
+    DWORD m_deadline;
     bool m_done = false;
+    bool m_running = false;
 };
 
-} // namespace vorn::test
+/// Handles the messages that wait in the thread's queue, until `condition` holds or five seconds are over.
+bool PumpUntil(const std::function<bool()>& condition);
+/// Handles the messages that wait now.
+void PumpWaiting();
+/// The visible dialog window of this thread with this title, or null.
+HWND FindDialog(const char* title);

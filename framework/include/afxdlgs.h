@@ -1,0 +1,11 @@
+#pragma once
+
+/// @file
+/// The system's common dialogs.
+#include "framework/include/afxwin.h"
+
+#include "framework/dialog/CColorDialog.h"
+#include "framework/dialog/CCommonDialog.h"
+#include "framework/dialog/CFileDialog.h"
+#include "framework/dialog/CFontDialog.h"
+#include "framework/dialog/CPrintDialog.h"
