@@ -1,0 +1,31 @@
+#pragma once
+
+/// @file
+/// Everything that a host application needs of the library: the framework, the companions and the whole public
+/// interface.
+#include "framework/include/afx.h"
+#include "framework/include/afxcmn.h"
+#include "framework/include/afxcoll.h"
+#include "framework/include/afxext.h"
+#include "framework/include/afxtempl.h"
+#include "framework/include/afxwin.h"
+
+#include <commctrl.h>
+#include <prsht.h>
+
+#include "family/TarnUtil/core/FixCase.h"
+#include "family/TarnUtil/core/SynchObject.h"
+#include "family/TarnUtil/core/TarnObject.h"
+#include "family/TarnUtil/core/Units.h"
+#include "family/VornChart/VornChartApp.h"
+#include "family/VornChart/core/VornLog.h"
+
+#include "aviation/ConversionBoy.h"
+#include "config/AppRegData.h"
+#include "config/AppRegMgr.h"
+#include "config/GlobalRegData.h"
+#include "frame/ProgramVersion.h"
+#include "frame/SystemVersion.h"
+#include "frame/VornCommonApp.h"
+#include "frame/VornStrings.h"
+#include "frame/WindowPlacement.h"
