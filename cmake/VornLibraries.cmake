@@ -18,6 +18,16 @@ endfunction()
 vorn_library(HostFramework HOSTFRAMEWORK_BUILD framework)
 target_link_libraries(HostFramework PUBLIC comctl32 comdlg32 winspool shell32 ole32 uuid oleaut32 version gdi32)
 
+# The entry of hosts that have an application object and no main function of their own. Every
+# program that links the framework may take it; its own main or WinMain goes before.
+add_library(HostFrameworkMain STATIC framework/start/WinMain.cpp)
+target_link_libraries(HostFrameworkMain PRIVATE $<BUILD_INTERFACE:vorn_flags> PUBLIC HostFramework)
+add_library(Vorn::HostFrameworkMain ALIAS HostFrameworkMain)
+set_property(GLOBAL APPEND PROPERTY VORN_LIBRARIES HostFrameworkMain)
+target_link_libraries(HostFramework INTERFACE HostFrameworkMain)
+target_link_options(HostFramework INTERFACE
+    "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:LINKER:-u,_WinMain@16>")
+
 vorn_library(TarnUtil TARNUTIL_BUILD family/TarnUtil)
 target_link_libraries(TarnUtil PUBLIC HostFramework)
 

@@ -2,8 +2,8 @@
 
 /// @file
 /// Base of every object that takes part in message maps and command routing.
-#include "framework/core/Object.h"
 #include "framework/core/Export.h"
+#include "framework/core/Object.h"
 #include "framework/window/MessageMap.h"
 
 /// Filled in by CCmdTarget::OnCmdMsg when a caller asks who would handle a command.

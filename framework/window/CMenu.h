@@ -2,9 +2,9 @@
 
 /// @file
 /// Menu handle wrapper.
-#include "framework/core/Object.h"
 #include "framework/core/CString.h"
 #include "framework/core/Export.h"
+#include "framework/core/Object.h"
 
 class CBitmap;
 class CWnd;

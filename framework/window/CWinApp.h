@@ -128,7 +128,9 @@ HOSTFRAMEWORK_API LPCTSTR AfxGetAppName();
 
 /// Start-up of a program that has its own main function. Sets instance, command line and names.
 HOSTFRAMEWORK_API BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
-/// The whole life of a windowed program: start-up, InitInstance, Run.
+/// The whole life of a windowed program: start-up, InitInstance, Run. A host that links the framework's import library
+/// together with HostFrameworkMain (the CMake targets do so by themselves) and has no main function of its own starts
+/// here.
 /// @return exit status
 HOSTFRAMEWORK_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);
 HOSTFRAMEWORK_API void AfxWinTerm();

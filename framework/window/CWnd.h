@@ -2,15 +2,19 @@
 
 /// @file
 /// Window handle wrapper: the base of all window classes.
-#include "framework/core/CPoint.h"
-#include "framework/core/CRect.h"
 #include "framework/core/CString.h"
+#include "framework/core/Geometry.h"
 #include "framework/window/CCmdTarget.h"
 
 #include <commctrl.h>
 #include <shellapi.h>
 #include <windows.h>
 
+// The system's header turns these names into macros with other arguments.
+#undef GetNextWindow
+#undef SubclassWindow
+
+class CBitmap;
 class CDataExchange;
 class CFont;
 class CFrameWnd;
@@ -122,7 +126,6 @@ public:
     /// IsDialogMessage, for windows used like dialogs.
     BOOL PreTranslateInput(LPMSG lpMsg);
     BOOL IsDialogMessage(LPMSG lpMsg);
-    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
     // --- Reflection ------------------------------------------------------------------------
 
@@ -515,17 +518,23 @@ public:
         kStateUser = 0x0100          ///< first bit free for derived classes of the framework
     };
 
+    /// Takes the object off its window without touching the window, which is going or gone.
+    void ForgetWindow();
+
 protected:
     UINT m_nFlags;
     WNDPROC m_pfnSuper; ///< the window's procedure before subclassing
     int m_nModalResult;
     HWND m_hWndOwner; ///< SetOwner's choice
 
-    /// Binds the object at the start of creation; called by the creation hook.
-    void BindCreated(HWND hWnd);
-    friend struct AfxWindowCreation;
-    friend struct AfxWindowDispatch;
-    friend class CCmdUI;
+private:
+    explicit CWnd(HWND hWnd); // the four place marks for SetWindowPos
+    BOOL AttachAndSubclass(HWND hWnd);
+    void TakeOver(HWND hWnd);
+    BOOL FinishFailedCreation(BOOL bound);
+    BOOL IsPlaceMark() const;
+    void EndMainWindow();
+    friend struct AfxWindowAccess;
 
     DECLARE_MESSAGE_MAP()
 };
@@ -533,7 +542,7 @@ protected:
 /// The next window created on this thread will belong to @p pWnd. For callers of creation functions other than
 /// CreateEx, such as dialogs from templates.
 HOSTFRAMEWORK_API void AfxHookWindowCreate(CWnd* pWnd);
-/// Takes the hook away. @return FALSE when the window was never created (the hook was still waiting)
+/// Takes the hook away. @return FALSE when no window was created (the hook was still waiting)
 HOSTFRAMEWORK_API BOOL AfxUnhookWindowCreate();
 /// Calls the object's WindowProc, keeping the current message right and catching exceptions.
 HOSTFRAMEWORK_API LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam = 0, LPARAM lParam = 0);
@@ -559,3 +568,7 @@ struct AFX_SIZEPARENTPARAMS
     SIZE sizeTotal; ///< what the bars take together
     BOOL bStretch;
 };
+
+/// Moves a window as part of a layout (or at once without one), unless it is there already.
+/// With a layout that only asks, nothing moves.
+HOSTFRAMEWORK_API void AfxRepositionWindow(AFX_SIZEPARENTPARAMS* lpLayout, HWND hWnd, LPCRECT lpRect);

@@ -2,8 +2,8 @@
 
 /// @file
 /// What a message map's entry point receives, and the pieces that handlers take from it.
-#include "framework/core/CPoint.h"
 #include "framework/core/Export.h"
+#include "framework/core/Geometry.h"
 
 #include <windows.h>
 

@@ -4,9 +4,9 @@
 /// Which modules make up the program, and where resources are looked up: first in the
 /// application's resource module, then in the extension modules, newest first, then in the
 /// framework itself.
-#include "framework/core/Object.h"
 #include "framework/core/CString.h"
 #include "framework/core/Export.h"
+#include "framework/core/Object.h"
 
 #include <windows.h>
 
@@ -24,7 +24,7 @@ struct AFX_EXTENSION_MODULE
 /// @return FALSE when the record cannot be used
 HOSTFRAMEWORK_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
 /// Called at DLL_PROCESS_DETACH. Takes the module out of the resource chain and deletes its CDynLinkLibrary objects.
-/// @param bAll TRUE also for CDynLinkLibrary objects made elsewhere for this module
+/// @param bAll TRUE: those of all extension modules
 HOSTFRAMEWORK_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
 
 /// An extension module's link in the resource chain. Made with new in DllMain; deleted by

@@ -130,9 +130,12 @@ inline constexpr UINT AFX_WM_CTLCOLOR = 0x0019;
     AFX_WM_VOID(WM_MOUSEHWHEEL, OnMouseHWheel, (UINT, short, CPoint), (call.LoWordW(), call.ShortHiW(), call.PointL()))
 #define ON_WM_MOUSELEAVE() AFX_WM_VOID(WM_MOUSELEAVE, OnMouseLeave, (), ())
 #define ON_WM_MOUSEMOVE() AFX_WM_VOID(WM_MOUSEMOVE, OnMouseMove, (UINT, CPoint), (call.UintW(), call.PointL()))
+/// A handler that answers FALSE lets the wheel go on to the parent.
 #define ON_WM_MOUSEWHEEL()                                                                                             \
-    AFX_WM_VALUE(WM_MOUSEWHEEL, OnMouseWheel, BOOL, (UINT, short, CPoint),                                             \
-                 (call.LoWordW(), call.ShortHiW(), call.PointL()))
+    AFX_ID_ENTRY(WM_MOUSEWHEEL, 0, 0, 0,                                                                               \
+                 call.Answer(AFX_BIND(&ThisClass::OnMouseWheel, BOOL,                                                  \
+                                      (UINT, short, CPoint))(call.LoWordW(), call.ShortHiW(), call.PointL()));         \
+                 return call.result != 0;)
 #define ON_WM_MOVE() AFX_WM_VOID(WM_MOVE, OnMove, (int, int), (call.IntLoL(), call.IntHiL()))
 #define ON_WM_MOVING() AFX_WM_VOID(WM_MOVING, OnMoving, (UINT, LPRECT), (call.UintW(), call.PointerL<LPRECT>()))
 #define ON_WM_NCACTIVATE() AFX_WM_VALUE(WM_NCACTIVATE, OnNcActivate, BOOL, (BOOL), (call.BoolW()))
@@ -190,6 +193,7 @@ inline constexpr UINT AFX_WM_CTLCOLOR = 0x0019;
 #define ON_WM_SETFOCUS() AFX_WM_VOID(WM_SETFOCUS, OnSetFocus, (CWnd*), (call.WndW()))
 #define ON_WM_SETTINGCHANGE()                                                                                          \
     AFX_WM_VOID(WM_SETTINGCHANGE, OnSettingChange, (UINT, LPCTSTR), (call.UintW(), call.PointerL<LPCTSTR>()))
+#define ON_WM_WININICHANGE() AFX_WM_VOID(WM_WININICHANGE, OnWinIniChange, (LPCTSTR), (call.PointerL<LPCTSTR>()))
 #define ON_WM_SHOWWINDOW()                                                                                             \
     AFX_WM_VOID(WM_SHOWWINDOW, OnShowWindow, (BOOL, UINT), (call.BoolW(), static_cast<UINT>(call.lParam)))
 #define ON_WM_SIZE() AFX_WM_VOID(WM_SIZE, OnSize, (UINT, int, int), (call.UintW(), call.IntLoL(), call.IntHiL()))
