@@ -1,6 +1,6 @@
 #include "config/HostName.h"
 
-#include <windows.h>
+#include "framework/include/afxwin.h"
 
 namespace vorn
 {
@@ -8,16 +8,17 @@ namespace
 {
 std::string ExecutableName()
 {
-    char path[MAX_PATH];
-    const DWORD length = GetModuleFileNameA(nullptr, path, MAX_PATH);
-    const std::string file(path, length < MAX_PATH ? length : MAX_PATH - 1);
-    const std::string name = file.substr(file.find_last_of('\\') + 1);
+    std::string path(32767, '\0'); // characters, the longest path of the system
+    path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    const std::string name = path.substr(path.find_last_of('\\') + 1);
     return name.substr(0, name.find_last_of('.'));
 }
 } // namespace
 
 std::string HostName()
 {
-    return ExecutableName();
+    const CWinApp* app = AfxGetApp();
+    const char* name = app ? app->m_pszAppName : nullptr;
+    return name && *name ? std::string(name) : ExecutableName();
 }
 } // namespace vorn

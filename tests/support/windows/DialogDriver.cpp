@@ -1,62 +1,123 @@
+#ifdef _WIN32
 #include "tests/support/DialogDriver.h"
 
-#include <cstring>
-#include <utility>
+#include <gtest/gtest.h>
 
-namespace vorn::test
-{
+#include <map>
 
 namespace
 {
+constexpr UINT kInterval = 10;         // milliseconds between steps
+constexpr DWORD kPatience = 10 * 1000; // milliseconds for a driver's step
+constexpr DWORD kPumpPatience = 5 * 1000;
 
-constexpr UINT kPeriodMilliseconds = 15;
-
-DialogDriver* s_innermost = nullptr;
-
-bool IsShownDialog(HWND window)
+std::map<UINT_PTR, DialogDriver*>& Drivers()
 {
-    char name[16] = "";
-    GetClassNameA(window, name, sizeof name);
-    return std::strcmp(name, "#32770") == 0 && IsWindowVisible(window) != FALSE;
+    static std::map<UINT_PTR, DialogDriver*> drivers;
+    return drivers;
 }
 
+bool IsPast(DWORD deadline)
+{
+    return static_cast<int>(::GetTickCount() - deadline) > 0;
+}
+
+BOOL CALLBACK CancelDialog(HWND window, LPARAM)
+{
+    ::PostMessageA(window, WM_COMMAND, IDCANCEL, 0);
+    return TRUE;
+}
+
+struct Search
+{
+    const char* title;
+    HWND found;
+};
+
+BOOL CALLBACK CompareTitle(HWND window, LPARAM parameter)
+{
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    char className[16] = {};
+    char title[128] = {};
+    ::GetClassNameA(window, className, sizeof(className));
+    ::GetWindowTextA(window, title, sizeof(title));
+    if (::lstrcmpA(className, "#32770") == 0 && ::lstrcmpA(title, search.title) == 0 && ::IsWindowVisible(window))
+        search.found = window;
+    return search.found == nullptr;
+}
 } // namespace
 
-DialogDriver::DialogDriver(std::function<bool(HWND)> action)
-    : m_action(std::move(action)), m_outer(std::exchange(s_innermost, this)),
-      m_timer(SetTimer(nullptr, 0, kPeriodMilliseconds, OnTimer))
+DialogDriver::DialogDriver(Step step)
+    : m_step(std::move(step)), m_timer(::SetTimer(nullptr, 0, kInterval, OnTimer)),
+      m_deadline(::GetTickCount() + kPatience)
 {
+    Drivers()[m_timer] = this;
 }
 
 DialogDriver::~DialogDriver()
 {
-    KillTimer(nullptr, m_timer);
-    s_innermost = m_outer;
+    ::KillTimer(nullptr, m_timer);
+    Drivers().erase(m_timer);
+}
+
+bool DialogDriver::IsDone() const
+{
+    return m_done;
 }
 
 void CALLBACK DialogDriver::OnTimer(HWND, UINT, UINT_PTR id, DWORD)
 {
-    for (DialogDriver* driver = s_innermost; driver != nullptr; driver = driver->m_outer)
-    {
-        if (driver->m_timer == id && !driver->m_done && !driver->m_busy)
-        {
-            EnumThreadWindows(GetCurrentThreadId(), OnWindow, reinterpret_cast<LPARAM>(driver));
-            return;
-        }
-    }
+    const auto driver = Drivers().find(id);
+    if (driver != Drivers().end())
+        driver->second->Run();
 }
 
-BOOL CALLBACK DialogDriver::OnWindow(HWND window, LPARAM parameter)
+void DialogDriver::Run()
 {
-    auto& driver = *reinterpret_cast<DialogDriver*>(parameter);
-    if (!IsShownDialog(window))
-    {
-        return TRUE;
-    }
-    driver.m_busy = true; // the action may run messages of its own
-    driver.m_done = driver.m_action(window);
-    driver.m_busy = false;
-    return driver.m_done ? FALSE : TRUE;
+    // The step may open a dialog of its own, whose loop brings the timer here again.
+    if (m_done || m_running)
+        return;
+    m_running = true;
+    m_done = m_step();
+    m_running = false;
+    if (!m_done && IsPast(m_deadline))
+        GiveUp();
 }
 
-} // namespace vorn::test
+void DialogDriver::GiveUp()
+{
+    m_done = true;
+    ADD_FAILURE() << "the dialog did not come to the expected state";
+    ::EnumThreadWindows(::GetCurrentThreadId(), CancelDialog, 0);
+}
+
+void PumpWaiting()
+{
+    MSG message;
+    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+    {
+        ::TranslateMessage(&message);
+        ::DispatchMessageA(&message);
+    }
+}
+
+bool PumpUntil(const std::function<bool()>& condition)
+{
+    const DWORD deadline = ::GetTickCount() + kPumpPatience;
+    while (!condition())
+    {
+        if (IsPast(deadline))
+            return false;
+        PumpWaiting();
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kInterval, QS_ALLINPUT);
+    }
+    return true;
+}
+
+HWND FindDialog(const char* title)
+{
+    Search search{title, nullptr};
+    ::EnumThreadWindows(::GetCurrentThreadId(), CompareTitle, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+#endif
