@@ -7,6 +7,7 @@ function(vorn_program name folder)
     endif()
     add_executable(${name} ${ARGN} ${sources})
     target_link_libraries(${name} PRIVATE vorn_flags VornCommon)
+    target_compile_definitions(${name} PRIVATE VORN_VERSION="${PROJECT_VERSION}")
     set_property(GLOBAL APPEND PROPERTY VORN_PROGRAMS ${name})
 endfunction()
 
