@@ -7,7 +7,8 @@
 namespace vorn::bench
 {
 /// Times an operation against a yardstick in turns of the same run, so that whatever slows one slows the other. Reports
-/// the time of a turn (so many calls), that of one call of each as "call_ns" and "yardstick_ns", and "ratio" of the two.
+/// the time of a turn (so many calls), that of one call of each as "call_ns" and "yardstick_ns", and "ratio" of the
+/// two.
 template <class Operation, class Yardstick>
 void Compare(benchmark::State& state, int callsInTurn, Operation operation, Yardstick yardstick)
 {
