@@ -2,6 +2,7 @@
 
 /// @file
 /// Windows, threads, the application: the framework's central header.
+#include "framework/include/afx.h"
 #include "framework/include/afxres.h"
 #include "framework/window/CCmdTarget.h"
 #include "framework/window/CCmdUI.h"

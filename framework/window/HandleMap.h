@@ -6,6 +6,8 @@
 /// most one temporary object (made on demand by FromHandle for handles nobody wraps).
 /// Temporary objects live until the idle time of the message loop in which they were made:
 /// a loop nested inside a handler (a modal dialog) never frees what the handler still holds.
+#include "framework/core/Export.h"
+
 #include <windows.h>
 
 #include <array>
@@ -41,14 +43,14 @@ public:
 };
 
 /// Nesting depth of message loops on this thread; temporary objects remember it.
-int CurrentLoopDepth();
+HOSTFRAMEWORK_API int CurrentLoopDepth();
 
 /// This thread's map of one kind, null until first used.
-std::unique_ptr<HandleMapBase>& ThreadHandleMapSlot(HandleKind kind);
+HOSTFRAMEWORK_API std::unique_ptr<HandleMapBase>& ThreadHandleMapSlot(HandleKind kind);
 
 /// Frees, in every map of this thread, the temporary objects of the running message loop.
 /// Called at idle time and at the end of a loop.
-void FreeTemporaryObjects();
+HOSTFRAMEWORK_API void FreeTemporaryObjects();
 
 /// Handle map. @p Traits names the types and makes temporary objects:
 /// @code

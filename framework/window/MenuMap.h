@@ -8,7 +8,7 @@
 namespace vorn
 {
 
-struct MenuTraits
+struct HOSTFRAMEWORK_API MenuTraits
 {
     using Object = CMenu;
     using Handle = HMENU;

@@ -15,6 +15,6 @@ const AFX_MSGMAP_ENTRY* FindMessageEntry(const AFX_MSGMAP* map, UINT message);
 const AFX_MSGMAP_ENTRY* FindCommandEntry(const AFX_MSGMAP* map, UINT message, UINT code, UINT id);
 
 /// How many times FindMessageEntry had to search because the cache did not know (for tests).
-long MessageSearchCount();
+HOSTFRAMEWORK_API long MessageSearchCount();
 
 } // namespace vorn

@@ -65,7 +65,7 @@ void ReleaseThreadState();
 void ReleaseThreadSlot();
 
 /// Raises the loop depth for a scope, and frees what temporary objects the loop leaves.
-class LoopScope
+class HOSTFRAMEWORK_API LoopScope
 {
 public:
     LoopScope();

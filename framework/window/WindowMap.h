@@ -8,7 +8,7 @@
 namespace vorn
 {
 
-struct WindowTraits
+struct HOSTFRAMEWORK_API WindowTraits
 {
     using Object = CWnd;
     using Handle = HWND;
