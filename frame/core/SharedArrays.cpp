@@ -1,5 +1,7 @@
 #include "frame/core/SharedArrays.h"
 
+#include "framework/core/SpinLock.h"
+
 #include <atomic>
 #include <memory>
 #include <mutex>
@@ -20,7 +22,7 @@ struct SharedArray
 };
 
 constinit std::atomic<SharedArray*> g_first = nullptr;
-constinit std::mutex g_mutex;
+constinit SpinLock g_lock;
 
 SharedArray* Find(const char* array)
 {
@@ -50,7 +52,7 @@ void AddHolder(const char* array)
 {
     if (array == nullptr)
         return;
-    const std::lock_guard lock(g_mutex);
+    const std::lock_guard lock(g_lock);
     SharedArray* const entry = Find(array);
     if (entry != nullptr)
         ++entry->holders;
@@ -62,7 +64,7 @@ bool RemoveHolder(const char* array)
 {
     if (array == nullptr || g_first.load() == nullptr)
         return true;
-    const std::lock_guard lock(g_mutex);
+    const std::lock_guard lock(g_lock);
     SharedArray* const entry = Find(array);
     if (entry == nullptr)
         return true;
