@@ -1,5 +1,6 @@
 #include "framework/app/AppState.h"
 #include "framework/core/Exception.h"
+#include "framework/core/StringData.h"
 #include "framework/window/CWinApp.h"
 #include "framework/window/ThreadState.h"
 
@@ -37,6 +38,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID processEnd
         vorn::ReleaseThreadState();
         vorn::UnregisterClasses();
         vorn::ReleaseThreadSlot();
+        vorn::CloseStringPool();
     }
     return TRUE;
 }

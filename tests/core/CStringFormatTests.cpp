@@ -1,6 +1,7 @@
 #include "framework/core/CString.h"
 
 #include "framework/core/OleException.h"
+#include "tests/support/Thrown.h"
 
 #include <climits>
 #include <cmath>
@@ -180,5 +181,5 @@ TEST(CStringFormat, AppendsToTheText)
 TEST(CStringFormat, ANullFormatThrowsInvalidArgument)
 {
     const char* format = nullptr;
-    EXPECT_THROW(FormattedV(format), COleException*);
+    EXPECT_THROWN(FormattedV(format), COleException);
 }

@@ -1,6 +1,7 @@
 #include "framework/core/CString.h"
 
 #include "framework/core/OleException.h"
+#include "tests/support/Thrown.h"
 
 #include <climits>
 #include <gtest/gtest.h>
@@ -198,7 +199,7 @@ TEST(CStringTokenize, MovesTheStartOnAndEndsWithMinusOne)
     EXPECT_GE(at, 5);
     EXPECT_EQ(text.Tokenize(";", at), "");
     EXPECT_EQ(at, -1);
-    EXPECT_THROW(text.Tokenize(";", at), COleException*);
+    EXPECT_THROWN(text.Tokenize(";", at), COleException);
     at = INT_MAX;
     EXPECT_EQ(text.Tokenize(";", at), "");
     EXPECT_EQ(at, -1);

@@ -2,6 +2,7 @@
 
 #include "framework/core/FileException.h"
 #include "framework/core/OleException.h"
+#include "tests/support/Thrown.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -77,7 +78,7 @@ TEST(Exception, AtlThrowCarriesTheCode)
         error->Delete();
     }
     EXPECT_THROW(AtlThrow(E_OUTOFMEMORY), CMemoryException*);
-    EXPECT_THROW(AfxThrowOleException(E_FAIL), COleException*);
+    EXPECT_THROWN(AfxThrowOleException(E_FAIL), COleException);
 }
 
 TEST(Exception, ResultCodesStandForOtherKinds)

@@ -1,6 +1,7 @@
 #include "framework/core/Time.h"
 
 #include "framework/core/OleException.h"
+#include "tests/support/Thrown.h"
 
 #include <climits>
 #include <gtest/gtest.h>
@@ -92,18 +93,18 @@ TEST(Time, FieldsOfAnImpossibleMomentAreZeroOrMinusOne)
         EXPECT_EQ(time.GetSecond(), -1);
         SYSTEMTIME system{};
         EXPECT_FALSE(time.GetAsSystemTime(system));
-        EXPECT_THROW(time.FormatGmt("%Y"), COleException*);
-        EXPECT_THROW(time.Format("%Y"), COleException*);
+        EXPECT_THROWN(time.FormatGmt("%Y"), COleException);
+        EXPECT_THROWN(time.Format("%Y"), COleException);
     }
     EXPECT_EQ(CTime(32535215999LL).FormatGmt("%Y-%m-%d %H:%M:%S"), "3000-12-31 23:59:59");
 }
 
 TEST(Time, NullArgumentsThrowInvalidArgument)
 {
-    EXPECT_THROW(CTime(0).FormatGmt(nullptr), COleException*);
-    EXPECT_THROW(CTime(0).GetGmtTm(nullptr), COleException*);
-    EXPECT_THROW(CTime(0).GetLocalTm(nullptr), COleException*);
-    EXPECT_THROW(CTimeSpan(0).Format(nullptr), COleException*);
+    EXPECT_THROWN(CTime(0).FormatGmt(nullptr), COleException);
+    EXPECT_THROWN(CTime(0).GetGmtTm(nullptr), COleException);
+    EXPECT_THROWN(CTime(0).GetLocalTm(nullptr), COleException);
+    EXPECT_THROWN(CTimeSpan(0).Format(nullptr), COleException);
 }
 
 TEST(Time, ConvertsFileTimes)
