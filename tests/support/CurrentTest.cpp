@@ -13,6 +13,7 @@ namespace
 {
 
 std::string s_current = "(no test)";
+std::string s_note;
 
 class Follower : public testing::EmptyTestEventListener
 {
@@ -47,6 +48,16 @@ std::string CurrentTestFileName()
         },
         '_');
     return name;
+}
+
+const char* CrashNote()
+{
+    return s_note.c_str();
+}
+
+void SetCrashNote(const std::string& note)
+{
+    s_note = note.empty() ? note : " (" + note + ")";
 }
 
 void FollowCurrentTest()

@@ -24,10 +24,10 @@ missing_of() {
     local package installed native
     native=$(dpkg --print-architecture)
     # shellcheck disable=SC2016 # the format is dpkg's
-    installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}:${Architecture}\n' "${@%%:*}" 2> /dev/null |
-        sed -n 's/^installed //p')
+    installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}:${Architecture}\n' "${@%%:*}" 2> /dev/null || true)
     for package in "$@"; do
-        grep -qxF -e "$package" -e "$package:$native" -e "$package:all" <<< "$installed" || printf '%s\n' "$package"
+        grep -qxF -e "installed $package" -e "installed $package:$native" -e "installed $package:all" <<< "$installed" ||
+            printf '%s\n' "$package"
     done
 }
 

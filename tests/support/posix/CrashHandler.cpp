@@ -29,7 +29,7 @@ void PrintStack()
 // Unused where the sanitizer reports crashes itself.
 [[maybe_unused]] void OnCrash(int signal)
 {
-    std::fprintf(stderr, "\nCRASH in %s: %s\n", CurrentTestName(), strsignal(signal));
+    std::fprintf(stderr, "\nCRASH in %s%s: %s\n", CurrentTestName(), CrashNote(), strsignal(signal));
     std::fflush(stderr);
     PrintStack();
     _exit(kCrashExitCode);
@@ -75,7 +75,7 @@ void InstallCrashHandler()
 
 void EndAsHung(int seconds)
 {
-    std::fprintf(stderr, "\nHANG in %s: not done after %d s\n", CurrentTestName(), seconds);
+    std::fprintf(stderr, "\nHANG in %s%s: not done after %d s\n", CurrentTestName(), CrashNote(), seconds);
     std::fflush(stderr);
     pthread_kill(s_mainThread, SIGUSR2);
     sleep(2);

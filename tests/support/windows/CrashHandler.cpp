@@ -32,7 +32,7 @@ HANDLE s_mainThread = nullptr;
 LONG WINAPI OnUnhandledException(EXCEPTION_POINTERS* pointers)
 {
     const EXCEPTION_RECORD& record = *pointers->ExceptionRecord;
-    std::fprintf(stderr, "\nCRASH in %s: exception %08lx", CurrentTestName(), record.ExceptionCode);
+    std::fprintf(stderr, "\nCRASH in %s%s: exception %08lx", CurrentTestName(), CrashNote(), record.ExceptionCode);
     if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2)
     {
         std::fprintf(stderr, " (%s at %08lx)", record.ExceptionInformation[0] == 0 ? "reading" : "writing",
@@ -45,7 +45,7 @@ LONG WINAPI OnUnhandledException(EXCEPTION_POINTERS* pointers)
 
 [[noreturn]] void EndHere(const char* what)
 {
-    std::fprintf(stderr, "\nCRASH in %s: %s\n", CurrentTestName(), what);
+    std::fprintf(stderr, "\nCRASH in %s%s: %s\n", CurrentTestName(), CrashNote(), what);
     CONTEXT context = {};
     RtlCaptureContext(&context);
     PrintStack(context);
@@ -78,7 +78,7 @@ void InstallCrashHandler()
 
 void EndAsHung(int seconds)
 {
-    std::fprintf(stderr, "\nHANG in %s: not done after %d s\n", CurrentTestName(), seconds);
+    std::fprintf(stderr, "\nHANG in %s%s: not done after %d s\n", CurrentTestName(), CrashNote(), seconds);
     CONTEXT context = {};
     context.ContextFlags = CONTEXT_CONTROL;
     SuspendThread(s_mainThread);
