@@ -7,7 +7,7 @@
 /// version resource.
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {
-    const std::string_view Text(reinterpret_cast<const char*>(data), size);
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
     if (const auto placement = vorn::ParsePlacement(text))
     {
         if (vorn::ParsePlacement(vorn::PlacementText(*placement)) != placement)

@@ -12,7 +12,8 @@ set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse -mstackrealign")
 
 get_filename_component(VORN_ROOT "${CMAKE_CURRENT_LIST_DIR}/../.." ABSOLUTE)
 set(VORN_DEPS "${VORN_ROOT}/build/deps/windows-x86" CACHE PATH "Prefix of the cross-built third-party libraries")
-set(CMAKE_FIND_ROOT_PATH /usr/i686-w64-mingw32 "${VORN_DEPS}" "${CMAKE_PREFIX_PATH}" "${CMAKE_INSTALL_PREFIX}")
+# Our own static builds come before whatever the machine has installed for this target.
+set(CMAKE_FIND_ROOT_PATH "${VORN_DEPS}" /usr/i686-w64-mingw32 "${CMAKE_PREFIX_PATH}" "${CMAKE_INSTALL_PREFIX}")
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

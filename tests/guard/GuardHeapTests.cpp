@@ -93,9 +93,9 @@ TEST(GuardHeapDeathTest, ReportsABlockFreedTwice)
 {
     EXPECT_EXIT(
         {
-            void* const block = Hidden(std::malloc(10));
-            std::free(block);
-            std::free(block);
+            void* const block = std::malloc(10);
+            std::free(Hidden(block));
+            std::free(Hidden(block));
         },
         EndsAsCrash, "freed twice");
 }
@@ -152,7 +152,7 @@ TEST(GuardHeap, UsesTheAddressesAgainAfterOneRound)
     const std::size_t before = vorn::guard::LivingBlocks();
     for (int i = 0; i < 0x12000; ++i) // two pages each: more than the range has
     {
-        delete[] new char[10];
+        delete[] Hidden(new char[10]);
     }
     EXPECT_EQ(vorn::guard::LivingBlocks(), before);
 }
