@@ -2,6 +2,16 @@
 
 /// @file
 /// Windows, threads, the application: the framework's central header.
+#include "framework/gdi/CBitmap.h"
+#include "framework/gdi/CBrush.h"
+#include "framework/gdi/CClientDC.h"
+#include "framework/gdi/CDC.h"
+#include "framework/gdi/CFont.h"
+#include "framework/gdi/CPaintDC.h"
+#include "framework/gdi/CPalette.h"
+#include "framework/gdi/CPen.h"
+#include "framework/gdi/CRgn.h"
+#include "framework/gdi/CWindowDC.h"
 #include "framework/include/afx.h"
 #include "framework/include/afxres.h"
 #include "framework/window/CCmdTarget.h"

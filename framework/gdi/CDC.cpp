@@ -1,0 +1,174 @@
+#include "framework/gdi/CDC.h"
+#include "framework/gdi/DeviceContextMap.h"
+#include "framework/gdi/GdiHelpers.h"
+#include "framework/window/CWnd.h"
+
+IMPLEMENT_DYNCREATE(CDC, CObject)
+
+CDC* vorn::DeviceContextTraits::MakeTemporary(HDC handle)
+{
+    auto dc = std::make_unique<CDC>();
+    dc->m_hDC = handle;
+    dc->m_hAttribDC = handle;
+    return dc.release();
+}
+
+void vorn::DeviceContextTraits::FreeTemporary(CDC* object)
+{
+    object->m_hDC = nullptr;
+    object->m_hAttribDC = nullptr;
+    const std::unique_ptr<CDC> owner(object);
+}
+
+CDC::CDC() = default;
+
+CDC::~CDC()
+{
+    if (m_hDC)
+        ::DeleteDC(Detach());
+}
+
+CDC::operator HDC() const
+{
+    return m_hDC;
+}
+
+HDC CDC::GetSafeHdc() const
+{
+    return m_hDC;
+}
+
+CWnd* CDC::GetWindow() const
+{
+    return CWnd::FromHandle(::WindowFromDC(m_hDC));
+}
+
+CDC* PASCAL CDC::FromHandle(HDC dc)
+{
+    return vorn::DeviceContextMap().FromHandle(dc);
+}
+
+void PASCAL CDC::DeleteTempMap()
+{
+    vorn::DeviceContextMap().FreeTemporary(vorn::CurrentLoopDepth());
+}
+
+BOOL CDC::Attach(HDC dc)
+{
+    if (!dc || m_hDC)
+        return FALSE;
+    vorn::DeviceContextMap().SetPermanent(dc, this);
+    m_hDC = dc;
+    SetAttribDC(dc);
+    return TRUE;
+}
+
+HDC CDC::Detach()
+{
+    HDC dc = m_hDC;
+    auto& map = vorn::DeviceContextMap();
+    if (dc && map.LookupPermanent(dc) == this)
+        map.RemovePermanent(dc);
+    ReleaseAttribDC();
+    m_hDC = nullptr;
+    return dc;
+}
+
+void CDC::SetAttribDC(HDC dc)
+{
+    m_hAttribDC = dc;
+}
+
+void CDC::SetOutputDC(HDC dc)
+{
+    m_hDC = dc;
+}
+
+void CDC::ReleaseAttribDC()
+{
+    m_hAttribDC = nullptr;
+}
+
+void CDC::ReleaseOutputDC()
+{
+    m_hDC = nullptr;
+}
+
+BOOL CDC::CreateDC(LPCSTR driverName, LPCSTR deviceName, LPCSTR output, const void* initData)
+{
+    return Attach(::CreateDC(driverName, deviceName, output, static_cast<const DEVMODE*>(initData)));
+}
+
+BOOL CDC::CreateIC(LPCSTR driverName, LPCSTR deviceName, LPCSTR output, const void* initData)
+{
+    return Attach(::CreateIC(driverName, deviceName, output, static_cast<const DEVMODE*>(initData)));
+}
+
+BOOL CDC::CreateCompatibleDC(CDC* dc)
+{
+    return Attach(::CreateCompatibleDC(vorn::HandleOf(dc)));
+}
+
+BOOL CDC::DeleteDC()
+{
+    return m_hDC ? ::DeleteDC(Detach()) : FALSE;
+}
+
+int CDC::SaveDC()
+{
+    return vorn::OnBoth(*this, ::SaveDC);
+}
+
+BOOL CDC::RestoreDC(int savedDC)
+{
+    return vorn::OnBoth(*this, ::RestoreDC, savedDC);
+}
+
+BOOL CDC::ResetDC(const DEVMODE* deviceMode)
+{
+    return ::ResetDC(m_hAttribDC, deviceMode) != nullptr;
+}
+
+int CDC::GetDeviceCaps(int index) const
+{
+    return ::GetDeviceCaps(m_hAttribDC, index);
+}
+
+UINT CDC::SetBoundsRect(const RECT* rect, UINT flags)
+{
+    return ::SetBoundsRect(m_hDC, rect, flags);
+}
+
+UINT CDC::GetBoundsRect(LPRECT rect, UINT flags)
+{
+    return ::GetBoundsRect(m_hAttribDC, rect, flags);
+}
+
+BOOL CDC::IsPrinting() const
+{
+    return m_bPrinting;
+}
+
+BOOL CDC::EnumObjects(int objectType, int(CALLBACK* function)(LPVOID, LPARAM), LPARAM data)
+{
+    return ::EnumObjects(m_hAttribDC, objectType, function, data);
+}
+
+CPoint CDC::GetBrushOrg() const
+{
+    CPoint origin(0, 0);
+    ::GetBrushOrgEx(m_hDC, &origin);
+    return origin;
+}
+
+CPoint CDC::SetBrushOrg(int x, int y)
+{
+    CPoint former(0, 0);
+    ::SetBrushOrgEx(m_hDC, x, y, &former);
+    return former;
+}
+
+CPoint CDC::SetBrushOrg(POINT point)
+{
+    return SetBrushOrg(point.x, point.y);
+}

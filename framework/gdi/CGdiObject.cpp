@@ -1,0 +1,87 @@
+#include "framework/gdi/CGdiObject.h"
+#include "framework/gdi/GdiObjectMap.h"
+
+IMPLEMENT_DYNCREATE(CGdiObject, CObject)
+
+CGdiObject::CGdiObject() = default;
+
+CGdiObject::~CGdiObject()
+{
+    if (m_hObject)
+        DeleteObject();
+}
+
+HGDIOBJ CGdiObject::GetSafeHandle() const
+{
+    return m_hObject;
+}
+
+CGdiObject::operator HGDIOBJ() const
+{
+    return m_hObject;
+}
+
+CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ object)
+{
+    return vorn::GdiObjectMap().FromHandle(object);
+}
+
+void PASCAL CGdiObject::DeleteTempMap()
+{
+    vorn::GdiObjectMap().FreeTemporary(vorn::CurrentLoopDepth());
+}
+
+BOOL CGdiObject::Attach(HGDIOBJ object)
+{
+    if (!object || m_hObject)
+        return FALSE;
+    vorn::GdiObjectMap().SetPermanent(object, this);
+    m_hObject = object;
+    return TRUE;
+}
+
+HGDIOBJ CGdiObject::Detach()
+{
+    HGDIOBJ object = m_hObject;
+    // A stock handle may be held by several objects: only the one on record is forgotten.
+    auto& map = vorn::GdiObjectMap();
+    if (object && map.LookupPermanent(object) == this)
+        map.RemovePermanent(object);
+    m_hObject = nullptr;
+    return object;
+}
+
+BOOL CGdiObject::DeleteObject()
+{
+    return m_hObject ? ::DeleteObject(Detach()) : FALSE;
+}
+
+int CGdiObject::GetObject(int size, void* buffer) const
+{
+    return ::GetObject(m_hObject, size, buffer);
+}
+
+UINT CGdiObject::GetObjectType() const
+{
+    return ::GetObjectType(m_hObject);
+}
+
+BOOL CGdiObject::CreateStockObject(int index)
+{
+    return Attach(::GetStockObject(index));
+}
+
+BOOL CGdiObject::UnrealizeObject()
+{
+    return ::UnrealizeObject(m_hObject);
+}
+
+BOOL CGdiObject::operator==(const CGdiObject& other) const
+{
+    return m_hObject == other.m_hObject;
+}
+
+BOOL CGdiObject::operator!=(const CGdiObject& other) const
+{
+    return m_hObject != other.m_hObject;
+}
