@@ -1,0 +1,12 @@
+#include "apps/vorntool/Commands.h"
+
+namespace vorn::tool
+{
+
+Tool VornTool()
+{
+    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(), VersionCommands()};
+    return {"Looks into an installation of the Vornwald applications.", VORN_VERSION, groups};
+}
+
+} // namespace vorn::tool

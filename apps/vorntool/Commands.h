@@ -1,0 +1,17 @@
+#pragma once
+
+#include "apps/vorntool/core/Command.h"
+
+/// @file
+/// The tool's groups of commands, each in a file of its own. A new group is declared here and entered in Commands.cpp.
+namespace vorn::tool
+{
+
+const CommandGroup& SettingsCommands();
+const CommandGroup& UnitsCommands();
+const CommandGroup& VersionCommands();
+
+/// The whole tool with all its commands.
+Tool VornTool();
+
+} // namespace vorn::tool

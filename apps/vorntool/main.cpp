@@ -1,0 +1,42 @@
+#include "apps/vorntool/Commands.h"
+#include "apps/vorntool/StandardStreams.h"
+#include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/core/RunTool.h"
+
+#include <memory>
+
+using namespace vorn::tool;
+
+namespace
+{
+
+struct LocalFreer
+{
+    void operator()(LPWSTR* block) const
+    {
+        LocalFree(block);
+    }
+};
+
+// The arguments as they were given: the narrow ones have lost characters, and the runtime expands wildcards in them.
+std::vector<std::string> Arguments()
+{
+    int count = 0;
+    const std::unique_ptr<LPWSTR, LocalFreer> all(CommandLineToArgvW(GetCommandLineW(), &count));
+    std::vector<std::string> words;
+    for (int i = 1; i < count; ++i)
+    {
+        words.push_back(Utf8FromWide(all.get()[i]));
+    }
+    return words;
+}
+
+} // namespace
+
+int main()
+{
+    Output output;
+    const ExitStatus status = RunTool(VornTool(), Arguments(), output);
+    const bool written = WriteToStandardStreams(output);
+    return static_cast<int>(written ? status : ExitStatus::Refused);
+}
