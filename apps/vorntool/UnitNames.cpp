@@ -10,6 +10,16 @@ namespace
 
 constexpr unsigned kTableCodePage = 1252;
 
+// What people write besides the family's own names.
+struct OtherName
+{
+    const char* name;
+    UNIT unit;
+};
+
+constexpr OtherName kOtherNames[] = {{"mi", UNIT_SM},   {"kt", UNIT_KTS}, {"km/h", UNIT_KPH},
+                                     {"m/s", UNIT_MPS}, {"lb", UNIT_LBS}, {"mbar", UNIT_HPA}};
+
 // One column of the table: 0 full name, 1 display name, 2 plural.
 std::string Name(int unit, int column)
 {
@@ -42,6 +52,13 @@ UNIT UnitNamed(const std::string& word)
             {
                 return static_cast<UNIT>(unit);
             }
+        }
+    }
+    for (const OtherName& other : kOtherNames)
+    {
+        if (SameWord(word, other.name))
+        {
+            return other.unit;
         }
     }
     return UNIT_AUTO;

@@ -7,8 +7,8 @@
 namespace vorn::tool
 {
 
-/// The unit that a word names: its display name (for temperatures also without the degree sign), its full name or its
-/// plural, whatever the case; UNIT_AUTO for none.
+/// The unit that a word names: its display name (for temperatures also without the degree sign), its full name, its
+/// plural or another common spelling ("kt", "lb"), whatever the case; UNIT_AUTO for none.
 UNIT UnitNamed(const std::string& word);
 
 /// UTF-8 names of a unit; empty for a code outside the table.

@@ -29,7 +29,7 @@ struct Conversion
 bool TakeUnit(const std::string& word, UNIT& unit, std::string& reason)
 {
     unit = UnitNamed(word);
-    reason = unit == UNIT_AUTO ? "unknown unit " + Quoted(word) : "";
+    reason = unit == UNIT_AUTO ? "unknown unit " + Quoted(word) + "; 'vorntool units convert --help' names them" : "";
     return unit != UNIT_AUTO;
 }
 

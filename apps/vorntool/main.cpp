@@ -37,6 +37,10 @@ int main()
 {
     Output output;
     const ExitStatus status = RunTool(VornTool(), Arguments(), output);
-    const bool written = WriteToStandardStreams(output);
-    return static_cast<int>(written ? status : ExitStatus::Refused);
+    if (!WriteToStandardStreams(output))
+    {
+        WriteToStandardStreams({"", std::string(kToolName) + ": the output could not be written\n"});
+        return static_cast<int>(ExitStatus::Refused);
+    }
+    return static_cast<int>(status);
 }

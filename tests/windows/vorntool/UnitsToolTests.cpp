@@ -25,6 +25,8 @@ TEST(UnitsTool, ConvertsWithNamesInAnyCase)
     ExpectDone({"units", "convert", "60", "lbs", "gal"}, "10 GAL\n");
     ExpectDone({"units", "convert", "29.92", "inHg", "hPa"}, "1013.20748119003 hPa\n");
     ExpectDone({"units", "convert", "0.1", "KTS", "kts"}, "0.1 KTS\n");
+    ExpectDone({"units", "convert", "1852", "m/s", "km/h"}, "6667.2 KPH\n");
+    ExpectDone({"units", "convert", "60", "lb", "gallons"}, "10 GAL\n");
 }
 
 TEST(UnitsTool, TemperaturesGoByLetterOrDegreeSign)
@@ -70,8 +72,10 @@ TEST(UnitsTool, WhatIsNoNumberOrUnitIsWrongUse)
 {
     ExpectFailure({"units", "convert", "ten", "NM", "KM"}, 2, "vorntool units convert: 'ten' is no number");
     ExpectFailure({"units", "convert", "nan", "NM", "KM"}, 2, "vorntool units convert: 'nan' is no number");
-    ExpectFailure({"units", "convert", "1", "furlong", "KM"}, 2, "vorntool units convert: unknown unit 'furlong'");
-    ExpectFailure({"units", "convert", "1", "KM", ""}, 2, "vorntool units convert: unknown unit ''");
+    ExpectFailure({"units", "convert", "1", "furlong", "KM"}, 2,
+                  "vorntool units convert: unknown unit 'furlong'; 'vorntool units convert --help' names them");
+    ExpectFailure({"units", "convert", "1", "KM", ""}, 2,
+                  "vorntool units convert: unknown unit ''; 'vorntool units convert --help' names them");
     ExpectFailure({"units", "convert", "1", "KM"}, 2,
                   "vorntool units convert: TO is missing; see 'vorntool units convert --help'");
 }
