@@ -1,0 +1,54 @@
+#include "aviation/Formatting.h"
+
+#include "aviation/core/Course.h"
+#include "aviation/core/Position.h"
+#include "aviation/core/Rounding.h"
+#include "frame/VornCommonApp.h"
+
+namespace
+{
+
+int GeneralSetting(const char* key, int standard)
+{
+    VornCommonApp* const app = VornCommonApp::Inst();
+    return app != nullptr ? app->GetSettingInt("General", key, standard) : standard;
+}
+
+vorn::PositionFormat ChosenFormat()
+{
+    const bool seconds = GeneralSetting("Show seconds", 0) != 0;
+    return {seconds, GeneralSetting(seconds ? "LatLonPrecSeconds" : "LatLonPrecMinutes", 1)};
+}
+
+CString ToCString(std::string_view text)
+{
+    return CString(text.data(), static_cast<int>(text.size()));
+}
+
+} // namespace
+
+CString LatLonToString(double degrees, bool isLatitude)
+{
+    const vorn::Axis axis = isLatitude ? vorn::Axis::Latitude : vorn::Axis::Longitude;
+    return ToCString(vorn::PositionText(degrees, axis, ChosenFormat()).View());
+}
+
+CString LatToString(double lat)
+{
+    return LatLonToString(lat, true);
+}
+
+CString LonToString(double lon)
+{
+    return LatLonToString(lon, false);
+}
+
+CString CourseToString(double value, bool eastWest)
+{
+    return ToCString(vorn::CourseText(value, eastWest));
+}
+
+void RoundTo(double& value, int decimals)
+{
+    value = vorn::RoundedTo(value, decimals);
+}
