@@ -2,6 +2,9 @@
 
 /// @file
 /// Windows, threads, the application: the framework's central header.
+#include "framework/frames/CDocument.h"
+#include "framework/frames/CFrameWnd.h"
+#include "framework/frames/CView.h"
 #include "framework/gdi/CBitmap.h"
 #include "framework/gdi/CBrush.h"
 #include "framework/gdi/CClientDC.h"
