@@ -2,6 +2,7 @@
 
 #include "framework/include/afxwin.h"
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,16 @@ private:
 
 /// What happened, in order; shared by the windows of a test.
 using Events = std::vector<std::string>;
+
+/// A name and numbers with a blank before each.
+template <class... Numbers>
+std::string With(const char* name, Numbers... numbers)
+{
+    std::ostringstream text;
+    text << name;
+    ((text << ' ' << numbers), ...);
+    return text.str();
+}
 
 /// Creates @p window as a hidden top-level window.
 inline BOOL CreatePopup(CWnd& window, HWND owner = nullptr)
