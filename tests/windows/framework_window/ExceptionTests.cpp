@@ -78,7 +78,10 @@ protected:
 
 TEST_F(Exceptions, OfTheFrameworkReachTheApplication)
 {
-    window.action = [] { AfxThrowNotSupportedException(); };
+    window.action = []
+    {
+        AfxThrowNotSupportedException();
+    };
     app.answer = 77;
     EXPECT_EQ(window.SendMessage(WM_APP), 77);
     ASSERT_EQ(app.events.size(), 1U);
@@ -87,14 +90,20 @@ TEST_F(Exceptions, OfTheFrameworkReachTheApplication)
 
 TEST_F(Exceptions, OfTheStandardLibraryReachTheApplicationWithTheirText)
 {
-    window.action = [] { throw std::runtime_error("out of order"); };
+    window.action = []
+    {
+        throw std::runtime_error("out of order");
+    };
     EXPECT_EQ(window.SendMessage(WM_APP), 0);
     EXPECT_EQ(app.events, Events{"CException 32768:out of order"});
 }
 
 TEST_F(Exceptions, OfAnyOtherTypeReachTheApplication)
 {
-    window.action = [] { throw 3; };
+    window.action = []
+    {
+        throw 3;
+    };
     EXPECT_EQ(window.SendMessage(WM_APP), 0);
     EXPECT_EQ(app.events, Events{"CException 32768:"});
 }
@@ -116,7 +125,10 @@ TEST_F(Exceptions, LeaveTheCurrentMessageInOrder)
             return CWnd::WindowProc(message, wParam, lParam);
         }
     };
-    window.action = [] { AfxThrowUserException(); };
+    window.action = []
+    {
+        AfxThrowUserException();
+    };
     Outer outer;
     ASSERT_TRUE(CreatePopup(outer));
     outer.inner = &window;
@@ -144,7 +156,10 @@ TEST_F(Exceptions, InPaintingAreNotRepeatedForEver)
 
 TEST_F(Exceptions, OfCommandsAreToldAsFailedCommands)
 {
-    window.action = [] { AfxThrowMemoryException(); };
+    window.action = []
+    {
+        AfxThrowMemoryException();
+    };
     app.callsBase = true;
     EXPECT_EQ(window.SendMessage(WM_COMMAND, 50), TRUE);
     EXPECT_EQ(app.boxes, 1);
@@ -152,7 +167,10 @@ TEST_F(Exceptions, OfCommandsAreToldAsFailedCommands)
 
 TEST_F(Exceptions, WithoutDescriptionGetTheStandardText)
 {
-    window.action = [] { throw 3; };
+    window.action = []
+    {
+        throw 3;
+    };
     app.callsBase = true;
     window.SendMessage(WM_APP);
     EXPECT_EQ(app.events.at(1), "An internal error occurred in the application.");
@@ -162,7 +180,10 @@ TEST_F(Exceptions, WithoutDescriptionGetTheStandardText)
 
 TEST_F(Exceptions, OfTheUserAreNotShownAgain)
 {
-    window.action = [] { AfxThrowUserException(); };
+    window.action = []
+    {
+        AfxThrowUserException();
+    };
     app.callsBase = true;
     window.SendMessage(WM_APP);
     EXPECT_EQ(app.boxes, 0);
@@ -173,7 +194,10 @@ TEST(ExceptionsWithoutApplication, EndInTheWindowProcedure)
     ASSERT_EQ(AfxGetApp(), nullptr);
     Throwing window;
     ASSERT_TRUE(CreatePopup(window));
-    window.action = [] { throw std::runtime_error("nobody listens"); };
+    window.action = []
+    {
+        throw std::runtime_error("nobody listens");
+    };
     EXPECT_EQ(window.SendMessage(WM_APP), 0);
     window.action = [] {};
     EXPECT_EQ(window.SendMessage(WM_APP), 5);

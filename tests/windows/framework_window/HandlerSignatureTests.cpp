@@ -348,8 +348,7 @@ TEST_F(HandlerSignatures, OfControls)
     EXPECT_EQ(Send(WM_PARENTNOTIFY, MAKEWPARAM(WM_LBUTTONDOWN, 9), 44), "parentnotify 513 44");
     for (UINT kind = CTLCOLOR_MSGBOX; kind <= CTLCOLOR_STATIC; ++kind)
     {
-        EXPECT_EQ(Send(WM_CTLCOLORMSGBOX + kind, 0, static_cast<LPARAM>(theirs)),
-                  With("ctlcolor other", kind));
+        EXPECT_EQ(Send(WM_CTLCOLORMSGBOX + kind, 0, static_cast<LPARAM>(theirs)), With("ctlcolor other", kind));
         EXPECT_EQ(result, 0x1234);
     }
 }

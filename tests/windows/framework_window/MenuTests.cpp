@@ -71,9 +71,10 @@ TEST(Menu, GivesItsPopupsAsTemporaryObjects)
 
 TEST(Menu, AnswersForANullPointer)
 {
-    const CMenu* none = nullptr;
+    // Volatile: the compiler must not see that the pointers are null.
+    const CMenu* const volatile none = nullptr;
     EXPECT_EQ(none->GetSafeHmenu(), nullptr);
-    const CWnd* window = nullptr;
+    const CWnd* const volatile window = nullptr;
     EXPECT_EQ(window->GetSafeHwnd(), nullptr);
 }
 

@@ -7,8 +7,8 @@ namespace
 {
 
 constexpr UINT kControl = 40;
-constexpr UINT kTaken = 0x301;     // the control's handler keeps it from the parent
-constexpr UINT kShared = 0x302;    // the control's handler chooses
+constexpr UINT kTaken = 0x301;  // the control's handler keeps it from the parent
+constexpr UINT kShared = 0x302; // the control's handler chooses
 constexpr UINT kParentOnly = 0x303;
 
 Events events;

@@ -93,13 +93,25 @@ TEST(Threads, HaveAMessageLoopThatEndsWithTheMainWindow)
 {
     CWinThread* thread = AfxBeginThread(RUNTIME_CLASS(WindowThread));
     ASSERT_NE(thread, nullptr);
-    ASSERT_TRUE(PumpUntil([] { return WindowThread::ready != nullptr; }));
+    ASSERT_TRUE(PumpUntil(
+        []
+        {
+            return WindowThread::ready != nullptr;
+        }));
     const HWND window = WindowThread::ready;
     EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr) << "the other thread's objects are not this one's";
     thread->PostThreadMessage(WM_APP + 3, 33, 0);
-    EXPECT_TRUE(PumpUntil([] { return WindowThread::posted == 33; }));
+    EXPECT_TRUE(PumpUntil(
+        []
+        {
+            return WindowThread::posted == 33;
+        }));
     ::PostMessage(window, WM_CLOSE, 0, 0);
-    EXPECT_TRUE(PumpUntil([] { return WindowThread::gone.load(); }));
+    EXPECT_TRUE(PumpUntil(
+        []
+        {
+            return WindowThread::gone.load();
+        }));
     EXPECT_TRUE(WindowThread::exited);
     EXPECT_FALSE(::IsWindow(window));
 }
