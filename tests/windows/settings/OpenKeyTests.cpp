@@ -1,4 +1,4 @@
-#include "config/AppRegData.h"
+#include "config/AppRegMgr.h"
 #include "tests/windows/settings/ScratchSettings.h"
 
 using namespace vorn::test;
@@ -133,6 +133,18 @@ TEST_F(OpenKey, IsClosedWithItsRecord)
         another.ReadVornInt("General", "Level", 0);
         EXPECT_EQ(FirstFreeHandle(), before + 2);
     }
+    EXPECT_EQ(FirstFreeHandle(), before);
+}
+
+TEST_F(OpenKey, IsClosedWhenTheManagerIsFreed)
+{
+    Put("General", "Level", RawNumber(1));
+    const std::size_t before = FirstFreeHandle();
+    const int index = AppRegMgr::Instance()->AddApp(App().c_str());
+    EXPECT_EQ(AppRegMgr::Instance()->ReadVornInt("General", "Level", 0, index), 1);
+    EXPECT_TRUE(AppRegMgr::Instance()->WriteVornInt("General", "Level", 2, index));
+    EXPECT_EQ(FirstFreeHandle(), before + 1); // a key opened for writing has the one for reading opened anew
+    AppRegMgr::FreeInst();
     EXPECT_EQ(FirstFreeHandle(), before);
 }
 
