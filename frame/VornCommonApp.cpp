@@ -4,6 +4,7 @@
 #include "config/AppRegMgr.h"
 #include "frame/core/GlyphTable.h"
 #include "framework/core/AsciiText.h"
+#include "framework/frames/CView.h"
 
 #include <algorithm>
 
@@ -43,6 +44,11 @@ ConversionBoy* GetConversionBoy()
 {
     VornCommonApp* app = VornCommonApp::Inst();
     return app ? app->GetConversionBoy() : nullptr;
+}
+
+bool VornCommonApp::OnPreparePrinting(CView* view, CPrintInfo* info)
+{
+    return view && view->DoPreparePrinting(info);
 }
 
 CString VornCommonApp::GetVornGlyph(CString token)

@@ -34,6 +34,9 @@ public:
     /// The unit converter; it lives until the process ends.
     ConversionBoy* GetConversionBoy();
 
+    /// Whether the view's standard preparation of printing succeeded; false without a view.
+    bool OnPreparePrinting(CView* view, CPrintInfo* info) override;
+
     /// The one-character text that draws a token ("NM", "FL", "->") in the symbol font, whatever the token's case;
     /// empty for an unknown one, which is remembered as such.
     CString GetVornGlyph(CString token) override;
