@@ -148,6 +148,21 @@ TEST_F(RegisteredHost, PreparesNoPrintingWithoutAView)
     EXPECT_FALSE(App().OnPreparePrinting(nullptr, nullptr));
 }
 
+TEST_F(RegisteredHost, LeavesThePreparationOfPrintingToTheView)
+{
+    class PlainView : public CView
+    {
+    public:
+        PlainView() = default;
+
+    protected:
+        void OnDraw(CDC*) override
+        {
+        }
+    } view;
+    EXPECT_FALSE(App().OnPreparePrinting(&view, nullptr)); // a view prepares nothing without a job
+}
+
 TEST_F(RegisteredHost, DrawsTokensWhateverTheirCase)
 {
     EXPECT_STREQ(App().GetVornGlyph("KTS"), "\xC5");

@@ -1,8 +1,7 @@
 #include "config/AppRegMgr.h"
 #include "frame/VornCommonApp.h"
 #include "frame/WindowPlacement.h"
-#include "framework/frames/CFrameWnd.h"
-#include "framework/include/afxwin.h"
+#include "framework/include/afxext.h"
 
 #include <gtest/gtest.h>
 
@@ -30,11 +29,11 @@ public:
     std::map<std::string, std::string> texts;
 };
 
-/// A frame that notes how it is shown and which bar state it loads.
-class NotingFrame : public CFrameWnd
+/// A frame that lives in its test instead of deleting itself.
+class TestFrame : public CFrameWnd
 {
 public:
-    ~NotingFrame() override
+    ~TestFrame() override
     {
         if (m_hWnd)
         {
@@ -43,7 +42,6 @@ public:
     }
     void PostNcDestroy() override
     {
-        // lives on the stack
     }
 };
 
@@ -104,7 +102,41 @@ protected:
         return result;
     }
 
-    NotingFrame frame;
+    TestFrame frame;
+};
+
+constexpr char kBarsKey[] = "Software\\VornTestBars";
+
+/// The frame with a status bar, and an application that keeps a bar state in which the status bar is hidden.
+class FrameWithBars : public ShownFrame
+{
+protected:
+    FrameWithBars() : application("VornTestBars")
+    {
+        RegDeleteTreeA(HKEY_CURRENT_USER, kBarsKey);
+        application.SetRegistryKey("VornTestBars");
+        MakeBar();
+        bar.ShowWindow(SW_HIDE);
+        frame.SaveBarState("Bars");
+        bar.ShowWindow(SW_SHOW);
+    }
+    ~FrameWithBars() override
+    {
+        RegDeleteTreeA(HKEY_CURRENT_USER, kBarsKey);
+    }
+
+    void MakeBar()
+    {
+        ASSERT_TRUE(bar.Create(&frame));
+    }
+
+    bool BarIsShown()
+    {
+        return (bar.GetStyle() & WS_VISIBLE) != 0;
+    }
+
+    CWinApp application;
+    CStatusBar bar;
 };
 
 void ExpectRect(const RECT& rect, LONG left, LONG top, LONG right, LONG bottom)
@@ -257,4 +289,26 @@ TEST_F(ShownFrame, PlacementSurvivesARestart)
     CreateFrame();
     InitialShowMainFrame(&frame, "Window", "Main", nullptr, SW_SHOWNORMAL);
     ExpectRect(Placed().rcNormalPosition, 130, 140, 570, 470);
+}
+
+TEST_F(FrameWithBars, LoadsItsBarsWithAPlacement)
+{
+    Store("0,1,0,0,0,0,100,120,500,420");
+    InitialShowMainFrame(&frame, "Window", "Main", "Bars", SW_SHOWNORMAL);
+    EXPECT_FALSE(BarIsShown());
+}
+
+TEST_F(FrameWithBars, LoadsNoBarsWithoutTheirSection)
+{
+    Store("0,1,0,0,0,0,100,120,500,420");
+    InitialShowMainFrame(&frame, "Window", "Main", "", SW_SHOWNORMAL);
+    EXPECT_TRUE(BarIsShown());
+    InitialShowMainFrame(&frame, "Window", "Main", nullptr, SW_SHOWNORMAL);
+    EXPECT_TRUE(BarIsShown());
+}
+
+TEST_F(FrameWithBars, LoadsNoBarsWithoutAPlacement)
+{
+    InitialShowMainFrame(&frame, "Window", "Main", "Bars", SW_SHOWNORMAL);
+    EXPECT_TRUE(BarIsShown());
 }
