@@ -1,4 +1,4 @@
-// Stands in for parts that are on their way, so that the library links meanwhile.
+// Stands in for a part that is on its way, so that the library links meanwhile.
 #if !__has_include("framework/dialog/CDataExchange.cpp")
 #include "framework/dialog/CDataExchange.h"
 
