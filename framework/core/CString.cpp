@@ -1,6 +1,7 @@
 #include "framework/core/CString.h"
 
 #include "framework/core/OleException.h"
+#include "framework/core/ShortCopy.h"
 #include "framework/core/StringResourceHook.h"
 
 #include <algorithm>
@@ -23,7 +24,7 @@ StringData* MakeCopy(const char* text, int length)
     }
     StringData* data = AllocateString(length);
     char* copy = data->Text();
-    std::memcpy(copy, text, static_cast<std::size_t>(length));
+    vorn::CopyText(copy, text, static_cast<std::size_t>(length));
     copy[length] = '\0';
     data->length = length;
     return data;
@@ -41,10 +42,6 @@ int AddLengths(int first, int second)
 } // namespace
 
 // --- Making, copying, ending ---
-
-CString::CString(const CString& strSrc) : m_pszData(Share(strSrc.Data())->Text())
-{
-}
 
 CString::CString(const char* pszSrc) : m_pszData(vorn::g_emptyString.data.Text())
 {
@@ -121,23 +118,9 @@ CString& CString::operator=(char ch)
     return *this;
 }
 
-void CString::ReleaseShared(StringData* data) noexcept
+StringData* CString::CopyOf(StringData* data)
 {
-    if (data->IsLocked() || data->refs.fetch_sub(1, std::memory_order_acq_rel) == 1)
-    {
-        vorn::FreeString(data);
-    }
-}
-
-StringData* CString::Share(StringData* data)
-{
-    const int owners = data->refs.load(std::memory_order_relaxed);
-    if (owners > 0)
-    {
-        data->refs.fetch_add(1, std::memory_order_relaxed);
-        return data;
-    }
-    return owners == 0 ? data : MakeCopy(data->Text(), data->length);
+    return MakeCopy(data->Text(), data->length);
 }
 
 void CString::Replace(StringData* data) noexcept
@@ -149,7 +132,7 @@ void CString::Replace(StringData* data) noexcept
 CString CString::FromTwo(const char* first, int firstLength, const char* second, int secondLength)
 {
     StringData* data = AllocateString(AddLengths(firstLength, secondLength));
-    std::memcpy(data->Text(), first, static_cast<std::size_t>(firstLength));
+    vorn::CopyText(data->Text(), first, static_cast<std::size_t>(firstLength));
     CopyChars(data->Text() + firstLength, second, secondLength);
     CString result(data);
     result.SetLength(firstLength + secondLength);
@@ -178,7 +161,7 @@ void CString::SetAt(int iChar, char ch)
 
 int CString::StringLength(const char* psz) noexcept
 {
-    return psz != nullptr ? static_cast<int>(std::strlen(psz)) : 0;
+    return psz != nullptr ? static_cast<int>(vorn::TextLength(psz)) : 0;
 }
 
 void CString::CopyChars(char* pchDest, const char* pchSrc, int nChars) noexcept
@@ -262,7 +245,14 @@ void CString::Append(const CString& strSrc)
 
 void CString::AppendChar(char ch)
 {
-    Append(&ch, 1);
+    StringData* data = Data();
+    if (data->IsShared() || data->length == data->capacity)
+    {
+        Append(&ch, 1);
+        return;
+    }
+    m_pszData[data->length] = ch;
+    SetLength(data->length + 1);
 }
 
 CString& CString::operator+=(const CString& strSrc)

@@ -42,7 +42,9 @@ public:
     CString() noexcept : m_pszData(vorn::g_emptyString.data.Text())
     {
     }
-    CString(const CString& strSrc);
+    CString(const CString& strSrc) : m_pszData(Share(strSrc.Data())->Text())
+    {
+    }
     CString(CString&& strSrc) noexcept : m_pszData(strSrc.m_pszData)
     {
         strSrc.m_pszData = vorn::g_emptyString.data.Text();
@@ -171,6 +173,9 @@ public:
     /// Below, equal or above 0, by the characters' unsigned values.
     int Compare(const char* psz) const noexcept;
     int Compare(const CString& str) const noexcept;
+    /// Whether the characters are the same; sooner known than their order.
+    bool Equals(const char* psz) const noexcept;
+    bool Equals(const CString& str) const noexcept;
     /// As Compare(), without regard to the case of ASCII letters.
     int CompareNoCase(const char* psz) const noexcept;
     /// Order of the C library's current locale.
@@ -243,21 +248,33 @@ private:
     static void Release(vorn::StringData* data) noexcept
     {
         const int owners = data->refs.load(std::memory_order_acquire);
-        if (owners == 1)
+        if (owners <= 1 ? owners != 0 : data->refs.fetch_sub(1, std::memory_order_acq_rel) == 1)
         {
             vorn::FreeString(data);
         }
-        else if (owners != 0)
-        {
-            ReleaseShared(data);
-        }
     }
-    static void ReleaseShared(vorn::StringData* data) noexcept;
-    static vorn::StringData* Share(vorn::StringData* data);
+    static vorn::StringData* Share(vorn::StringData* data)
+    {
+        const int owners = data->refs.load(std::memory_order_relaxed);
+        if (owners < 0)
+        {
+            return CopyOf(data);
+        }
+        if (owners > 0)
+        {
+            data->refs.fetch_add(1, std::memory_order_relaxed);
+        }
+        return data;
+    }
+    static vorn::StringData* CopyOf(vorn::StringData* data);
     static CString FromTwo(const char* first, int firstLength, const char* second, int secondLength);
 
     void Replace(vorn::StringData* data) noexcept;
-    void SetLength(int length) noexcept;
+    void SetLength(int length) noexcept
+    {
+        Data()->length = length;
+        m_pszData[length] = '\0';
+    }
     void Reserve(int capacity);
     void Grow(int capacity);
     void ReplaceEach(const char* from, int fromLength, const char* to, int toLength, int count);
@@ -300,11 +317,11 @@ HOSTFRAMEWORK_API CString operator+(char first, const CString& second);
 
 inline bool operator==(const CString& first, const CString& second) noexcept
 {
-    return first.GetString() == second.GetString() || first.Compare(second) == 0;
+    return first.Equals(second);
 }
 inline bool operator==(const CString& first, const char* second) noexcept
 {
-    return first.Compare(second) == 0;
+    return first.Equals(second);
 }
 inline bool operator==(const CString& first, char second) noexcept
 {

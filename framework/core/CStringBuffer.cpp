@@ -36,12 +36,6 @@ void CString::Grow(int capacity)
     Reserve(capacity);
 }
 
-void CString::SetLength(int length) noexcept
-{
-    Data()->length = length;
-    m_pszData[length] = '\0';
-}
-
 char* CString::GetBuffer()
 {
     Reserve(GetLength());

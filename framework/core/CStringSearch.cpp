@@ -85,6 +85,25 @@ int CString::Compare(const CString& str) const noexcept
     return CompareViews(View(*this), View(str));
 }
 
+bool CString::Equals(const char* psz) const noexcept
+{
+    const char* other = psz != nullptr ? psz : "";
+    const int length = GetLength();
+    for (int i = 0; i < length; ++i)
+    {
+        if (m_pszData[i] != other[i] || other[i] == '\0')
+        {
+            return false;
+        }
+    }
+    return other[length] == '\0';
+}
+
+bool CString::Equals(const CString& str) const noexcept
+{
+    return m_pszData == str.m_pszData || View(*this) == View(str);
+}
+
 int CString::CompareNoCase(const char* psz) const noexcept
 {
     return CompareViewsNoCase(View(*this), View(psz));

@@ -664,3 +664,23 @@ TEST(CString, BlocksOfAllSizesComeAndGo)
         texts.clear();
     }
 }
+
+TEST(CString, TextsOfAnyPlaceAndLengthAreCopiedWhole)
+{
+    char buffer[400];
+    for (int offset = 0; offset < 17; ++offset)
+    {
+        for (int length = 0; length < 300; ++length)
+        {
+            std::memset(buffer, '#', sizeof(buffer));
+            for (int i = 0; i < length; ++i)
+            {
+                buffer[offset + i] = static_cast<char>(1 + (offset + i) % 255);
+            }
+            buffer[offset + length] = '\0';
+            const CString text(buffer + offset);
+            ASSERT_EQ(text.GetLength(), length);
+            ASSERT_EQ(std::memcmp(text, buffer + offset, static_cast<std::size_t>(length) + 1), 0);
+        }
+    }
+}
