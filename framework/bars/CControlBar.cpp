@@ -122,17 +122,6 @@ void CControlBar::PostNcDestroy()
         delete this; // made with new by a frame that left it to end with its window
 }
 
-BOOL CControlBar::PreTranslateMessage(MSG* message)
-{
-    if (CWnd::PreTranslateMessage(message))
-        return TRUE;
-    // Keys that this bar's controls do not use as dialog keys belong to the frame's accelerators.
-    CWnd* owner = GetOwner();
-    if (owner && owner != this && owner->m_hWnd && message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST)
-        return owner->PreTranslateMessage(message);
-    return FALSE;
-}
-
 LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message)

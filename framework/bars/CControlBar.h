@@ -59,7 +59,6 @@ public:
 
     DWORD RecalcDelayShow(AFX_SIZEPARENTPARAMS* layout);
 
-    BOOL PreTranslateMessage(MSG* message) override;
     BOOL DestroyWindow() override;
 
 protected:

@@ -20,6 +20,13 @@ void vorn::DeviceContextTraits::FreeTemporary(CDC* object)
     const std::unique_ptr<CDC> owner(object);
 }
 
+vorn::OwnerMap<HDC, CDC>& vorn::DeviceContextOwners()
+{
+    // Never destroyed: objects with static lifetime in other modules end after this module's.
+    static auto& owners = *new OwnerMap<HDC, CDC>;
+    return owners;
+}
+
 CDC::CDC() = default;
 
 CDC::~CDC()
@@ -45,19 +52,21 @@ CWnd* CDC::GetWindow() const
 
 CDC* PASCAL CDC::FromHandle(HDC dc)
 {
-    return vorn::DeviceContextMap().FromHandle(dc);
+    if (CDC* owner = dc ? vorn::DeviceContextOwners().Find(dc) : nullptr)
+        return owner;
+    return vorn::TemporaryDeviceContexts().FromHandle(dc);
 }
 
 void PASCAL CDC::DeleteTempMap()
 {
-    vorn::DeviceContextMap().FreeTemporary(vorn::CurrentLoopDepth());
+    vorn::TemporaryDeviceContexts().FreeTemporary(vorn::CurrentLoopDepth());
 }
 
 BOOL CDC::Attach(HDC dc)
 {
     if (!dc || m_hDC)
         return FALSE;
-    vorn::DeviceContextMap().SetPermanent(dc, this);
+    vorn::DeviceContextOwners().Set(dc, this);
     m_hDC = dc;
     SetAttribDC(dc);
     return TRUE;
@@ -66,9 +75,8 @@ BOOL CDC::Attach(HDC dc)
 HDC CDC::Detach()
 {
     HDC dc = m_hDC;
-    auto& map = vorn::DeviceContextMap();
-    if (dc && map.LookupPermanent(dc) == this)
-        map.RemovePermanent(dc);
+    if (dc)
+        vorn::DeviceContextOwners().Remove(dc, this);
     ReleaseAttribDC();
     m_hDC = nullptr;
     return dc;

@@ -23,19 +23,21 @@ CGdiObject::operator HGDIOBJ() const
 
 CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ object)
 {
-    return vorn::GdiObjectMap().FromHandle(object);
+    if (CGdiObject* owner = object ? vorn::GdiObjectOwners().Find(object) : nullptr)
+        return owner;
+    return vorn::TemporaryGdiObjects().FromHandle(object);
 }
 
 void PASCAL CGdiObject::DeleteTempMap()
 {
-    vorn::GdiObjectMap().FreeTemporary(vorn::CurrentLoopDepth());
+    vorn::TemporaryGdiObjects().FreeTemporary(vorn::CurrentLoopDepth());
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ object)
 {
     if (!object || m_hObject)
         return FALSE;
-    vorn::GdiObjectMap().SetPermanent(object, this);
+    vorn::GdiObjectOwners().Set(object, this);
     m_hObject = object;
     return TRUE;
 }
@@ -43,10 +45,8 @@ BOOL CGdiObject::Attach(HGDIOBJ object)
 HGDIOBJ CGdiObject::Detach()
 {
     HGDIOBJ object = m_hObject;
-    // A stock handle may be held by several objects: only the one on record is forgotten.
-    auto& map = vorn::GdiObjectMap();
-    if (object && map.LookupPermanent(object) == this)
-        map.RemovePermanent(object);
+    if (object)
+        vorn::GdiObjectOwners().Remove(object, this);
     m_hObject = nullptr;
     return object;
 }

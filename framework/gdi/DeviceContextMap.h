@@ -1,8 +1,9 @@
 #pragma once
 
 /// @file
-/// Handle map of the device contexts; not public interface.
+/// Handle maps of the device contexts; not public interface.
 #include "framework/gdi/CDC.h"
+#include "framework/gdi/OwnerMap.h"
 #include "framework/window/HandleMap.h"
 
 namespace vorn
@@ -16,8 +17,12 @@ struct DeviceContextTraits
     static void FreeTemporary(Object* object);
 };
 
-inline HandleMap<DeviceContextTraits>& DeviceContextMap()
+/// This thread's temporary objects.
+inline HandleMap<DeviceContextTraits>& TemporaryDeviceContexts()
 {
     return ThreadHandleMap<DeviceContextTraits>();
 }
+
+/// The process's owning objects.
+OwnerMap<HDC, CDC>& DeviceContextOwners();
 } // namespace vorn

@@ -46,4 +46,11 @@ void GdiObjectTraits::FreeTemporary(CGdiObject* object)
     object->m_hObject = nullptr;
     const std::unique_ptr<CGdiObject> owner(object);
 }
+
+OwnerMap<HGDIOBJ, CGdiObject>& GdiObjectOwners()
+{
+    // Never destroyed: objects with static lifetime in other modules end after this module's.
+    static auto& owners = *new OwnerMap<HGDIOBJ, CGdiObject>;
+    return owners;
+}
 } // namespace vorn

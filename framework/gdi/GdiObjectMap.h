@@ -1,8 +1,9 @@
 #pragma once
 
 /// @file
-/// Handle map of the drawing objects; not public interface.
+/// Handle maps of the drawing objects; not public interface.
 #include "framework/gdi/CGdiObject.h"
+#include "framework/gdi/OwnerMap.h"
 #include "framework/window/HandleMap.h"
 
 namespace vorn
@@ -16,8 +17,12 @@ struct GdiObjectTraits
     static void FreeTemporary(Object* object);
 };
 
-inline HandleMap<GdiObjectTraits>& GdiObjectMap()
+/// This thread's temporary objects.
+inline HandleMap<GdiObjectTraits>& TemporaryGdiObjects()
 {
     return ThreadHandleMap<GdiObjectTraits>();
 }
+
+/// The process's owning objects.
+OwnerMap<HGDIOBJ, CGdiObject>& GdiObjectOwners();
 } // namespace vorn

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <thread>
+
 using namespace vorn::test;
 
 namespace
@@ -167,6 +170,28 @@ TEST(GdiObject, StockObjectsCanBeHeldByManyAndSurviveThem)
     LOGPEN description{};
     CPen::FromHandle(static_cast<HPEN>(stock))->GetLogPen(&description);
     EXPECT_EQ(kBlack, description.lopnColor);
+}
+
+TEST(GdiObject, MadeOnOneThreadAndEndedOnAnotherIsForgottenOnBoth)
+{
+    auto pen = std::make_unique<CPen>(PS_SOLID, 1, kRed);
+    HPEN handle = *pen;
+    const CPen* former = pen.get();
+    bool foundThere = false;
+    std::thread(
+        [&]
+        {
+            foundThere = CPen::FromHandle(handle) == former;
+            pen->Detach();
+            pen.reset();
+        })
+        .join();
+    EXPECT_TRUE(foundThere);
+    CPen* temporary = CPen::FromHandle(handle);
+    EXPECT_TRUE(temporary->IsKindOf(RUNTIME_CLASS(CPen)));
+    CPen other;
+    EXPECT_TRUE(other.Attach(handle));
+    EXPECT_EQ(&other, CPen::FromHandle(handle));
 }
 
 TEST(GdiObject, ComparesHandles)
