@@ -2,6 +2,16 @@
 
 /// @file
 /// Windows, threads, the application: the framework's central header.
+#include "framework/controls/CButton.h"
+#include "framework/controls/CComboBox.h"
+#include "framework/controls/CEdit.h"
+#include "framework/controls/CListBox.h"
+#include "framework/controls/CScrollBar.h"
+#include "framework/controls/CStatic.h"
+#include "framework/dialog/CDataExchange.h"
+#include "framework/dialog/CDialog.h"
+#include "framework/dialog/DialogDataExchange.h"
+#include "framework/dialog/DialogDataValidation.h"
 #include "framework/frames/CDocument.h"
 #include "framework/frames/CFrameWnd.h"
 #include "framework/frames/CView.h"

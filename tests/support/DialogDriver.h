@@ -31,9 +31,5 @@ private:
     bool m_running = false;
 };
 
-/// Handles the messages that wait in the thread's queue, until `condition` holds or five seconds are over.
-bool PumpUntil(const std::function<bool()>& condition);
-/// Handles the messages that wait now.
-void PumpWaiting();
 /// The visible dialog window of this thread with this title, or null.
 HWND FindDialog(const char* title);

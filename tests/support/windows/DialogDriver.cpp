@@ -9,7 +9,6 @@ namespace
 {
 constexpr UINT kInterval = 10;         // milliseconds between steps
 constexpr DWORD kPatience = 10 * 1000; // milliseconds for a driver's step
-constexpr DWORD kPumpPatience = 5 * 1000;
 
 std::map<UINT_PTR, DialogDriver*>& Drivers()
 {
@@ -89,29 +88,6 @@ void DialogDriver::GiveUp()
     m_done = true;
     ADD_FAILURE() << "the dialog did not come to the expected state";
     ::EnumThreadWindows(::GetCurrentThreadId(), CancelDialog, 0);
-}
-
-void PumpWaiting()
-{
-    MSG message;
-    while (::PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
-    {
-        ::TranslateMessage(&message);
-        ::DispatchMessageA(&message);
-    }
-}
-
-bool PumpUntil(const std::function<bool()>& condition)
-{
-    const DWORD deadline = ::GetTickCount() + kPumpPatience;
-    while (!condition())
-    {
-        if (IsPast(deadline))
-            return false;
-        PumpWaiting();
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kInterval, QS_ALLINPUT);
-    }
-    return true;
 }
 
 HWND FindDialog(const char* title)

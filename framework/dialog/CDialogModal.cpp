@@ -1,0 +1,114 @@
+// The modal life of a dialog.
+#include "framework/dialog/CDialog.h"
+
+#include "framework/dialog/LoadedDialogTemplate.h"
+#include "framework/dialog/ModalOwner.h"
+
+using vorn::LoadedDialogTemplate;
+using vorn::ModalOwner;
+
+namespace
+{
+constexpr int kNoResult = -1;
+
+/// Ends a modal dialog on every way out of DoModal, exceptions included: first the owner is enabled, then it is made
+/// active, then the dialog goes. In another order the system would activate a window of another program.
+class ModalEnd
+{
+public:
+    ModalEnd(CWnd& dialog, ModalOwner& owner) : m_dialog(dialog), m_owner(owner)
+    {
+    }
+    ~ModalEnd()
+    {
+        m_owner.Restore();
+        if (m_owner.IsDialogDeleted() || !m_dialog.m_hWnd)
+            return;
+        if (::GetActiveWindow() == m_dialog.m_hWnd)
+            m_owner.Activate();
+        m_dialog.DestroyWindow();
+    }
+    ModalEnd(const ModalEnd&) = delete;
+    ModalEnd& operator=(const ModalEnd&) = delete;
+
+private:
+    CWnd& m_dialog;
+    ModalOwner& m_owner;
+};
+} // namespace
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* dialogInit)
+{
+    if (m_hWnd)
+        return FALSE;
+    m_lpDialogTemplate = dialogTemplate;
+    m_hDialogTemplate = nullptr;
+    m_lpDialogInit = dialogInit;
+    if (parent)
+        m_pParentWnd = parent;
+    return TRUE;
+}
+
+BOOL CDialog::InitModalIndirect(HGLOBAL dialogTemplate, CWnd* parent)
+{
+    if (m_hWnd)
+        return FALSE;
+    m_hDialogTemplate = dialogTemplate;
+    m_lpDialogTemplate = nullptr;
+    if (parent)
+        m_pParentWnd = parent;
+    return TRUE;
+}
+
+INT_PTR CDialog::DoModal()
+{
+    auto loaded = m_lpDialogTemplate  ? LoadedDialogTemplate::FromPointer(m_lpDialogTemplate)
+                  : m_hDialogTemplate ? LoadedDialogTemplate::FromGlobal(m_hDialogTemplate)
+                                      : LoadedDialogTemplate::FromResource(m_lpszTemplateName);
+    if (!loaded || m_hWnd)
+        return kNoResult;
+    // Shown by the loop, so that a dialog that ends itself in OnInitDialog never appears.
+    loaded->RemoveStyle(WS_VISIBLE);
+    ModalOwner owner(m_pParentWnd);
+    return RunModal(*loaded, owner);
+}
+
+int CDialog::RunModal(const LoadedDialogTemplate& dialogTemplate, ModalOwner& owner)
+{
+    const DWORD flags = MLF_SHOWONIDLE | (dialogTemplate.Style() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0);
+    int result = kNoResult;
+    m_modalOwner = &owner;
+    owner.Disable();
+    {
+        const ModalEnd end(*this, owner);
+        if (CreateFrom(dialogTemplate, owner.Handle()) && !m_ended)
+            result = RunModalLoop(flags);
+    }
+    if (owner.IsDialogDeleted())
+        return kNoResult;
+    m_modalOwner = nullptr;
+    // A loop that ended for another reason (WM_QUIT, the window's end) leaves its marks.
+    m_nFlags &= ~static_cast<UINT>(kStateModalLoop | kStateContinueModal);
+    return m_ended ? m_modalResult : result;
+}
+
+void CDialog::EndDialog(int result)
+{
+    m_ended = true;
+    m_modalResult = result;
+    if (m_modalOwner)
+        EndModalLoop(result);
+    else
+        ::EndDialog(m_hWnd, result);
+}
+
+void CDialog::OnDestroy()
+{
+    // Destroyed while DoModal runs: the owner must be enabled before the window goes, and the loop must end.
+    if (m_modalOwner)
+    {
+        m_modalOwner->Restore();
+        EndModalLoop(m_ended ? m_modalResult : kNoResult);
+    }
+    CWnd::OnDestroy();
+}
