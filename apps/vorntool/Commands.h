@@ -9,6 +9,7 @@ namespace vorn::tool
 
 const CommandGroup& SettingsCommands();
 const CommandGroup& UnitsCommands();
+const CommandGroup& FormatCommands();
 const CommandGroup& VersionCommands();
 
 /// The whole tool with all its commands.

@@ -3,6 +3,7 @@
 #include "apps/vorntool/SettingsView.h"
 #include "apps/vorntool/TextConversion.h"
 #include "apps/vorntool/UnitNames.h"
+#include "apps/vorntool/core/Decimals.h"
 #include "apps/vorntool/core/JsonWriter.h"
 #include "apps/vorntool/core/ToolNumbers.h"
 #include "apps/vorntool/core/Utf8.h"
@@ -14,8 +15,6 @@ namespace vorn::tool
 
 namespace
 {
-
-constexpr int kMostDecimals = 100;
 
 // The arguments of a conversion, checked.
 struct Conversion
@@ -31,20 +30,6 @@ bool TakeUnit(const std::string& word, UNIT& unit, std::string& reason)
     unit = UnitNamed(word);
     reason = unit == UNIT_AUTO ? "unknown unit " + Quoted(word) + "; 'vorntool units convert --help' names them" : "";
     return unit != UNIT_AUTO;
-}
-
-bool TakeDecimals(const Invocation& call, int& decimals, std::string& reason)
-{
-    decimals = -1;
-    if (!call.Has("decimals"))
-    {
-        return true;
-    }
-    const auto given = ParseWhole(call.ValueOf("decimals", ""));
-    const bool fits = given && *given >= 0 && *given <= kMostDecimals;
-    decimals = fits ? static_cast<int>(*given) : -1;
-    reason = fits ? "" : "--decimals takes a number from 0 to 100";
-    return fits;
 }
 
 bool TakeConversion(const Invocation& call, Conversion& conversion, std::string& reason)
@@ -186,7 +171,7 @@ ExitStatus Show(const Command& self, const Invocation& call, Output& output)
     return ExitStatus::Done;
 }
 
-constexpr Option kConvertOptions[] = {{"decimals", "N", "print N decimals, 0 to 100"}};
+constexpr Option kConvertOptions[] = {kDecimalsOption};
 constexpr Option kShowOptions[] = {kAppOption};
 
 constexpr Command kCommands[] = {

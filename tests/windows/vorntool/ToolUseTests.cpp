@@ -7,7 +7,9 @@ namespace
 
 const std::vector<std::vector<std::string>> kCommands = {
     {"settings", "get"},  {"settings", "set"},  {"settings", "delete"}, {"settings", "list"},
-    {"settings", "apps"}, {"units", "convert"}, {"units", "show"},      {"version"}};
+    {"settings", "apps"}, {"units", "convert"}, {"units", "show"},      {"version"},
+    {"format", "lat"},    {"format", "lon"},    {"format", "course"},   {"format", "alt"},
+    {"format", "fl"},     {"format", "time"},   {"format", "date"}};
 
 std::string Joined(const std::vector<std::string>& words)
 {
