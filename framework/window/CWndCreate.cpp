@@ -54,7 +54,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
 /// the object may be gone: it is looked at only when it is known to be bound still.
 BOOL CWnd::FinishFailedCreation(BOOL bound)
 {
-    const HWND window = vorn::CurrentThreadState().created;
+    const HWND window = vorn::CurrentThreadState().lastCreated;
     if (bound && FromHandlePermanent(window) != this)
     {
         return FALSE;
@@ -90,7 +90,15 @@ BOOL CWnd::AttachAndSubclass(HWND hWnd)
     {
         return FALSE;
     }
-    PreSubclassWindow();
+    try
+    {
+        PreSubclassWindow();
+    }
+    catch (...)
+    {
+        ForgetWindow();
+        throw;
+    }
     TakeOver(hWnd);
     return TRUE;
 }

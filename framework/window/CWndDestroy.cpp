@@ -61,7 +61,10 @@ BOOL CWnd::DestroyWindow()
 void CWnd::OnNcDestroy()
 {
     EndMainWindow();
-    CancelToolTips();
+    if (vorn::CurrentThreadState().toolTipOwner == m_hWnd)
+    {
+        CancelToolTips();
+    }
     if (m_nFlags & kStateModalLoop)
     {
         EndModalLoop(-1);

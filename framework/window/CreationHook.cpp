@@ -16,12 +16,11 @@ bool IsInputMethodWindow(HWND window)
 /// Binds the waiting object. False when it could not be bound: the creation is then refused.
 bool BindWaiting(vorn::ThreadState& state, HWND window)
 {
-    CWnd* waiting = state.creating;
-    state.creating = nullptr; // windows created inside this creation belong to nobody yet
-    state.created = window;
+    CWnd* object = state.creations.back().waiting;
+    state.creations.back() = {nullptr, window}; // windows created inside this creation belong to nobody yet
     try
     {
-        AfxWindowAccess::Bind(*waiting, window);
+        AfxWindowAccess::Bind(*object, window);
         return true;
     }
     catch (CException* exception)
@@ -32,14 +31,21 @@ bool BindWaiting(vorn::ThreadState& state, HWND window)
     {
         // Whatever it was must not pass through the system's code.
     }
+    state.creations.back().window = nullptr;
     return false;
+}
+
+bool IsAwaited(const vorn::ThreadState& state, int code, HWND window)
+{
+    return code == HCBT_CREATEWND && !state.creations.empty() && state.creations.back().waiting &&
+           !IsInputMethodWindow(window);
 }
 
 LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam)
 {
     vorn::ThreadState& state = vorn::CurrentThreadState();
     const auto window = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_CREATEWND && state.creating && !IsInputMethodWindow(window) && !BindWaiting(state, window))
+    if (IsAwaited(state, code, window) && !BindWaiting(state, window))
     {
         return 1;
     }
@@ -51,23 +57,27 @@ LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam)
 void AfxHookWindowCreate(CWnd* pWnd)
 {
     vorn::ThreadState& state = vorn::CurrentThreadState();
-    if (state.creationHookUses++ == 0)
+    state.creations.push_back({pWnd, nullptr});
+    if (state.creations.size() == 1)
     {
         state.creationHook = ::SetWindowsHookEx(WH_CBT, CreationHook, nullptr, ::GetCurrentThreadId());
     }
-    state.creating = pWnd;
-    state.created = nullptr;
 }
 
 BOOL AfxUnhookWindowCreate()
 {
     vorn::ThreadState& state = vorn::CurrentThreadState();
-    if (state.creationHookUses > 0 && --state.creationHookUses == 0)
+    if (state.creations.empty())
+    {
+        return FALSE;
+    }
+    const vorn::Creation creation = state.creations.back();
+    state.creations.pop_back();
+    state.lastCreated = creation.window;
+    if (state.creations.empty())
     {
         ::UnhookWindowsHookEx(state.creationHook);
         state.creationHook = nullptr;
     }
-    const bool bound = state.creating == nullptr;
-    state.creating = nullptr;
-    return bound;
+    return creation.window != nullptr;
 }

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 class CWinThread;
 class CWnd;
@@ -23,6 +24,13 @@ struct ModalFrame
 {
     CWnd* window;
     ModalFrame* outer;
+};
+
+/// An object that waits for its window, and the window once it has come.
+struct Creation
+{
+    CWnd* waiting;
+    HWND window;
 };
 
 struct ThreadState
@@ -41,10 +49,9 @@ struct ThreadState
         false; ///< the program or thread is under the framework's start-up: the end of its main window ends it
     ModalFrame* modal = nullptr;
 
-    CWnd* creating = nullptr; ///< object that waits for its window
-    HWND created = nullptr;   ///< the window that the last waiting object was bound to
+    std::vector<Creation> creations; ///< windows on their way, innermost last
+    HWND lastCreated = nullptr;      ///< what the last finished creation was bound to
     HHOOK creationHook = nullptr;
-    int creationHookUses = 0;
 
     HMENU trackedMenu = nullptr; ///< popup menu shown by TrackPopupMenu
     int waitCursors = 0;

@@ -276,6 +276,32 @@ TEST(WindowCreation, BindsWindowsCreatedInsideACreationToTheirOwnObjects)
     window.DestroyWindow();
 }
 
+TEST(WindowCreation, FailsAfterNestedCreationsWithOneEndToo)
+{
+    class NestingAndFailing : public Failing
+    {
+    public:
+        using Failing::Failing;
+        CWnd inner;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_NCCREATE)
+            {
+                CreatePopup(inner);
+            }
+            return Failing::WindowProc(message, wParam, lParam);
+        }
+    };
+    for (const auto how : {Failing::NcCreate, Failing::Create})
+    {
+        NestingAndFailing window(how);
+        EXPECT_FALSE(CreatePopup(window));
+        EXPECT_EQ(window.m_hWnd, nullptr);
+        EXPECT_EQ(window.ends, 1);
+        EXPECT_NE(window.inner.m_hWnd, nullptr);
+    }
+}
+
 TEST(WindowCreation, PutsTheFrameworkBeforeASystemControl)
 {
     CWnd parent;

@@ -193,6 +193,32 @@ TEST_F(Subclassing, RefusesWhatIsNoWindow)
     EXPECT_EQ(object.preSubclass, 0);
 }
 
+TEST_F(Subclassing, LetsAnExceptionOfThePreparationOut)
+{
+    class Unprepared : public CWnd
+    {
+        void PreSubclassWindow() override
+        {
+            AfxThrowResourceException();
+        }
+    };
+    Unprepared object;
+    bool thrown = false;
+    try
+    {
+        object.SubclassWindow(window);
+    }
+    catch (CResourceException* exception)
+    {
+        exception->Delete();
+        thrown = true;
+    }
+    EXPECT_TRUE(thrown);
+    EXPECT_EQ(object.m_hWnd, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
+    EXPECT_EQ(Probe(), 42);
+}
+
 TEST_F(Subclassing, RefusesAWindowOfAnotherThread)
 {
     BOOL subclassed = TRUE;
