@@ -45,6 +45,9 @@ class HOSTFRAMEWORK_API CFile : public CObject
         osSequentialScan = 0x80000
     };
 
+// One of the documented names is that of a C library function.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wshadow"
     enum Attribute
     {
         normal = 0x00,
@@ -55,6 +58,7 @@ class HOSTFRAMEWORK_API CFile : public CObject
         directory = 0x10,
         archive = 0x20
     };
+#pragma GCC diagnostic pop
 
     enum SeekPosition
     {
