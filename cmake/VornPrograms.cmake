@@ -13,3 +13,9 @@ endfunction()
 
 vorn_program(vorntool apps/vorntool)
 vorn_program(VornSample apps/sample WIN32)
+
+if(TARGET VornSample)
+    find_package(PNG REQUIRED)
+    target_include_directories(VornSample PRIVATE "${PROJECT_SOURCE_DIR}/apps/sample")
+    target_link_libraries(VornSample PRIVATE PNG::PNG)
+endif()

@@ -6,6 +6,7 @@
 #include "framework/include/afx.h"
 #include "framework/include/afxcmn.h"
 #include "framework/include/afxcoll.h"
+#include "framework/include/afxdlgs.h"
 #include "framework/include/afxext.h"
 #include "framework/include/afxtempl.h"
 #include "framework/include/afxwin.h"

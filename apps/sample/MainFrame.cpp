@@ -1,0 +1,153 @@
+#include "apps/sample/MainFrame.h"
+
+#include "apps/sample/AboutDialog.h"
+#include "apps/sample/PageView.h"
+#include "apps/sample/Snapshot.h"
+#include "apps/sample/UnitsMenu.h"
+#include "apps/sample/resource.h"
+
+#include <array>
+
+namespace
+{
+
+constexpr int kViewMenu = 1; // places in the menu bar of IDR_MAINFRAME
+constexpr int kUnitsMenu = 2;
+constexpr SIZE kSmallest = {560, 420};
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
+ON_WM_CREATE()
+ON_WM_CLOSE()
+ON_WM_GETMINMAXINFO()
+ON_COMMAND(ID_VIEW_REFRESH, OnViewRefresh)
+ON_COMMAND(ID_FILE_SAVE_PICTURE, OnSavePicture)
+ON_COMMAND(ID_APP_ABOUT, OnAbout)
+ON_COMMAND_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, OnPage)
+ON_UPDATE_COMMAND_UI_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, OnUpdatePage)
+ON_COMMAND_RANGE(ID_UNIT_FIRST, ID_UNIT_LAST, OnUnit)
+ON_UPDATE_COMMAND_UI_RANGE(ID_UNIT_FIRST, ID_UNIT_LAST, OnUpdateUnit)
+ON_UPDATE_COMMAND_UI(ID_INDICATOR_UNITS, OnUpdateUnitsIndicator)
+END_MESSAGE_MAP()
+
+PageView* MainFrame::View() const
+{
+    return m_view;
+}
+
+BOOL MainFrame::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.cx = 1180;
+    create.cy = 900;
+    return CFrameWnd::PreCreateWindow(create);
+}
+
+int MainFrame::OnCreate(LPCREATESTRUCT create)
+{
+    if (CFrameWnd::OnCreate(create) == -1 || !CreateStatusBar() || !FillMenus())
+        return -1;
+    return 0;
+}
+
+BOOL MainFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext* context)
+{
+    auto* const view = new PageView; // the framework deletes a view with its window
+    if (!view->Create(nullptr, nullptr, AFX_WS_DEFAULT_VIEW, CRect(), this, AFX_IDW_PANE_FIRST, context))
+        return FALSE;
+    m_view = view;
+    SetActiveView(view);
+    return TRUE;
+}
+
+bool MainFrame::CreateStatusBar()
+{
+    static constexpr std::array<UINT, 2> kPanes = {ID_SEPARATOR, ID_INDICATOR_UNITS};
+    return m_statusBar.Create(this) != FALSE &&
+           m_statusBar.SetIndicators(kPanes.data(), static_cast<int>(kPanes.size())) != FALSE;
+}
+
+bool MainFrame::FillMenus()
+{
+    CMenu* const bar = GetMenu();
+    CMenu* const view = bar != nullptr ? bar->GetSubMenu(kViewMenu) : nullptr;
+    CMenu* const units = bar != nullptr ? bar->GetSubMenu(kUnitsMenu) : nullptr;
+    if (view == nullptr || units == nullptr)
+        return false;
+    for (std::size_t index = 0; index < m_view->Pages().size(); ++index)
+    {
+        CString text;
+        text.Format("&%d %s\tCtrl+%d", static_cast<int>(index) + 1, m_view->Pages()[index]->Name(),
+                    static_cast<int>(index) + 1);
+        view->InsertMenu(static_cast<UINT>(index), MF_BYPOSITION | MF_STRING, ID_PAGE_FIRST + index, text);
+    }
+    units->DeleteMenu(0, MF_BYPOSITION); // the template's placeholder
+    UnitsMenu::Fill(*units);
+    return true;
+}
+
+void MainFrame::OnClose()
+{
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    if (GetWindowPlacement(&placement))
+        WriteWindowPlacement("WindowPlacement", "Main", &placement);
+    SaveBarState("Bars");
+    CFrameWnd::OnClose();
+}
+
+void MainFrame::OnGetMinMaxInfo(MINMAXINFO* info)
+{
+    CFrameWnd::OnGetMinMaxInfo(info);
+    info->ptMinTrackSize = {kSmallest.cx, kSmallest.cy};
+}
+
+void MainFrame::OnViewRefresh()
+{
+    GetConversionBoy()->ReadUnits();
+    m_view->RefreshPage();
+}
+
+void MainFrame::OnSavePicture()
+{
+    CFileDialog dialog(FALSE, "png", "VornSample.png", OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST,
+                       "Pictures (*.png)|*.png||", this);
+    if (dialog.DoModal() != IDOK)
+        return;
+    UpdateWindow();
+    if (!SaveSnapshot(*this, dialog.GetPathName()))
+        AfxMessageBox("The picture could not be written.\n\nIs the folder writable, and is there room?",
+                      MB_OK | MB_ICONEXCLAMATION);
+}
+
+void MainFrame::OnAbout()
+{
+    AboutDialog(this).DoModal();
+}
+
+void MainFrame::OnPage(UINT command)
+{
+    m_view->ShowPage(command - ID_PAGE_FIRST);
+}
+
+void MainFrame::OnUpdatePage(CCmdUI* item)
+{
+    item->SetRadio(m_view->CurrentPage() == item->m_nID - ID_PAGE_FIRST);
+}
+
+void MainFrame::OnUnit(UINT command)
+{
+    UnitsMenu::Choose(command);
+    m_view->RefreshPage();
+}
+
+void MainFrame::OnUpdateUnit(CCmdUI* item)
+{
+    item->SetRadio(UnitsMenu::IsChosen(item->m_nID));
+}
+
+void MainFrame::OnUpdateUnitsIndicator(CCmdUI* item)
+{
+    item->Enable();
+    item->SetText(UnitsMenu::InForce());
+}

@@ -1,0 +1,309 @@
+#include "apps/sample/PageView.h"
+
+#include "apps/sample/pages/PageList.h"
+#include "apps/sample/resource.h"
+#include "apps/sample/ui/BufferedDC.h"
+
+#include <algorithm>
+
+namespace
+{
+
+// Pixels at 96 dpi.
+constexpr int kBandHeight = 58;
+constexpr int kRailWidth = 132;
+constexpr int kRailItemHeight = 34;
+constexpr int kLineScroll = 40;
+constexpr int kMargin = 16;
+
+void DrawLine(CDC& dc, CRect area, const char* text, const CFont& font, COLORREF color, UINT format)
+{
+    CFont* const before = dc.SelectObject(const_cast<CFont*>(&font));
+    dc.SetTextColor(color);
+    dc.SetBkMode(TRANSPARENT);
+    dc.DrawText(text, -1, &area, format | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    dc.SelectObject(before);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(PageView, CView)
+ON_WM_CREATE()
+ON_WM_ERASEBKGND()
+ON_WM_SIZE()
+ON_WM_VSCROLL()
+ON_WM_MOUSEWHEEL()
+ON_WM_KEYDOWN()
+ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+PageView::PageView() : m_pages(MakePages())
+{
+}
+
+const std::vector<std::unique_ptr<Page>>& PageView::Pages() const
+{
+    return m_pages;
+}
+
+std::size_t PageView::CurrentPage() const
+{
+    return m_current;
+}
+
+BOOL PageView::PreCreateWindow(CREATESTRUCT& create)
+{
+    create.style |= WS_CLIPCHILDREN | WS_VSCROLL;
+    create.dwExStyle &= ~static_cast<DWORD>(WS_EX_CLIENTEDGE);
+    return CView::PreCreateWindow(create);
+}
+
+int PageView::OnCreate(LPCREATESTRUCT create)
+{
+    if (CView::OnCreate(create) == -1)
+        return -1;
+    CClientDC dc(this);
+    m_theme = std::make_unique<Theme>(dc.GetDeviceCaps(LOGPIXELSY));
+    for (const std::unique_ptr<Page>& page : m_pages)
+        page->Refresh();
+    m_pages[m_current]->Activate(*this, true);
+    return 0;
+}
+
+void PageView::ShowPage(std::size_t index)
+{
+    if (index >= m_pages.size() || index == m_current)
+        return;
+    m_pages[m_current]->Activate(*this, false);
+    m_current = index;
+    m_scroll = 0;
+    m_pages[m_current]->Refresh();
+    m_pages[m_current]->Activate(*this, true);
+    Layout();
+    Invalidate(FALSE);
+}
+
+void PageView::RefreshPage()
+{
+    m_pages[m_current]->Refresh();
+    Layout();
+    Invalidate(FALSE);
+}
+
+BOOL PageView::OnEraseBkgnd(CDC*)
+{
+    return TRUE; // every pixel is painted by OnDraw
+}
+
+void PageView::OnSize(UINT type, int width, int height)
+{
+    CView::OnSize(type, width, height);
+    Layout();
+    Invalidate(FALSE);
+}
+
+CRect PageView::RailArea() const
+{
+    CRect area;
+    GetClientRect(&area);
+    area.top += m_theme->Px(kBandHeight);
+    area.right = std::min<LONG>(area.right, m_theme->Px(kRailWidth));
+    return area;
+}
+
+CRect PageView::RailItem(std::size_t index) const
+{
+    CRect item = RailArea();
+    item.top += m_theme->Px(kMargin / 2) + static_cast<int>(index) * m_theme->Px(kRailItemHeight);
+    item.bottom = item.top + m_theme->Px(kRailItemHeight);
+    return item;
+}
+
+CRect PageView::PageArea() const
+{
+    CRect area;
+    GetClientRect(&area);
+    area.top += m_theme->Px(kBandHeight);
+    area.left += m_theme->Px(kRailWidth);
+    return area;
+}
+
+void PageView::Layout()
+{
+    if (m_theme == nullptr)
+        return;
+    const CRect area = PageArea();
+    m_pageHeight = m_pages[m_current]->HeightFor(area.Width(), *m_theme);
+    m_scroll = std::clamp(m_scroll, 0, std::max(0, m_pageHeight - area.Height()));
+
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
+    info.nMax = std::max(0, m_pageHeight - 1);
+    info.nPage = static_cast<UINT>(std::max<LONG>(0, area.Height()));
+    info.nPos = m_scroll;
+    SetScrollInfo(SB_VERT, &info);
+
+    CRect page(area);
+    page.OffsetRect(0, -m_scroll);
+    m_pages[m_current]->PlaceControls(page, *m_theme);
+}
+
+void PageView::ScrollTo(int position)
+{
+    const int before = m_scroll;
+    m_scroll = position;
+    Layout();
+    if (m_scroll != before)
+        Invalidate(FALSE);
+}
+
+void PageView::OnVScroll(UINT code, UINT, CScrollBar*)
+{
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    GetScrollInfo(SB_VERT, &info);
+    switch (code)
+    {
+    case SB_LINEUP:
+        return ScrollTo(m_scroll - m_theme->Px(kLineScroll));
+    case SB_LINEDOWN:
+        return ScrollTo(m_scroll + m_theme->Px(kLineScroll));
+    case SB_PAGEUP:
+        return ScrollTo(m_scroll - static_cast<int>(info.nPage));
+    case SB_PAGEDOWN:
+        return ScrollTo(m_scroll + static_cast<int>(info.nPage));
+    case SB_TOP:
+        return ScrollTo(0);
+    case SB_BOTTOM:
+        return ScrollTo(m_pageHeight);
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION:
+        return ScrollTo(info.nTrackPos);
+    default:
+        break;
+    }
+}
+
+BOOL PageView::OnMouseWheel(UINT, short delta, CPoint)
+{
+    ScrollTo(m_scroll - MulDiv(delta, 3 * m_theme->Px(kLineScroll), WHEEL_DELTA));
+    return TRUE;
+}
+
+void PageView::OnKeyDown(UINT key, UINT repeats, UINT flags)
+{
+    ScrollByKey(key);
+    CView::OnKeyDown(key, repeats, flags);
+}
+
+void PageView::ScrollByKey(UINT key)
+{
+    switch (key)
+    {
+    case VK_UP:
+        return OnVScroll(SB_LINEUP, 0, nullptr);
+    case VK_DOWN:
+        return OnVScroll(SB_LINEDOWN, 0, nullptr);
+    case VK_PRIOR:
+        return OnVScroll(SB_PAGEUP, 0, nullptr);
+    case VK_NEXT:
+        return OnVScroll(SB_PAGEDOWN, 0, nullptr);
+    case VK_HOME:
+        return OnVScroll(SB_TOP, 0, nullptr);
+    case VK_END:
+        return OnVScroll(SB_BOTTOM, 0, nullptr);
+    default:
+        break;
+    }
+}
+
+void PageView::OnLButtonDown(UINT flags, CPoint point)
+{
+    CView::OnLButtonDown(flags, point);
+    SetFocus();
+    for (std::size_t index = 0; index < m_pages.size(); ++index)
+    {
+        if (RailItem(index).PtInRect(point))
+            ShowPage(index);
+    }
+}
+
+BOOL PageView::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    if (lParam != 0 && m_pages[m_current]->OnControl(LOWORD(wParam), HIWORD(wParam)))
+    {
+        Layout();
+        Invalidate(FALSE);
+        return TRUE;
+    }
+    return CView::OnCommand(wParam, lParam);
+}
+
+void PageView::OnDraw(CDC* dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    BufferedDC buffer(*dc, client);
+    CDC& target = buffer.Get();
+    target.FillSolidRect(client, m_theme->window);
+    PaintPage(target);
+    PaintBand(target);
+    PaintRail(target);
+}
+
+void PageView::PaintPage(CDC& dc) const
+{
+    CRect area = PageArea();
+    const int saved = dc.SaveDC();
+    dc.IntersectClipRect(&area);
+    area.OffsetRect(0, -m_scroll);
+    area.bottom = std::max<LONG>(area.bottom, area.top + m_pageHeight);
+    m_pages[m_current]->Paint(dc, area, *m_theme);
+    dc.RestoreDC(saved);
+}
+
+void PageView::PaintBand(CDC& dc) const
+{
+    CRect band;
+    GetClientRect(&band);
+    band.bottom = m_theme->Px(kBandHeight);
+    dc.FillSolidRect(band, m_theme->band);
+    band.DeflateRect(m_theme->Px(kMargin), m_theme->Px(7), m_theme->Px(kMargin), m_theme->Px(7));
+    CRect line(band);
+    line.bottom = line.top + m_theme->Px(26);
+    CString name;
+    AfxLoadString(IDS_SAMPLE_TITLE, name);
+    DrawLine(dc, line, name, m_theme->title, m_theme->bandText, DT_LEFT);
+    line.top = line.bottom;
+    line.bottom = band.bottom;
+    AfxLoadString(IDS_SAMPLE_SUBTITLE, name);
+    DrawLine(dc, line, name, m_theme->note, m_theme->bandMuted, DT_LEFT);
+}
+
+void PageView::PaintRail(CDC& dc) const
+{
+    dc.FillSolidRect(RailArea(), m_theme->bandActive);
+    for (std::size_t index = 0; index < m_pages.size(); ++index)
+    {
+        CRect item = RailItem(index);
+        const bool current = index == m_current;
+        if (current)
+            dc.FillSolidRect(item, m_theme->window);
+        item.left += m_theme->Px(kMargin);
+        DrawLine(dc, item, m_pages[index]->Name(), current ? m_theme->bold : m_theme->body,
+                 current ? m_theme->text : m_theme->bandText, DT_LEFT);
+    }
+}
+
+BOOL PageView::OnPreparePrinting(CPrintInfo* info)
+{
+    return VornCommonApp::Inst()->OnPreparePrinting(this, info) ? TRUE : FALSE;
+}
+
+void PageView::OnPrint(CDC* dc, CPrintInfo* info)
+{
+    const Theme paper(dc->GetDeviceCaps(LOGPIXELSY));
+    m_pages[m_current]->Paint(*dc, info->m_rectDraw, paper);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "apps/sample/pages/Page.h"
+
+#include <memory>
+#include <vector>
+
+/// The sample's window inside the frame: a band with the application's name, a rail with the pages' names, and the
+/// page in front, scrolled when it is higher than the window.
+class PageView : public CView
+{
+public:
+    PageView();
+
+    /// The pages in the order of the rail.
+    const std::vector<std::unique_ptr<Page>>& Pages() const;
+
+    std::size_t CurrentPage() const;
+    void ShowPage(std::size_t index);
+
+    /// Takes all values anew and paints them.
+    void RefreshPage();
+
+protected:
+    void OnDraw(CDC* dc) override;
+    BOOL PreCreateWindow(CREATESTRUCT& create) override;
+    BOOL OnPreparePrinting(CPrintInfo* info) override;
+    void OnPrint(CDC* dc, CPrintInfo* info) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT repeats, UINT flags);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CRect PageArea() const;
+    CRect RailArea() const;
+    CRect RailItem(std::size_t index) const;
+    void Layout();
+    void ScrollTo(int position);
+    void ScrollByKey(UINT key);
+    void PaintBand(CDC& dc) const;
+    void PaintRail(CDC& dc) const;
+    void PaintPage(CDC& dc) const;
+
+    std::unique_ptr<Theme> m_theme;
+    std::vector<std::unique_ptr<Page>> m_pages;
+    std::size_t m_current = 0;
+    int m_scroll = 0;
+    int m_pageHeight = 0;
+};

@@ -1,0 +1,134 @@
+#include "apps/sample/SampleApp.h"
+
+#include "apps/sample/MainFrame.h"
+#include "apps/sample/PageView.h"
+#include "apps/sample/Snapshot.h"
+#include "apps/sample/core/ReportTable.h"
+#include "apps/sample/resource.h"
+
+#include <cstdio>
+#include <memory>
+
+namespace
+{
+
+constexpr int kFailed = 1;
+constexpr int kWrongUse = 2;
+
+SampleApp theApp;
+
+void Print(std::FILE* stream, const std::string& text)
+{
+    const std::string out = vorn::Utf8FromCodePage1252(text);
+    std::fwrite(out.data(), 1, out.size(), stream);
+    std::fflush(stream);
+}
+
+// Lets windows show and paint themselves until nothing is left to do.
+void PumpPending()
+{
+    MSG message;
+    while (PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+    {
+        TranslateMessage(&message);
+        DispatchMessage(&message);
+    }
+}
+
+bool SelectPage(PageView& view, const std::string& name)
+{
+    for (std::size_t index = 0; index < view.Pages().size(); ++index)
+    {
+        if (lstrcmpi(view.Pages()[index]->Name(), name.c_str()) == 0)
+        {
+            view.ShowPage(index);
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+SampleApp::SampleApp() : CWinApp("VornSample")
+{
+}
+
+BOOL SampleApp::InitInstance()
+{
+    const StartOptions options = ParseStartOptions(__argc, __argv);
+    if (!options.error.empty() || options.help)
+    {
+        const bool failed = !options.error.empty();
+        Print(failed ? stderr : stdout, failed ? "VornSample: " + options.error + '\n' : StartOptionsHelp());
+        m_exitCode = failed ? kWrongUse : 0;
+        return FALSE;
+    }
+
+    VornCommonApp::Inst(this);
+    SetRegistryKey("Vornwald"); // the bars' state stands beside the settings
+    if (!CreateMainFrame(options) || !ApplyOptions(options))
+        return FALSE;
+    if (options.summary || !options.snapshotFile.empty())
+    {
+        RunUnattended(options);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+bool SampleApp::CreateMainFrame(const StartOptions& options)
+{
+    auto frame = std::make_unique<MainFrame>();
+    if (!frame->LoadFrame(IDR_MAINFRAME))
+    {
+        Print(stderr, "VornSample: the window could not be created; is there a display?\n");
+        m_exitCode = kFailed;
+        return false;
+    }
+    m_pMainWnd = frame.release(); // a frame window deletes itself when its window is destroyed
+    InitialShowMainFrame(static_cast<CFrameWnd*>(m_pMainWnd), "WindowPlacement", "Main", "Bars",
+                         static_cast<UINT>(m_nCmdShow));
+    if (options.width > 0)
+        m_pMainWnd->SetWindowPos(nullptr, 0, 0, options.width, options.height, SWP_NOMOVE | SWP_NOZORDER);
+    m_pMainWnd->UpdateWindow();
+    return true;
+}
+
+bool SampleApp::ApplyOptions(const StartOptions& options)
+{
+    PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
+    if (options.page.empty() || SelectPage(view, options.page))
+        return true;
+    Print(stderr, "VornSample: there is no page named " + options.page + '\n');
+    m_exitCode = kWrongUse;
+    m_pMainWnd->DestroyWindow();
+    return false;
+}
+
+void SampleApp::RunUnattended(const StartOptions& options)
+{
+    PumpPending();
+    m_pMainWnd->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0);
+    PumpPending();
+    m_pMainWnd->UpdateWindow();
+    if (!options.snapshotFile.empty() && !SaveSnapshot(*m_pMainWnd, options.snapshotFile.c_str()))
+    {
+        Print(stderr, "VornSample: cannot write " + options.snapshotFile + '\n');
+        m_exitCode = kFailed;
+    }
+    if (options.summary)
+    {
+        const PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
+        Print(stdout, view.Pages()[view.CurrentPage()]->Summary());
+    }
+    m_pMainWnd->DestroyWindow();
+}
+
+int SampleApp::ExitInstance()
+{
+    const int code = CWinApp::ExitInstance();
+    VornCommonApp::FreeInst();
+    AppRegMgr::FreeInst();
+    return m_exitCode != 0 ? m_exitCode : code;
+}

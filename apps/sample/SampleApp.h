@@ -1,0 +1,24 @@
+#pragma once
+
+#include "apps/sample/StartOptions.h"
+
+#include <VornCommon.h>
+
+class MainFrame;
+
+/// The sample's application object: the framework's and the library's in one.
+class SampleApp : public CWinApp, public VornCommonApp
+{
+public:
+    SampleApp();
+
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+
+private:
+    bool CreateMainFrame(const StartOptions& options);
+    bool ApplyOptions(const StartOptions& options);
+    void RunUnattended(const StartOptions& options);
+
+    int m_exitCode = 0;
+};

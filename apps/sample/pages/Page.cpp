@@ -1,0 +1,14 @@
+#include "apps/sample/pages/Page.h"
+
+void Page::Activate(CWnd&, bool)
+{
+}
+
+void Page::PlaceControls(const CRect&, const Theme&)
+{
+}
+
+bool Page::OnControl(UINT, UINT)
+{
+    return false;
+}

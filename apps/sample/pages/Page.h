@@ -1,0 +1,40 @@
+#pragma once
+
+#include "apps/sample/ui/Theme.h"
+
+#include <string>
+
+/// One page of the sample's window: its name in the rail, what it paints, and the controls it owns.
+/// Pages live as long as the view. The view scrolls a page that is higher than the window.
+class Page
+{
+public:
+    Page() = default;
+    virtual ~Page() = default;
+    Page(const Page&) = delete;
+    Page& operator=(const Page&) = delete;
+
+    /// The name in the rail and for `--page`.
+    virtual const char* Name() const = 0;
+
+    /// Takes values anew from the library: settings have changed, or the page comes to the front.
+    virtual void Refresh() = 0;
+
+    /// The height that the page needs at this width, in the theme's pixels.
+    virtual int HeightFor(int width, const Theme& theme) const = 0;
+
+    /// Paints the page. `area` is HeightFor(area.Width()) high, or higher.
+    virtual void Paint(CDC& dc, const CRect& area, const Theme& theme) const = 0;
+
+    /// What the page shows, as lines of text in code page 1252.
+    virtual std::string Summary() const = 0;
+
+    /// The page comes to the front or leaves it: controls of its own are made, shown or hidden here.
+    virtual void Activate(CWnd& view, bool active);
+
+    /// Moves the page's own controls; `area` is the page as it stands in the view, scrolled.
+    virtual void PlaceControls(const CRect& area, const Theme& theme);
+
+    /// A notification of one of the page's own controls. True when it was meant for the page.
+    virtual bool OnControl(UINT id, UINT code);
+};
