@@ -62,7 +62,7 @@ choose_root() {
 }
 
 root_apt() {
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -y -o DPkg::Lock::Timeout=300 "$@"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -y -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300 "$@"
 }
 
 # An update may end non-zero because one index is being renewed, or because some other list of the

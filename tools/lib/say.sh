@@ -74,12 +74,14 @@ watch_log() { # pid log
     local begin=$SECONDS next=$((SECONDS + progress_period))
     while kill -0 "$1" 2> /dev/null; do
         if [ "$SECONDS" -ge "$next" ]; then
-            note "$((SECONDS - begin)) s: $(tail -c 300 "$2" | tr '\r' '\n' | tail -n 1 | cut -c 1-100)"
+            note "$((SECONDS - begin)) s: $(last_line "$2")"
             next=$((SECONDS + progress_period))
         fi
         sleep 0.1
     done
 }
+
+last_line() { tail -c 2000 "$1" | tr '\r' '\n' | grep '[^[:space:]]' | tail -n 1 | cut -c 1-100; }
 
 # Two runs in one checkout would build into each other's hands: the second one waits.
 take_turn() {
