@@ -26,6 +26,10 @@ build_preset() {
 
 # Once configured, the build itself notices when it must be configured anew.
 configure_preset() {
+    if [ -f "build/$1/CMakeCache.txt" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "build/$1/CMakeCache.txt"; then
+        note "the checkout has moved: building $1 anew"
+        rm -rf "build/$1"
+    fi
     [ -f "build/$1/build.ninja" ] && return
     long_step "configure-$1" cmake --preset "$1" || exit 1
 }
