@@ -281,25 +281,52 @@ TEST(WindowCreation, FailsAfterNestedCreationsWithOneEndToo)
     class NestingAndFailing : public Failing
     {
     public:
-        using Failing::Failing;
+        NestingAndFailing(How how, const PlainClass& plain) : Failing(how), m_plain(plain)
+        {
+        }
         CWnd inner;
+        HWND plainTop = nullptr;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
             if (message == WM_NCCREATE)
             {
                 CreatePopup(inner);
+                plainTop = m_plain.Create();
             }
             return Failing::WindowProc(message, wParam, lParam);
         }
+
+    private:
+        const PlainClass& m_plain;
     };
+    const PlainClass plain("PlainInsideFailure", ::DefWindowProc);
     for (const auto how : {Failing::NcCreate, Failing::Create})
     {
-        NestingAndFailing window(how);
+        NestingAndFailing window(how, plain);
         EXPECT_FALSE(CreatePopup(window));
         EXPECT_EQ(window.m_hWnd, nullptr);
         EXPECT_EQ(window.ends, 1);
         EXPECT_NE(window.inner.m_hWnd, nullptr);
+        EXPECT_EQ(CWnd::FromHandlePermanent(window.plainTop), nullptr);
+        ::DestroyWindow(window.plainTop);
     }
+}
+
+TEST(WindowCreation, ForgetsAFailedWindowThatAHandlerKeptFromTheBase)
+{
+    class Forgetful : public Failing
+    {
+    public:
+        using Failing::Failing;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            return message == WM_NCDESTROY ? 0 : Failing::WindowProc(message, wParam, lParam);
+        }
+    };
+    Forgetful window(Failing::Create);
+    EXPECT_FALSE(CreatePopup(window));
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(window.ends, 1);
 }
 
 TEST(WindowCreation, PutsTheFrameworkBeforeASystemControl)
