@@ -6,7 +6,6 @@
 #include "apps/sample/core/ReportTable.h"
 #include "apps/sample/resource.h"
 
-#include <cstdio>
 #include <memory>
 
 namespace
@@ -17,11 +16,12 @@ constexpr int kWrongUse = 2;
 
 SampleApp theApp;
 
-void Print(std::FILE* stream, const std::string& text)
+// Straight to the handle: the text's line ends stay as they are, as in the family's command-line tool.
+void Print(DWORD stream, const std::string& text)
 {
     const std::string out = vorn::Utf8FromCodePage1252(text);
-    std::fwrite(out.data(), 1, out.size(), stream);
-    std::fflush(stream);
+    DWORD written = 0;
+    WriteFile(GetStdHandle(stream), out.data(), static_cast<DWORD>(out.size()), &written, nullptr);
 }
 
 // Lets windows show and paint themselves until nothing is left to do.
@@ -60,7 +60,8 @@ BOOL SampleApp::InitInstance()
     if (!options.error.empty() || options.help)
     {
         const bool failed = !options.error.empty();
-        Print(failed ? stderr : stdout, failed ? "VornSample: " + options.error + '\n' : StartOptionsHelp());
+        Print(failed ? STD_ERROR_HANDLE : STD_OUTPUT_HANDLE,
+              failed ? "VornSample: " + options.error + '\n' : StartOptionsHelp());
         m_exitCode = failed ? kWrongUse : 0;
         return FALSE;
     }
@@ -82,7 +83,7 @@ bool SampleApp::CreateMainFrame(const StartOptions& options)
     auto frame = std::make_unique<MainFrame>();
     if (!frame->LoadFrame(IDR_MAINFRAME))
     {
-        Print(stderr, "VornSample: the window could not be created; is there a display?\n");
+        Print(STD_ERROR_HANDLE, "VornSample: the window could not be created; is there a display?\n");
         m_exitCode = kFailed;
         return false;
     }
@@ -100,7 +101,7 @@ bool SampleApp::ApplyOptions(const StartOptions& options)
     PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
     if (options.page.empty() || SelectPage(view, options.page))
         return true;
-    Print(stderr, "VornSample: there is no page named " + options.page + '\n');
+    Print(STD_ERROR_HANDLE, "VornSample: there is no page named " + options.page + '\n');
     m_exitCode = kWrongUse;
     m_pMainWnd->DestroyWindow();
     return false;
@@ -114,13 +115,13 @@ void SampleApp::RunUnattended(const StartOptions& options)
     m_pMainWnd->UpdateWindow();
     if (!options.snapshotFile.empty() && !SaveSnapshot(*m_pMainWnd, options.snapshotFile.c_str()))
     {
-        Print(stderr, "VornSample: cannot write " + options.snapshotFile + '\n');
+        Print(STD_ERROR_HANDLE, "VornSample: cannot write " + options.snapshotFile + '\n');
         m_exitCode = kFailed;
     }
     if (options.summary)
     {
         const PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
-        Print(stdout, view.Pages()[view.CurrentPage()]->Summary());
+        Print(STD_OUTPUT_HANDLE, view.Pages()[view.CurrentPage()]->Summary());
     }
     m_pMainWnd->DestroyWindow();
 }

@@ -1,0 +1,144 @@
+#include "tests/support/PumpUntil.h"
+#include "tests/support/ScratchFolder.h"
+#include "tests/support/ScratchKey.h"
+#include "tests/windows/VornSample/SampleProcess.h"
+
+#include <gtest/gtest.h>
+
+using vorn::test::PumpUntil;
+using vorn::test::SampleProcess;
+using vorn::test::ScratchFolder;
+using vorn::test::ScratchKey;
+
+namespace
+{
+
+// The sample's public command numbers: 32 for each kind of quantity, in the order of the Units menu.
+constexpr WPARAM kFirstUnitCommand = 34000;
+constexpr WPARAM kKilometersCommand = kFirstUnitCommand + 2;
+constexpr WPARAM kHectopascalsCommand = kFirstUnitCommand + 6 * 32 + 1;
+
+constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
+
+class SampleHost : public testing::Test
+{
+protected:
+    std::string Output() const
+    {
+        return m_folder.Read("output.txt");
+    }
+
+    DWORD Run(const std::string& arguments)
+    {
+        const SampleProcess sample(arguments, m_folder.File("output.txt"));
+        return sample.ExitCode();
+    }
+
+    static DWORD StoredUnit(const char* key)
+    {
+        DWORD value = 0xDEAD;
+        DWORD size = sizeof value;
+        const std::string section = std::string(kSettings) + "\\Units";
+        RegGetValueA(HKEY_CURRENT_USER, section.c_str(), key, RRF_RT_REG_DWORD, nullptr, &value, &size);
+        return value;
+    }
+
+    ScratchFolder m_folder;
+    ScratchKey m_settings{HKEY_CURRENT_USER, kSettings};
+};
+
+std::string WindowsFolderFile(const char* name)
+{
+    char folder[MAX_PATH];
+    GetWindowsDirectoryA(folder, MAX_PATH);
+    return std::string(folder) + '\\' + name;
+}
+
+} // namespace
+
+TEST_F(SampleHost, PrintsDefaultsOnAFreshInstallation)
+{
+    EXPECT_EQ(Run("--summary"), 0u);
+    const std::string text = Output();
+    EXPECT_NE(text.find("Stand to holding point         0.05 NM      304 FT\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("Standard at sea level          15.0 \xC2\xB0"
+                        "C       59 \xC2\xB0"
+                        "F\n"),
+              std::string::npos)
+        << text;
+    EXPECT_NE(text.find("  Distance              Nautical Mile      Default\n"), std::string::npos) << text;
+    EXPECT_EQ(text.find("Registry\n"), std::string::npos) << text;
+}
+
+TEST_F(SampleHost, KeepsUnitsAndPlaceOverARestart)
+{
+    RECT before{};
+    {
+        const SampleProcess sample("--size 900x640", m_folder.File("output.txt"));
+        const HWND window = sample.MainWindow();
+        ASSERT_NE(window, nullptr);
+        SendMessageA(window, WM_COMMAND, kKilometersCommand, 0);
+        SendMessageA(window, WM_COMMAND, kHectopascalsCommand, 0);
+        SetWindowPos(window, nullptr, 60, 70, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        GetWindowRect(window, &before);
+        PostMessageA(window, WM_CLOSE, 0, 0);
+        EXPECT_EQ(sample.ExitCode(), 0u);
+    }
+    EXPECT_EQ(StoredUnit("Distance"), 2u);
+    EXPECT_EQ(StoredUnit("Pressure"), 18u);
+
+    const SampleProcess again("", m_folder.File("output.txt"));
+    const HWND window = again.MainWindow();
+    ASSERT_NE(window, nullptr);
+    RECT after{};
+    GetWindowRect(window, &after);
+    EXPECT_EQ(after.left, before.left);
+    EXPECT_EQ(after.top, before.top);
+    EXPECT_EQ(after.right - after.left, 900);
+    EXPECT_EQ(after.bottom - after.top, 640);
+    PostMessageA(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(again.ExitCode(), 0u);
+
+    EXPECT_EQ(Run("--summary"), 0u);
+    EXPECT_NE(Output().find("112.00 NM     207.4 KM\n"), std::string::npos) << Output();
+    EXPECT_NE(Output().find("  Distance              Kilometer          Registry\n"), std::string::npos) << Output();
+}
+
+TEST_F(SampleHost, ShowsSettingsOfAnOlderInstallation)
+{
+    const std::string file = WindowsFolderFile("VornSample.INI");
+    WritePrivateProfileStringA("Units", "Speed", "7", file.c_str());
+    WritePrivateProfileStringA(nullptr, nullptr, nullptr, file.c_str());
+    EXPECT_EQ(Run("--summary"), 0u);
+    DeleteFileA(file.c_str());
+    EXPECT_NE(Output().find("  Speed                 Kilometer per Hour  INI file\n"), std::string::npos) << Output();
+    EXPECT_NE(Output().find("120.4 KPH\n"), std::string::npos) << Output();
+}
+
+TEST_F(SampleHost, SavesAPictureOfItsWindow)
+{
+    EXPECT_EQ(Run("--size 700x500 --snapshot \"" + m_folder.File("window.png") + '"'), 0u);
+    const std::string picture = m_folder.Read("window.png");
+    ASSERT_GT(picture.size(), 24u);
+    EXPECT_EQ(picture.substr(0, 8), "\x89PNG\r\n\x1A\n");
+    EXPECT_EQ(picture.substr(16, 8), std::string("\0\0\x02\xBC\0\0\x01\xF4", 8)); // 700 x 500, big-endian
+}
+
+TEST_F(SampleHost, RefusesWhatItDoesNotKnow)
+{
+    EXPECT_EQ(Run("--colour"), 2u);
+    EXPECT_EQ(Output(), "VornSample: unknown option --colour\n");
+    EXPECT_EQ(Run("--size 12"), 2u);
+    EXPECT_EQ(Output(), "VornSample: --size wants WIDTHxHEIGHT, for example 1180x900\n");
+    EXPECT_EQ(Run("--page Nowhere"), 2u);
+    EXPECT_EQ(Output(), "VornSample: there is no page named Nowhere\n");
+    EXPECT_EQ(Run("--snapshot"), 2u);
+    EXPECT_EQ(Output(), "VornSample: --snapshot wants a value\n");
+}
+
+TEST_F(SampleHost, SaysWhenThePictureCannotBeWritten)
+{
+    const std::string file = m_folder.File("no such folder\\window.png");
+    EXPECT_EQ(Run("--snapshot \"" + file + '"'), 1u);
+    EXPECT_EQ(Output(), "VornSample: cannot write " + file + '\n');
+}
