@@ -5,7 +5,8 @@ namespace vorn::tool
 
 Tool VornTool()
 {
-    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(), FormatCommands(), VersionCommands()};
+    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(), FormatCommands(),
+                                          ParseCommands(),    DateCommands(),  VersionCommands()};
     return {"Looks into an installation of the Vornwald applications.", VORN_VERSION, groups};
 }
 

@@ -10,6 +10,8 @@ namespace vorn::tool
 const CommandGroup& SettingsCommands();
 const CommandGroup& UnitsCommands();
 const CommandGroup& FormatCommands();
+const CommandGroup& ParseCommands();
+const CommandGroup& DateCommands();
 const CommandGroup& VersionCommands();
 
 /// The whole tool with all its commands.

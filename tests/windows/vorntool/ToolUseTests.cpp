@@ -6,10 +6,12 @@ namespace
 {
 
 const std::vector<std::vector<std::string>> kCommands = {
-    {"settings", "get"},  {"settings", "set"},  {"settings", "delete"}, {"settings", "list"},
-    {"settings", "apps"}, {"units", "convert"}, {"units", "show"},      {"version"},
-    {"format", "lat"},    {"format", "lon"},    {"format", "course"},   {"format", "alt"},
-    {"format", "fl"},     {"format", "time"},   {"format", "date"}};
+    {"settings", "get"},  {"settings", "set"},  {"settings", "delete"},
+    {"settings", "list"}, {"settings", "apps"}, {"units", "convert"},
+    {"units", "show"},    {"version"},          {"format", "lat"},
+    {"format", "lon"},    {"format", "course"}, {"format", "alt"},
+    {"format", "fl"},     {"format", "time"},   {"format", "date"},
+    {"parse", "hhmm"},    {"parse", "base"},    {"date"}};
 
 std::string Joined(const std::vector<std::string>& words)
 {
