@@ -1,6 +1,5 @@
 #include "config/AbsentFile.h"
 
-#include <optional>
 #include <utility>
 
 namespace vorn
@@ -40,7 +39,7 @@ std::string Parent(const std::string& path)
 }
 } // namespace
 
-AbsentFile::AbsentFile(std::string path) : m_path(std::move(path))
+AbsentFile::AbsentFile(std::string path, Folder folder) : m_path(std::move(path)), m_use(folder)
 {
 }
 
@@ -62,13 +61,24 @@ bool AbsentFile::HasCome()
 
 bool AbsentFile::IsKnownAbsent() const
 {
-    return !m_folder.empty() && GetTickCount64() - m_asked < kTrustedMs && FolderChange(m_folder) == m_changed;
+    return !m_folder.empty() && GetTickCount64() - m_asked < kTrustedMs && LastChange() == m_changed;
+}
+
+std::optional<AbsentFile::Time> AbsentFile::LastChange() const
+{
+    FILETIME time;
+    if (m_opened)
+    {
+        return GetFileTime(m_opened.get(), nullptr, nullptr, &time) ? std::optional(Ticks(time)) : std::nullopt;
+    }
+    return FolderChange(m_folder);
 }
 
 void AbsentFile::RememberFolder()
 {
     m_asked = GetTickCount64();
-    std::optional<unsigned long long> change;
+    m_opened.reset();
+    std::optional<Time> change;
     m_folder = Parent(m_path);
     while (!m_folder.empty() && !(change = FolderChange(m_folder)))
     {
@@ -79,5 +89,17 @@ void AbsentFile::RememberFolder()
     {
         m_folder.clear();
     }
+    else if (m_use == Folder::KeepOpen)
+    {
+        OpenFolder();
+    }
+}
+
+void AbsentFile::OpenFolder()
+{
+    const HANDLE opened =
+        CreateFileA(m_folder.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    m_opened.reset(opened == INVALID_HANDLE_VALUE ? nullptr : opened);
 }
 } // namespace vorn

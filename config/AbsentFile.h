@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <memory>
+#include <optional>
 #include <string>
 
 namespace vorn
@@ -15,8 +17,16 @@ namespace vorn
 class AbsentFile
 {
 public:
+    /// Whether the folder may be kept open, which makes asking cheaper still. An open folder that someone deletes could
+    /// not be made anew, so this is for folders that stay.
+    enum class Folder
+    {
+        KeepOpen,
+        AskByName,
+    };
+
     AbsentFile() = default;
-    explicit AbsentFile(std::string path);
+    AbsentFile(std::string path, Folder folder);
 
     const std::string& Path() const
     {
@@ -27,12 +37,26 @@ public:
     bool HasCome();
 
 private:
+    using Time = unsigned long long;
+
+    struct HandleCloser
+    {
+        void operator()(HANDLE handle) const
+        {
+            CloseHandle(handle);
+        }
+    };
+
     bool IsKnownAbsent() const;
+    std::optional<Time> LastChange() const;
     void RememberFolder();
+    void OpenFolder();
 
     std::string m_path;
-    std::string m_folder;             ///< nearest folder that exists; empty when nothing is remembered
-    unsigned long long m_changed = 0; ///< its last change, in the system's units of 100 ns
-    unsigned long long m_asked = 0;   ///< when the file was last looked for, in ms
+    Folder m_use = Folder::AskByName;
+    std::string m_folder;                         ///< nearest folder that exists; empty when nothing is remembered
+    std::unique_ptr<void, HandleCloser> m_opened; ///< the same, when it is kept open
+    Time m_changed = 0;                           ///< its last change, in the system's units of 100 ns
+    Time m_asked = 0;                             ///< when the file was last looked for, in ms
 };
 } // namespace vorn

@@ -27,10 +27,11 @@ void SettingsSource::SetPlaces(const std::string& application)
     m_application = application;
     const FolderNames& folders = SystemFolders();
     const std::string file = '\\' + application + ".INI";
-    m_shared = AbsentFile(folders.windows + file);
+    m_shared = AbsentFile(folders.windows + file, AbsentFile::Folder::KeepOpen);
     const bool diverted = !folders.localData.empty() && folders.windows.size() > 2;
     // The system keeps diverted files under their path without the drive ("C:").
-    m_perUser =
-        diverted ? AbsentFile(folders.localData + "\\VirtualStore" + folders.windows.substr(2) + file) : AbsentFile();
+    m_perUser = diverted ? AbsentFile(folders.localData + "\\VirtualStore" + folders.windows.substr(2) + file,
+                                      AbsentFile::Folder::AskByName)
+                         : AbsentFile();
 }
 } // namespace vorn

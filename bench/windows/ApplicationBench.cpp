@@ -1,3 +1,4 @@
+#include "bench/windows/OldFile.h"
 #include "bench/windows/PairedTimer.h"
 #include "frame/ProgramVersion.h"
 #include "frame/VornCommonApp.h"
@@ -32,7 +33,7 @@ void Glyph(benchmark::State& state)
 }
 BENCHMARK(Glyph)->Name("Application/GetVornGlyph to a look-up in std::unordered_map")->UseManualTime();
 
-/// The family's INI file, naming a folder in which this very program stands as the flight planner.
+/// The family's INI file, naming a folder in which a library of the system stands as the flight planner.
 class Installed
 {
 public:
@@ -45,6 +46,7 @@ public:
         GetWindowsDirectoryA(path, MAX_PATH);
         m_ini = std::string(path) + "\\Vornwald.ini";
         std::ofstream(m_ini) << "[Paths]\nVornBenchDir=" << m_root << '\n';
+        vorn::bench::MakeOld(m_ini);
         CopyFileA((std::string(path) + "\\system32\\comctl32.dll").c_str(), Program().c_str(), FALSE);
     }
     ~Installed()

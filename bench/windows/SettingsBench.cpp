@@ -1,3 +1,4 @@
+#include "bench/windows/OldFile.h"
 #include "bench/windows/PairedTimer.h"
 #include "config/AppRegData.h"
 
@@ -180,17 +181,6 @@ void MissOfSection(benchmark::State& state)
 }
 BENCHMARK(MissOfSection)->Name("Settings/Miss of section without INI file to hit (at most 3)")->UseManualTime();
 
-/// Makes a file old, as settings files of former installations are: the system parses young ones at every call.
-void MakeOld(const std::string& path)
-{
-    const HANDLE file = CreateFileA(path.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    const SYSTEMTIME longAgo{2010, 6, 0, 15, 12, 0, 0, 0};
-    FILETIME time;
-    SystemTimeToFileTime(&longAgo, &time);
-    SetFileTime(file, &time, &time, &time);
-    CloseHandle(file);
-}
-
 /// 100 sections of 100 entries.
 void WriteLargeIni()
 {
@@ -204,7 +194,7 @@ void WriteLargeIni()
         }
     }
     std::fclose(file);
-    MakeOld(IniPath());
+    vorn::bench::MakeOld(IniPath());
 }
 
 void IniLookup(benchmark::State& state)
