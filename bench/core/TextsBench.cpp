@@ -5,6 +5,7 @@
 #include "aviation/core/Rounding.h"
 #include "frame/core/BaseNDigits.h"
 #include "frame/core/Match.h"
+#include "frame/core/Serialisation.h"
 #include "frame/core/Split.h"
 #include "frame/core/StringSort.h"
 
@@ -22,6 +23,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -295,5 +297,27 @@ void DecodeBlock(benchmark::State& state)
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(bytes.size()));
 }
 BENCHMARK(DecodeBlock)->Name("BaseN bytes decode");
+
+void ReadList(benchmark::State& state)
+{
+    CStringList list;
+    for (int i = 0; i < 100'000; ++i)
+        list.AddTail("twenty characters ab");
+    std::vector<char> record(2'500'000);
+    char* cursor = record.data();
+    auto remaining = static_cast<unsigned long>(record.size());
+    ReadWriteCStringList(cursor, remaining, list, false);
+    for (auto _ : state)
+    {
+        auto back = std::make_unique<CStringList>();
+        cursor = record.data();
+        remaining = static_cast<unsigned long>(record.size());
+        benchmark::DoNotOptimize(ReadWriteCStringList(cursor, remaining, *back, true));
+        state.PauseTiming();
+        back.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(ReadList)->Name("Serialisation/read 100,000 texts")->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -9,45 +9,6 @@ namespace
 
 using Fields = vorn::RecordFields<decltype(&TarnObject::ReadWriteSimpleValue)>;
 
-bool Read(Fields& fields, CString& text)
-{
-    text.Empty();
-    const bool read = fields.ReadText(
-        [&text](std::int32_t length)
-        {
-            return text.GetBufferSetLength(length);
-        });
-    if (!read)
-        text.Empty();
-    return read;
-}
-
-bool Write(Fields& fields, const CString& text)
-{
-    return fields.WriteText({text.GetString(), static_cast<std::size_t>(text.GetLength())});
-}
-
-bool ReadList(Fields& fields, CStringList& list)
-{
-    return fields.ReadList(
-        [&list](Fields& f)
-        {
-            CString text;
-            const bool read = Read(f, text);
-            if (read)
-                list.AddTail(text);
-            return read;
-        });
-}
-
-bool WriteList(Fields& fields, const CStringList& list)
-{
-    bool written = fields.WriteNumber(list.GetCount());
-    for (POSITION position = list.GetHeadPosition(); written && position != nullptr;)
-        written = Write(fields, list.GetNext(position));
-    return written;
-}
-
 /// Short memory fails like a short buffer.
 template <class Transfer>
 bool WithoutExceptions(Transfer&& transfer)
@@ -61,6 +22,55 @@ bool WithoutExceptions(Transfer&& transfer)
         exception->Delete();
         return false;
     }
+}
+
+bool Read(Fields& fields, CString& text)
+{
+    text.Empty();
+    const bool read = WithoutExceptions(
+        [&]
+        {
+            return fields.ReadText(
+                [&text](std::int32_t length)
+                {
+                    return text.GetBufferSetLength(length);
+                });
+        });
+    if (!read)
+        text.Empty();
+    return read;
+}
+
+bool Write(Fields& fields, const CString& text)
+{
+    return fields.WriteText({text.GetString(), static_cast<std::size_t>(text.GetLength())});
+}
+
+/// Reads straight into the list's new tail, which goes again when it was not read whole.
+bool ReadToTail(Fields& fields, CStringList& list)
+{
+    list.AddTail(CString());
+    const bool read = Read(fields, list.GetTail());
+    if (!read)
+        list.RemoveTail();
+    return read;
+}
+
+bool ReadList(Fields& fields, CStringList& list)
+{
+    return fields.ReadList(
+        [&list](Fields& f)
+        {
+            return ReadToTail(f, list);
+        });
+}
+
+bool WriteList(Fields& fields, const CStringList& list)
+{
+    bool written = fields.WriteNumber(list.GetCount());
+    for (POSITION position = list.GetHeadPosition(); written && position != nullptr;)
+        written = Write(fields, list.GetNext(position));
+    return written;
 }
 
 } // namespace
