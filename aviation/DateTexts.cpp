@@ -1,15 +1,11 @@
 #include "aviation/Date.h"
 #include "aviation/RuntimeClock.h"
 #include "aviation/core/Currency.h"
+#include "frame/core/StringViews.h"
 #include "framework/core/OleException.h"
 
 namespace
 {
-
-CString ToCString(const std::string& text)
-{
-    return CString(text.data(), static_cast<int>(text.size()));
-}
 
 std::string Printed(const std::optional<std::tm>& fields, const char* picture)
 {
@@ -27,12 +23,12 @@ std::string Zulu(const CTime& time, const char* picture)
 
 CString Date::GetDMdY()
 {
-    return isValid() ? ToCString(Printed(vorn::LocalFields(m_time.GetTime()), vorn::kDayPicture)) : CString();
+    return isValid() ? vorn::ToCString(Printed(vorn::LocalFields(m_time.GetTime()), vorn::kDayPicture)) : CString();
 }
 
 CString Date::GetZuluTDMdY()
 {
-    return isValid() ? ToCString(Zulu(m_time, vorn::kZuluMomentPicture)) : CString();
+    return isValid() ? vorn::ToCString(Zulu(m_time, vorn::kZuluMomentPicture)) : CString();
 }
 
 CString Date::GetNavEffDate()
@@ -42,7 +38,7 @@ CString Date::GetNavEffDate()
 
 CString Date::GetTermEffDate()
 {
-    return ToCString(Zulu(m_time, vorn::kDayPicture));
+    return vorn::ToCString(Zulu(m_time, vorn::kDayPicture));
 }
 
 CString Date::GetNavExpDate()
@@ -50,7 +46,7 @@ CString Date::GetNavExpDate()
     if (!isValid())
         return {};
     const double days = GetDaysDiff();
-    return ToCString(vorn::NavExpiryText(Zulu(m_time, vorn::kZuluMomentPicture), days, isExpired()));
+    return vorn::ToCString(vorn::NavExpiryText(Zulu(m_time, vorn::kZuluMomentPicture), days, isExpired()));
 }
 
 CString Date::GetTermExpDate()
@@ -59,5 +55,5 @@ CString Date::GetTermExpDate()
         return {};
     const double days = GetDaysDiff();
     const bool late = isLate();
-    return ToCString(vorn::TerminalExpiryText(Zulu(m_time, vorn::kZuluMomentPicture), days, late, isExpired()));
+    return vorn::ToCString(vorn::TerminalExpiryText(Zulu(m_time, vorn::kZuluMomentPicture), days, late, isExpired()));
 }

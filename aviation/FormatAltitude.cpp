@@ -4,6 +4,7 @@
 #include "aviation/core/Altitude.h"
 #include "config/AppRegMgr.h"
 #include "frame/VornCommonApp.h"
+#include "frame/core/StringViews.h"
 
 namespace
 {
@@ -36,5 +37,5 @@ CString FLAltToString(int feet)
 CString TASTypeToString(int type)
 {
     const std::string_view text = vorn::AirspaceTypeText(type);
-    return CString(text.data(), static_cast<int>(text.size()));
+    return vorn::ToCString(text);
 }

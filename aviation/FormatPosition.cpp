@@ -4,6 +4,7 @@
 #include "aviation/core/Position.h"
 #include "aviation/core/Rounding.h"
 #include "frame/VornCommonApp.h"
+#include "frame/core/StringViews.h"
 
 namespace
 {
@@ -20,17 +21,12 @@ vorn::PositionFormat ChosenFormat()
     return {seconds, GeneralSetting(seconds ? "LatLonPrecSeconds" : "LatLonPrecMinutes", 1)};
 }
 
-CString ToCString(std::string_view text)
-{
-    return CString(text.data(), static_cast<int>(text.size()));
-}
-
 } // namespace
 
 CString LatLonToString(double degrees, bool isLatitude)
 {
     const vorn::Axis axis = isLatitude ? vorn::Axis::Latitude : vorn::Axis::Longitude;
-    return ToCString(vorn::PositionText(degrees, axis, ChosenFormat()).View());
+    return vorn::ToCString(vorn::PositionText(degrees, axis, ChosenFormat()).View());
 }
 
 CString LatToString(double lat)
@@ -45,7 +41,7 @@ CString LonToString(double lon)
 
 CString CourseToString(double value, bool eastWest)
 {
-    return ToCString(vorn::CourseText(value, eastWest));
+    return vorn::ToCString(vorn::CourseText(value, eastWest));
 }
 
 void RoundTo(double& value, int decimals)

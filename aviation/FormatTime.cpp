@@ -1,6 +1,7 @@
 #include "aviation/Formatting.h"
 #include "aviation/LocaleText.h"
 #include "aviation/core/Duration.h"
+#include "frame/core/StringViews.h"
 
 #include <windows.h>
 
@@ -25,7 +26,7 @@ CString ClockText(const SYSTEMTIME& when)
 CString TimeToString(double hours, bool words, bool seconds)
 {
     const vorn::CompactText text = vorn::DurationText(hours, {words, seconds});
-    return CString(text.View().data(), static_cast<int>(text.View().size()));
+    return vorn::ToCString(text.View());
 }
 
 CString TimeToString(SYSTEMTIME* when, bool longDate)

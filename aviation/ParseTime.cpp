@@ -3,6 +3,7 @@
 #include "aviation/HostZone.h"
 #include "aviation/RuntimeClock.h"
 #include "aviation/core/TimeParse.h"
+#include "frame/core/StringViews.h"
 
 namespace
 {
@@ -16,13 +17,12 @@ std::int64_t BiasAt(CTime& t)
 
 int ParseHHMM(int base, const char* text)
 {
-    return vorn::TypedTimeOnDayOf(base, text != nullptr ? std::string_view(text) : std::string_view(),
-                                  vorn::RuntimeClock());
+    return vorn::TypedTimeOnDayOf(base, vorn::ViewOf(text), vorn::RuntimeClock());
 }
 
 void ValidateTime(CString& hhmm)
 {
-    const std::string valid = vorn::ValidatedTime({hhmm.GetString(), static_cast<std::size_t>(hhmm.GetLength())});
+    const std::string valid = vorn::ValidatedTime(vorn::ViewOf(hhmm));
     hhmm.SetString(valid.data(), static_cast<int>(valid.size()));
 }
 

@@ -4,6 +4,7 @@
 #include "config/HostName.h"
 #include "config/SystemFolders.h"
 #include "config/core/PathCompose.h"
+#include "frame/core/StringViews.h"
 
 #include <windows.h>
 
@@ -16,22 +17,12 @@ constexpr const char* kPathsSection = "Paths";
 constexpr const char* kGlobal = "Global";
 constexpr const char* kInstallers = "Installers";
 
-CString ToCString(std::string_view text)
-{
-    return CString(text.data(), static_cast<int>(text.size()));
-}
-
-std::string_view ViewOf(const CString& text)
-{
-    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
-}
-
 /// What the shell names, with a backslash; a folder that it does not know leaves the field as it was.
 void TakeShellFolder(CString& field, int code)
 {
     const std::string folder = vorn::ShellFolder(code);
     if (!folder.empty())
-        field = ToCString(vorn::WithBackslash(folder));
+        field = vorn::ToCString(vorn::WithBackslash(folder));
 }
 
 } // namespace
@@ -63,12 +54,12 @@ void AppPathData::Initialize(PathCfgVer requested, const char*)
 void AppPathData::InitKnownPaths()
 {
     if (m_executableFolder.IsEmpty())
-        m_executableFolder = ToCString(vorn::ExecutableFolder());
+        m_executableFolder = vorn::ToCString(vorn::ExecutableFolder());
     m_home = GetProfilePath("Home Path", m_executableFolder, kPathsSection);
-    if (!m_application.IsEmpty() && ViewOf(m_application) != vorn::HostName())
+    if (!m_application.IsEmpty() && vorn::ViewOf(m_application) != vorn::HostName())
         m_executableFolder = m_home;
-    m_module = m_application.IsEmpty() ? ToCString(vorn::LastFolderName(ViewOf(m_home))) : m_application;
-    m_root = GetProfilePath("Root Path", ToCString(vorn::RootOfHome(ViewOf(m_home))), kPathsSection);
+    m_module = m_application.IsEmpty() ? vorn::ToCString(vorn::LastFolderName(vorn::ViewOf(m_home))) : m_application;
+    m_root = GetProfilePath("Root Path", vorn::ToCString(vorn::RootOfHome(vorn::ViewOf(m_home))), kPathsSection);
     TakeShellFolders();
 }
 
@@ -81,7 +72,7 @@ void AppPathData::TakeShellFolders()
     TakeShellFolder(m_programFiles, CSIDL_PROGRAM_FILES);
     const std::string documents = vorn::ShellFolder(CSIDL_COMMON_DOCUMENTS);
     if (!documents.empty())
-        m_publicFolder = ToCString(vorn::UpToLastBackslash(documents));
+        m_publicFolder = vorn::ToCString(vorn::UpToLastBackslash(documents));
 }
 
 CString AppPathData::ReadSetting(const char* section, const char* key, const char* standard, const char* app) const
@@ -109,13 +100,13 @@ void AppPathData::UseServer(const CString& themePath)
     const CString installation = InstallationFolder();
     if (AppRegMgr::Instance()->AllowNetwork())
     {
-        const CString data = ToCString(vorn::ServerDataFolder(ViewOf(themePath)));
+        const CString data = vorn::ToCString(vorn::ServerDataFolder(vorn::ViewOf(themePath)));
         m_userProfile = m_localData = m_roamingData = m_publicFolder = m_commonData = data;
         return;
     }
-    const vorn::ServerFolders folders = vorn::ServerFoldersOf(ViewOf(installation), ViewOf(m_application));
-    m_home = ToCString(folders.home);
-    m_root = ToCString(folders.root);
+    const vorn::ServerFolders folders = vorn::ServerFoldersOf(vorn::ViewOf(installation), vorn::ViewOf(m_application));
+    m_home = vorn::ToCString(folders.home);
+    m_root = vorn::ToCString(folders.root);
 }
 
 PathCfgVer AppPathData::ChosenLayout(PathCfgVer requested) const
@@ -127,7 +118,8 @@ PathCfgVer AppPathData::ChosenLayout(PathCfgVer requested) const
 
 CString AppPathData::GetProfilePath(const char* key, const char* standard, const char* section)
 {
-    CString path = ToCString(vorn::WithBackslash(ViewOf(ReadSetting(section, key, standard, m_application))));
+    CString path =
+        vorn::ToCString(vorn::WithBackslash(vorn::ViewOf(ReadSetting(section, key, standard, m_application))));
     SimplifyPath(path);
     return path;
 }
@@ -135,23 +127,24 @@ CString AppPathData::GetProfilePath(const char* key, const char* standard, const
 CString AppPathData::GetProfileAptDiagramPath(const char* key, const char* firstDefault, const char* secondDefault)
 {
     const CString setting = ReadSetting(kPathsSection, key, "", m_application);
-    return ToCString(vorn::ChooseDiagramFolder(ViewOf(setting), ViewOf(CString(firstDefault)),
-                                               ViewOf(CString(secondDefault)), vorn::HoldsDatFile));
+    return vorn::ToCString(vorn::ChooseDiagramFolder(vorn::ViewOf(setting), vorn::ViewOf(firstDefault),
+                                                     vorn::ViewOf(secondDefault), vorn::HoldsDatFile));
 }
 
 void AppPathData::SimplifyPath(CString& path)
 {
-    path = ToCString(vorn::FullPath(std::string(path)));
+    path = vorn::ToCString(vorn::FullPath(std::string(path)));
 }
 
 CString AppPathData::GetKnownPath(KnownPath base, VornPath beneath, const char* subfolder)
 {
     const auto row = vorn::RowOfKnownPath(base);
     const CString start =
-        row ? GetPathInst(*row) : ToCString(vorn::InstallationRoot(ViewOf(m_executableFolder), ViewOf(m_module)));
+        row ? GetPathInst(*row)
+            : vorn::ToCString(vorn::InstallationRoot(vorn::ViewOf(m_executableFolder), vorn::ViewOf(m_module)));
     const bool inNetwork = AppRegMgr::Instance()->AllowNetwork() && !ServerThemePath().IsEmpty();
-    const vorn::ComposeFacts facts{ViewOf(m_module), ViewOf(m_commonData), inNetwork};
-    return ToCString(
-        vorn::ComposedFolder(ViewOf(start), beneath, facts,
+    const vorn::ComposeFacts facts{vorn::ViewOf(m_module), vorn::ViewOf(m_commonData), inNetwork};
+    return vorn::ToCString(
+        vorn::ComposedFolder(vorn::ViewOf(start), beneath, facts,
                              subfolder != nullptr ? std::optional<std::string_view>(subfolder) : std::nullopt));
 }

@@ -1,21 +1,7 @@
 #include "config/AppPathData.h"
 
 #include "config/core/PathCompose.h"
-
-namespace
-{
-
-std::string_view ViewOf(const CString& text)
-{
-    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
-}
-
-CString ToCString(std::string_view text)
-{
-    return CString(text.data(), static_cast<int>(text.size()));
-}
-
-} // namespace
+#include "frame/core/StringViews.h"
 
 /// Lets the table of defined paths ask a record, through its virtual operations.
 class AppPathData::Source : public vorn::PathSource
@@ -28,27 +14,27 @@ public:
     std::string Field(vorn::PathField field) const override
     {
         const CString* const text = FieldOf(field);
-        return text != nullptr ? std::string(ViewOf(*text)) : std::string();
+        return text != nullptr ? std::string(vorn::ViewOf(*text)) : std::string();
     }
 
     std::string Setting(const char* key, const std::string& standard, const char* section) override
     {
-        return std::string(ViewOf(m_record.GetProfilePath(key, standard.c_str(), section)));
+        return std::string(vorn::ViewOf(m_record.GetProfilePath(key, standard.c_str(), section)));
     }
 
     std::string AirportDiagrams(const char* key, const std::string& first, const std::string& second) override
     {
-        return std::string(ViewOf(m_record.GetProfileAptDiagramPath(key, first.c_str(), second.c_str())));
+        return std::string(vorn::ViewOf(m_record.GetProfileAptDiagramPath(key, first.c_str(), second.c_str())));
     }
 
     std::string Known(KnownPath base, VornPath beneath, const char* subfolder) override
     {
-        return std::string(ViewOf(m_record.GetKnownPath(base, beneath, subfolder)));
+        return std::string(vorn::ViewOf(m_record.GetKnownPath(base, beneath, subfolder)));
     }
 
     void Add(DefinedPath path, const std::string& folder) override
     {
-        m_record.AddPathInst(path, ToCString(folder), m_layout);
+        m_record.AddPathInst(path, vorn::ToCString(folder), m_layout);
     }
 
 private:
@@ -142,25 +128,25 @@ PathCfgVer AppPathData::SetPathCfgVer(PathCfgVer layout, const char* app)
 CString AppPathData::GetPathInst(DefinedPath path)
 {
     const vorn::PathInstances* const instances = Instances(m_layout);
-    return instances != nullptr ? ToCString(instances->Effective(path)) : CString();
+    return instances != nullptr ? vorn::ToCString(instances->Effective(path)) : CString();
 }
 
 bool AppPathData::AddPathInst(DefinedPath path, CString folder, PathCfgVer layout)
 {
     vorn::PathInstances* const instances = Instances(layout);
-    return instances != nullptr && instances->Add(path, ViewOf(folder));
+    return instances != nullptr && instances->Add(path, vorn::ViewOf(folder));
 }
 
 bool AppPathData::RemovePathInst(DefinedPath path, CString folder)
 {
     vorn::PathInstances* const instances = Instances(m_layout);
-    return instances != nullptr && instances->Remove(path, ViewOf(folder));
+    return instances != nullptr && instances->Remove(path, vorn::ViewOf(folder));
 }
 
 bool AppPathData::ReplacePathInst(DefinedPath path, CString oldFolder, CString newFolder)
 {
     vorn::PathInstances* const instances = Instances(m_layout);
-    return instances != nullptr && instances->Replace(path, ViewOf(oldFolder), ViewOf(newFolder));
+    return instances != nullptr && instances->Replace(path, vorn::ViewOf(oldFolder), vorn::ViewOf(newFolder));
 }
 
 bool AppPathData::ClearPathInst(DefinedPath path)

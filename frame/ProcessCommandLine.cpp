@@ -1,4 +1,5 @@
 #include "frame/core/ArgumentArray.h"
+#include "frame/core/StringViews.h"
 #include "frame/core/TextUtilities.h"
 
 #include <windows.h>
@@ -11,6 +12,5 @@ void ProcessCommandLine(const char* commandLine, int& argc, char**& argv, bool i
     char program[MAX_PATH + 1] = {};
     if (includeProgram)
         GetModuleFileNameA(nullptr, program, MAX_PATH);
-    vorn::MakeArguments(commandLine != nullptr ? std::string_view(commandLine) : std::string_view(),
-                        includeProgram ? program : nullptr, argc, argv);
+    vorn::MakeArguments(vorn::ViewOf(commandLine), includeProgram ? program : nullptr, argc, argv);
 }

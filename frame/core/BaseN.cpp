@@ -1,16 +1,7 @@
 #include "frame/core/BaseN.h"
 
 #include "frame/core/BaseNDigits.h"
-
-namespace
-{
-
-CString ToCString(const std::string& text)
-{
-    return CString(text.data(), static_cast<int>(text.size()));
-}
-
-} // namespace
+#include "frame/core/StringViews.h"
 
 unsigned long long FromBaseN(const char* digits, int base)
 {
@@ -19,14 +10,14 @@ unsigned long long FromBaseN(const char* digits, int base)
 
 CString ToBaseN(unsigned long long value, int base)
 {
-    return ToCString(vorn::EncodeNumber(value, base));
+    return vorn::ToCString(vorn::EncodeNumber(value, base));
 }
 
 CString ToBaseN(unsigned char* bytes, int count, int base)
 {
     if (bytes == nullptr || count < 1)
         return {};
-    return ToCString(vorn::EncodeBytes({bytes, static_cast<std::size_t>(count)}, base));
+    return vorn::ToCString(vorn::EncodeBytes({bytes, static_cast<std::size_t>(count)}, base));
 }
 
 int FromBaseN(const char* digits, unsigned char* bytes, int size)

@@ -1,6 +1,7 @@
 #include "frame/core/CSortableStringArray.h"
 
 #include "frame/core/StringSort.h"
+#include "frame/core/StringViews.h"
 
 #include <new>
 #include <utility>
@@ -12,7 +13,7 @@ std::vector<std::string_view> ViewsOf(const CString* texts, std::size_t count)
 {
     std::vector<std::string_view> views(count);
     for (std::size_t i = 0; i < count; ++i)
-        views[i] = {texts[i].GetString(), static_cast<std::size_t>(texts[i].GetLength())};
+        views[i] = vorn::ViewOf(texts[i]);
     return views;
 }
 

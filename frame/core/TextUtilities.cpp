@@ -4,27 +4,13 @@
 #include "frame/core/Match.h"
 #include "frame/core/Respell.h"
 #include "frame/core/Split.h"
+#include "frame/core/StringViews.h"
 
 #include <cstdlib>
 #include <new>
 
 namespace
 {
-
-std::string_view ViewOf(const char* text)
-{
-    return text != nullptr ? std::string_view(text) : std::string_view();
-}
-
-std::string_view ViewOf(const CString& text)
-{
-    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
-}
-
-CString ToCString(std::string_view text)
-{
-    return CString(text.data(), static_cast<int>(text.size()));
-}
 
 /// Some bit of the runtime's random numbers that does not repeat soon.
 int Chance()
@@ -37,34 +23,34 @@ int Chance()
 void Keep(CString& text, std::string_view part)
 {
     if (part.size() != static_cast<std::size_t>(text.GetLength()))
-        text = ToCString(part);
+        text = vorn::ToCString(part);
 }
 
 } // namespace
 
 int SplitString(const char* text, const char* separators, CStringArray& parts, bool trim, bool skipEmpty)
 {
-    const std::size_t count = vorn::SplitText(ViewOf(text), ViewOf(separators), {trim, skipEmpty},
+    const std::size_t count = vorn::SplitText(vorn::ViewOf(text), vorn::ViewOf(separators), {trim, skipEmpty},
                                               [&parts](std::string_view piece)
                                               {
-                                                  parts.Add(ToCString(piece));
+                                                  parts.Add(vorn::ToCString(piece));
                                               });
     return static_cast<int>(count);
 }
 
 void TrimBoth(CString& text)
 {
-    Keep(text, vorn::TrimBoth(ViewOf(text)));
+    Keep(text, vorn::TrimBoth(vorn::ViewOf(text)));
 }
 
 bool MatchStrings(CString pattern, CString text, bool caseSensitive, bool exact)
 {
-    return vorn::MatchText(ViewOf(pattern), ViewOf(text), {caseSensitive, exact});
+    return vorn::MatchText(vorn::ViewOf(pattern), vorn::ViewOf(text), {caseSensitive, exact});
 }
 
 void RemoveAfterFirstSpace(CString& text)
 {
-    Keep(text, vorn::FirstWord(ViewOf(text)));
+    Keep(text, vorn::FirstWord(vorn::ViewOf(text)));
 }
 
 CString FixCase(const char* text)
@@ -83,7 +69,7 @@ CString& FixCase(CString& text)
 
 CString ConvertTehString(const char* text)
 {
-    return ToCString(vorn::Respell(ViewOf(text), Chance));
+    return vorn::ToCString(vorn::Respell(vorn::ViewOf(text), Chance));
 }
 
 void FreeObjects(CPtrArray* objects)
