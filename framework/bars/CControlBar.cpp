@@ -1,6 +1,7 @@
 #include "framework/bars/CControlBar.h"
 #include "framework/frames/CFrameWnd.h"
 #include "framework/gdi/CPaintDC.h"
+#include "framework/window/ModuleState.h"
 
 IMPLEMENT_DYNAMIC(CControlBar, CWnd)
 
@@ -83,6 +84,9 @@ void CControlBar::OnBarStyleChange(DWORD, DWORD)
 
 BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs)
 {
+    if (!cs.lpszClass)
+        cs.lpszClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW),
+                                           reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1)));
     if (!CWnd::PreCreateWindow(cs))
         return FALSE;
     // Bars lie over the frame's client area side by side: none may paint over another.

@@ -57,6 +57,7 @@ protected:
     void ReplaceButton(int index, const TBBUTTON& button);
     void OnBarStyleChange(DWORD oldStyle, DWORD newStyle) override;
     afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
 
     CBitmap m_images;
     SIZE m_buttonSize{23, 22};

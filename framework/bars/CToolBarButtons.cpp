@@ -1,5 +1,6 @@
 #include "framework/bars/CToolBar.h"
 #include "framework/frames/CFrameWnd.h"
+#include "framework/gdi/CDC.h"
 #include "framework/include/afxres.h"
 #include "framework/window/CCmdUI.h"
 #include <algorithm>
@@ -206,4 +207,13 @@ void CToolBar::OnBarStyleChange(DWORD, DWORD newStyle)
 void CToolBar::OnPaint()
 {
     Default();
+}
+
+BOOL CToolBar::OnEraseBkgnd(CDC* dc)
+{
+    // Some versions of the control leave this to the frame, which leaves it to its view.
+    CRect all;
+    GetClientRect(&all);
+    dc->FillSolidRect(&all, ::GetSysColor(COLOR_BTNFACE));
+    return TRUE;
 }

@@ -1,6 +1,7 @@
 #include "framework/bars/CControlBar.h"
 #include "framework/frames/CDockState.h"
 #include "framework/frames/CFrameWnd.h"
+#include "framework/gdi/CDC.h"
 #include "framework/include/afxres.h"
 #include "framework/window/CCmdUI.h"
 #include <algorithm>
@@ -82,8 +83,11 @@ void CFrameWnd::OnSize(UINT type, int cx, int cy)
 
 BOOL CFrameWnd::OnEraseBkgnd(CDC* dc)
 {
-    // The view covers what the bars leave: erasing would only flicker.
-    return m_pViewActive ? TRUE : CWnd::OnEraseBkgnd(dc);
+    // The view covers what the bars leave: erasing would only flicker. Children that ask the frame to erase for them
+    // come with a context of their own.
+    if (m_pViewActive && ::WindowFromDC(*dc) == m_hWnd)
+        return TRUE;
+    return CWnd::OnEraseBkgnd(dc);
 }
 
 void CFrameWnd::GetDockState(CDockState& state)

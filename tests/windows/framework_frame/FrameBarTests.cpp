@@ -1,5 +1,6 @@
 #include "tests/windows/framework_frame/TestFrame.h"
 
+#include "framework/gdi/CClientDC.h"
 #include "tests/support/PumpUntil.h"
 #include "tests/support/ScratchKey.h"
 
@@ -180,6 +181,34 @@ TEST_F(FrameBars, PassCommandsOnToTheFrame)
     // The frame disables its command by the update; a message without control is a menu's and is tested there.
     bar.SendMessage(WM_COMMAND, ID_TEST_APP);
     EXPECT_NE(std::string::npos, AllNotes().find("app-handler"));
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameBars, AreOfTheColourOfButtonFaces)
+{
+    TestFrame* frame = ShowFrameWithView();
+    TestBar bar(20);
+    bar.Create(frame, CBRS_ALIGN_LEFT, 0xE820);
+    frame->toolBar.Create(frame);
+    const UINT id = ID_TEST_VIEW;
+    frame->toolBar.SetButtons(&id, 1);
+    frame->RecalcLayout();
+    PumpWaiting();
+    EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), CClientDC(&bar).GetPixel(10, 50));
+    EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), CClientDC(&frame->toolBar).GetPixel(200, 10));
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameBars, DrawTheirBorders)
+{
+    TestFrame* frame = ShowFrame();
+    TestBar bar(20);
+    bar.Create(frame, CBRS_TOP, 0xE820);
+    frame->RecalcLayout();
+    PumpWaiting();
+    // The sunken edge of one pixel along the bar's lower side.
+    EXPECT_EQ(::GetSysColor(COLOR_BTNHIGHLIGHT), CClientDC(&bar).GetPixel(10, 19));
+    EXPECT_EQ(::GetSysColor(COLOR_BTNFACE), CClientDC(&bar).GetPixel(10, 18));
     frame->DestroyWindow();
 }
 

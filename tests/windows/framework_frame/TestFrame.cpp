@@ -80,7 +80,7 @@ void TestApp::OnTest()
 BOOL TestBar::Create(CWnd* parent, DWORD barStyle, UINT id)
 {
     SetBarStyle(barStyle);
-    return CWnd::Create(AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), parent, id);
+    return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), parent, id);
 }
 
 CSize TestBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)
