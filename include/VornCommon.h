@@ -27,6 +27,7 @@
 #include "config/AppRegData.h"
 #include "config/AppRegMgr.h"
 #include "config/GlobalRegData.h"
+#include "config/DefinedPathSetting.h"
 #include "config/PathMgr.h"
 #include "frame/ProgramVersion.h"
 #include "frame/SystemVersion.h"

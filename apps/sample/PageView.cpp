@@ -128,6 +128,14 @@ CRect PageView::PageArea() const
     return area;
 }
 
+CRect PageView::ScrolledPage() const
+{
+    CRect page = PageArea();
+    page.OffsetRect(0, -m_scroll);
+    page.bottom = std::max<LONG>(page.bottom, page.top + m_pageHeight);
+    return page;
+}
+
 void PageView::Layout()
 {
     if (m_theme == nullptr)
@@ -144,9 +152,7 @@ void PageView::Layout()
     info.nPos = m_scroll;
     SetScrollInfo(SB_VERT, &info);
 
-    CRect page(area);
-    page.OffsetRect(0, -m_scroll);
-    m_pages[m_current]->PlaceControls(page, *m_theme);
+    m_pages[m_current]->PlaceControls(ScrolledPage(), *m_theme);
 }
 
 void PageView::ScrollTo(int position)
@@ -230,6 +236,13 @@ void PageView::OnLButtonDown(UINT flags, CPoint point)
     }
 }
 
+void PageView::OnMouseMove(UINT flags, CPoint point)
+{
+    CView::OnMouseMove(flags, point);
+    if (m_pages[m_current]->OnPointer(ScrolledPage(), point, *m_theme))
+        Invalidate(FALSE);
+}
+
 BOOL PageView::OnCommand(WPARAM wParam, LPARAM lParam)
 {
     if (lParam != 0 && m_pages[m_current]->OnControl(LOWORD(wParam), HIWORD(wParam)))
@@ -255,12 +268,10 @@ void PageView::OnDraw(CDC* dc)
 
 void PageView::PaintPage(CDC& dc) const
 {
-    CRect area = PageArea();
+    const CRect area = PageArea();
     const int saved = dc.SaveDC();
     dc.IntersectClipRect(&area);
-    area.OffsetRect(0, -m_scroll);
-    area.bottom = std::max<LONG>(area.bottom, area.top + m_pageHeight);
-    m_pages[m_current]->Paint(dc, area, *m_theme);
+    m_pages[m_current]->Paint(dc, ScrolledPage(), *m_theme);
     dc.RestoreDC(saved);
 }
 

@@ -34,11 +34,13 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeats, UINT flags);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     DECLARE_MESSAGE_MAP()
 
 private:
     CRect PageArea() const;
+    CRect ScrolledPage() const;
     CRect RailArea() const;
     CRect RailItem(std::size_t index) const;
     void Layout();

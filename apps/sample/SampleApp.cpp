@@ -130,6 +130,7 @@ int SampleApp::ExitInstance()
 {
     const int code = CWinApp::ExitInstance();
     VornCommonApp::FreeInst();
+    PathMgr::FreeInst();
     AppRegMgr::FreeInst();
     return m_exitCode != 0 ? m_exitCode : code;
 }

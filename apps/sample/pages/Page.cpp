@@ -12,3 +12,8 @@ bool Page::OnControl(UINT, UINT)
 {
     return false;
 }
+
+bool Page::OnPointer(const CRect&, CPoint, const Theme&)
+{
+    return false;
+}

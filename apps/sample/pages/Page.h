@@ -37,4 +37,7 @@ public:
 
     /// A notification of one of the page's own controls. True when it was meant for the page.
     virtual bool OnControl(UINT id, UINT code);
+
+    /// The pointer moved to `point` of the view. True when what the page shows has changed.
+    virtual bool OnPointer(const CRect& area, CPoint point, const Theme& theme);
 };
