@@ -11,7 +11,7 @@ namespace
 
 // Pixels at 96 dpi.
 constexpr int kBandHeight = 58;
-constexpr int kRailWidth = 132;
+constexpr int kRailWidth = 160;
 constexpr int kRailItemHeight = 34;
 constexpr int kLineScroll = 40;
 constexpr int kMargin = 16;
@@ -308,8 +308,18 @@ void PageView::PaintRail(CDC& dc) const
     }
 }
 
+HBRUSH PageView::OnCtlColor(CDC* dc, CWnd* control, UINT type)
+{
+    const HBRUSH usual = CView::OnCtlColor(dc, control, type);
+    if (type != CTLCOLOR_STATIC && type != CTLCOLOR_BTN)
+        return usual;
+    dc->SetBkColor(m_theme->window);
+    return m_theme->windowBrush;
+}
+
 BOOL PageView::OnPreparePrinting(CPrintInfo* info)
 {
+    info->SetMaxPage(1);
     return VornCommonApp::Inst()->OnPreparePrinting(this, info) ? TRUE : FALSE;
 }
 

@@ -35,6 +35,7 @@ protected:
     afx_msg void OnKeyDown(UINT key, UINT repeats, UINT flags);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     DECLARE_MESSAGE_MAP()
 

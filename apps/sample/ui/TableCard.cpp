@@ -6,7 +6,7 @@
 namespace
 {
 
-constexpr int kCellGap = 14;   // pixels at 96 dpi between two columns
+constexpr int kCellGap = 18;   // pixels at 96 dpi between two columns
 constexpr int kMinColumn = 40; // a column gives way to this before the card would overflow
 
 int TextWidth(CDC& dc, const std::string& text)
@@ -48,10 +48,11 @@ std::vector<int> TableCard::ColumnWidths(CDC& dc, int available) const
     if (widths.empty())
         return widths;
 
-    // What is left over goes to the first column; what is missing comes from the widest.
+    // What is left over goes behind a last column of words, or before columns of figures; what is missing comes from
+    // the widest.
     int spare = available - std::accumulate(widths.begin(), widths.end(), 0);
     if (spare > 0)
-        widths.front() += spare;
+        (m_table.columns.back().align == vorn::Align::Left ? widths.back() : widths.front()) += spare;
     for (std::size_t turn = 0; spare < 0 && turn < widths.size(); ++turn)
     {
         const auto widest = std::max_element(widths.begin(), widths.end());
@@ -173,6 +174,7 @@ void TableCard::DrawCell(CDC& dc, const CRect& cell, const std::string& text, vo
 {
     CRect area(cell);
     const UINT side = align == vorn::Align::Left ? DT_LEFT : DT_RIGHT;
+    const UINT cut = text.find('\\') == std::string::npos ? DT_END_ELLIPSIS : DT_PATH_ELLIPSIS;
     dc.DrawText(text.c_str(), static_cast<int>(text.size()), &area,
-                side | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+                side | cut | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }

@@ -2,6 +2,7 @@
 
 Theme::Theme(int dotsPerInch) : m_dotsPerInch(dotsPerInch)
 {
+    windowBrush.CreateSolidBrush(window);
     MakeFont(title, 17, FW_SEMIBOLD);
     MakeFont(heading, 11, FW_SEMIBOLD);
     MakeFont(body, 9, FW_NORMAL);

@@ -28,6 +28,8 @@ public:
     COLORREF accent = RGB(0x0B, 0x62, 0xB5);
     COLORREF good = RGB(0x1B, 0x7A, 0x43);
 
+    CBrush windowBrush; ///< of the colour `window`, for controls that stand on it
+
     CFont title;   ///< the application's name in the band
     CFont heading; ///< a card's title
     CFont body;    ///< cells
