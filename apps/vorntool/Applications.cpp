@@ -31,7 +31,7 @@ void BecomeApplication(const CString& name)
 
 } // namespace
 
-std::optional<CString> ActAsApplication(const Command& command, const Invocation& call, Output& output)
+std::optional<CString> ApplicationOf(const Command& command, const Invocation& call, Output& output)
 {
     const std::string given = call.ValueOf(kAppOption.name, kKnown[0]);
     const std::optional<CString> name = LibraryFromUtf8(given);
@@ -40,8 +40,16 @@ std::optional<CString> ActAsApplication(const Command& command, const Invocation
         ReportError(output, command, Quoted(given) + " cannot be the name of an application");
         return std::nullopt;
     }
-    const CString application = KnownSpelling(*name);
-    BecomeApplication(application);
+    return KnownSpelling(*name);
+}
+
+std::optional<CString> ActAsApplication(const Command& command, const Invocation& call, Output& output)
+{
+    const std::optional<CString> application = ApplicationOf(command, call, output);
+    if (application)
+    {
+        BecomeApplication(*application);
+    }
     return application;
 }
 

@@ -15,6 +15,10 @@ namespace vorn::tool
 inline constexpr Option kAppOption = {"app", "NAME",
                                       "whose settings: Aerolune (if not given), VornView, Glasspad, Global, ..."};
 
+/// The application that the call names.
+/// @return its name; nothing when it can be none, which has been reported
+std::optional<CString> ApplicationOf(const Command& command, const Invocation& call, Output& output);
+
 /// Takes the place of the application that the call names, so that the library finds its settings, units and folders
 /// as it does in that application itself. To be called once in the life of the process.
 /// @return the application's name; nothing when it can be none, which has been reported

@@ -5,7 +5,7 @@ namespace vorn::tool
 
 Tool VornTool()
 {
-    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(), FormatCommands(),
+    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(), PathsCommands(),  FormatCommands(),
                                           ParseCommands(),    DateCommands(),  VersionCommands()};
     return {"Looks into an installation of the Vornwald applications.", VORN_VERSION, groups};
 }

@@ -9,6 +9,7 @@ namespace vorn::tool
 
 const CommandGroup& SettingsCommands();
 const CommandGroup& UnitsCommands();
+const CommandGroup& PathsCommands();
 const CommandGroup& FormatCommands();
 const CommandGroup& ParseCommands();
 const CommandGroup& DateCommands();

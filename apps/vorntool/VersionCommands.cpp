@@ -1,25 +1,14 @@
 #include "apps/vorntool/Commands.h"
 #include "apps/vorntool/FileVersion.h"
+#include "apps/vorntool/Programs.h"
 #include "apps/vorntool/TextConversion.h"
 #include "apps/vorntool/core/JsonWriter.h"
-
-#include <algorithm>
 
 namespace vorn::tool
 {
 
 namespace
 {
-
-// A program of the family, and the key of its folder in the family's INI file.
-struct Program
-{
-    const char* name;
-    const char* pathKey;
-};
-
-constexpr Program kPrograms[] = {
-    {"Aerolune", "AeroluneDir"}, {"VornView", "VornView3Dir"}, {"Glasspad", "Glasspad3Dir"}};
 
 // What was found out about one argument.
 struct Answer
@@ -29,16 +18,6 @@ struct Answer
     std::string fileVersion; ///< of a file only
     std::string reason;      ///< why there is none
 };
-
-const Program* ProgramNamed(const std::string& word)
-{
-    const auto* const found = std::find_if(std::begin(kPrograms), std::end(kPrograms),
-                                           [&](const Program& program)
-                                           {
-                                               return lstrcmpiA(program.name, word.c_str()) == 0;
-                                           });
-    return found == std::end(kPrograms) ? nullptr : found;
-}
 
 bool LooksLikeFile(const std::string& word)
 {

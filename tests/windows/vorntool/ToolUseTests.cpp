@@ -11,7 +11,8 @@ const std::vector<std::vector<std::string>> kCommands = {
     {"units", "show"},    {"version"},          {"format", "lat"},
     {"format", "lon"},    {"format", "course"}, {"format", "alt"},
     {"format", "fl"},     {"format", "time"},   {"format", "date"},
-    {"parse", "hhmm"},    {"parse", "base"},    {"date"}};
+    {"parse", "hhmm"},    {"parse", "base"},    {"date"},
+    {"paths", "list"},    {"paths", "get"}};
 
 std::string Joined(const std::vector<std::string>& words)
 {
