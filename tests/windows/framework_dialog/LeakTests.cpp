@@ -1,14 +1,12 @@
 #include "framework/dialog/DialogDataExchange.h"
 #include "tests/windows/framework_dialog/TestDialogs.h"
 
-#include "framework/gdi/CFont.h"
-#include "framework/window/WindowMap.h"
-
 #include <gtest/gtest.h>
 
 namespace
 {
 constexpr int kOpenings = 200;
+constexpr UINT_PTR kGdiHandles = 0x10000;
 
 struct Counts
 {
@@ -24,13 +22,31 @@ BOOL CALLBACK CountWindow(HWND, LPARAM count)
     return TRUE;
 }
 
+/// Where the system does not count drawing objects, each possible handle is asked for its type.
+DWORD CountGdiObjects()
+{
+    if (const DWORD counted = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS))
+        return counted;
+    DWORD count = 0;
+    for (UINT_PTR handle = 1; handle < kGdiHandles; ++handle)
+        count += ::GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0;
+    return count;
+}
+
 Counts CountNow()
 {
     Counts counts{};
     ::GetProcessHandleCount(::GetCurrentProcess(), &counts.handles);
-    counts.gdiObjects = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
+    counts.gdiObjects = CountGdiObjects();
     ::EnumThreadWindows(::GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&counts.windows));
     return counts;
+}
+
+void ExpectEqual(const Counts& after, const Counts& before)
+{
+    EXPECT_EQ(after.handles, before.handles);
+    EXPECT_EQ(after.gdiObjects, before.gdiObjects);
+    EXPECT_EQ(after.windows, before.windows);
 }
 
 /// Exchanges data and a control object, and ends itself.
@@ -55,6 +71,21 @@ public:
 };
 } // namespace
 
+TEST(DialogLeaks, CountersCount)
+{
+    const Counts before = CountNow();
+    const HANDLE event = ::CreateEventA(nullptr, FALSE, FALSE, nullptr);
+    const HBRUSH brush = ::CreateSolidBrush(RGB(1, 2, 3));
+    const HWND window = ::CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr, nullptr, nullptr);
+    const Counts during = CountNow();
+    EXPECT_EQ(during.handles, before.handles + 1);
+    EXPECT_GE(during.gdiObjects, before.gdiObjects + 1);
+    EXPECT_GE(during.windows, before.windows + 1);
+    ::DestroyWindow(window);
+    ::DeleteObject(brush);
+    ::CloseHandle(event);
+}
+
 TEST(DialogLeaks, TwoHundredOpeningsLeaveNothingBehind)
 {
     const auto open = []
@@ -67,10 +98,7 @@ TEST(DialogLeaks, TwoHundredOpeningsLeaveNothingBehind)
     const Counts before = CountNow();
     for (int i = 0; i < kOpenings; ++i)
         open();
-    const Counts after = CountNow();
-    EXPECT_EQ(after.handles, before.handles);
-    EXPECT_EQ(after.gdiObjects, before.gdiObjects);
-    EXPECT_EQ(after.windows, before.windows);
+    ExpectEqual(CountNow(), before);
 }
 
 TEST(DialogLeaks, FailedCreationsLeaveNothingBehind)
@@ -86,5 +114,5 @@ TEST(DialogLeaks, FailedCreationsLeaveNothingBehind)
     const Counts before = CountNow();
     for (int i = 0; i < kOpenings; ++i)
         open();
-    EXPECT_EQ(CountNow(), before);
+    ExpectEqual(CountNow(), before);
 }
