@@ -10,31 +10,6 @@ using vorn::ModalOwner;
 namespace
 {
 constexpr int kNoResult = -1;
-
-/// Ends a modal dialog on every way out of DoModal, exceptions included: first the owner is enabled, then it is made
-/// active, then the dialog goes. In another order the system would activate a window of another program.
-class ModalEnd
-{
-public:
-    ModalEnd(CWnd& dialog, ModalOwner& owner) : m_dialog(dialog), m_owner(owner)
-    {
-    }
-    ~ModalEnd()
-    {
-        m_owner.Restore();
-        if (m_owner.IsDialogDeleted() || !m_dialog.m_hWnd)
-            return;
-        if (::GetActiveWindow() == m_dialog.m_hWnd)
-            m_owner.Activate();
-        m_dialog.DestroyWindow();
-    }
-    ModalEnd(const ModalEnd&) = delete;
-    ModalEnd& operator=(const ModalEnd&) = delete;
-
-private:
-    CWnd& m_dialog;
-    ModalOwner& m_owner;
-};
 } // namespace
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* dialogInit)
@@ -75,21 +50,46 @@ INT_PTR CDialog::DoModal()
 
 int CDialog::RunModal(const LoadedDialogTemplate& dialogTemplate, ModalOwner& owner)
 {
+    /// Ends the dialog on every way out, exceptions included.
+    struct End
+    {
+        ~End()
+        {
+            dialog.FinishModal(owner);
+        }
+        CDialog& dialog;
+        ModalOwner& owner;
+    };
     const DWORD flags = MLF_SHOWONIDLE | (dialogTemplate.Style() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0);
     int result = kNoResult;
     m_modalOwner = &owner;
     owner.Disable();
     {
-        const ModalEnd end(*this, owner);
+        const End end{*this, owner};
         if (CreateFrom(dialogTemplate, owner.Handle()) && !m_ended)
             result = RunModalLoop(flags);
     }
     if (owner.IsDialogDeleted())
         return kNoResult;
-    m_modalOwner = nullptr;
-    // A loop that ended for another reason (WM_QUIT, the window's end) leaves its marks.
-    m_nFlags &= ~static_cast<UINT>(kStateModalLoop | kStateContinueModal);
     return m_ended ? m_modalResult : result;
+}
+
+void CDialog::FinishModal(ModalOwner& owner)
+{
+    // First the owner is enabled, then it is made active, then the dialog goes. In another order the system would
+    // activate a window of another program.
+    owner.Restore();
+    if (!owner.IsDialogDeleted() && m_hWnd)
+    {
+        if (::GetActiveWindow() == m_hWnd)
+            owner.Activate();
+        DestroyWindow();
+    }
+    if (owner.IsDialogDeleted())
+        return;
+    m_modalOwner = nullptr;
+    // A loop that ended for another reason (WM_QUIT, the window's end, an exception) leaves its marks.
+    m_nFlags &= ~static_cast<UINT>(kStateModalLoop | kStateContinueModal);
 }
 
 void CDialog::EndDialog(int result)
