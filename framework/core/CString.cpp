@@ -71,7 +71,7 @@ CString::CString(char ch, int nRepeat) : CString()
 
 CString& CString::operator=(const CString& strSrc)
 {
-    if (m_pszData == strSrc.m_pszData)
+    if (this == &strSrc || m_pszData == strSrc.m_pszData)
     {
         return *this;
     }
