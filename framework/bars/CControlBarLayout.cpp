@@ -12,15 +12,19 @@ constexpr LONG kAsLongAsPossible = 32767;
 /// Takes a strip of `size` from the side of `rect` that the style names and returns it.
 CRect TakeStrip(RECT& rect, DWORD style, CSize size)
 {
-    CRect strip(rect.left, rect.top, rect.left + size.cx, rect.top + size.cy);
-    if (style & CBRS_ALIGN_TOP)
-        rect.top += size.cy;
-    else if (style & CBRS_ALIGN_BOTTOM)
-        strip.OffsetRect(0, (rect.bottom -= size.cy) - strip.top);
-    else if (style & CBRS_ALIGN_LEFT)
-        rect.left += size.cx;
+    RECT strip = rect;
+    if (style & CBRS_ORIENT_HORZ)
+        strip.right = strip.left + size.cx;
     else
-        strip.OffsetRect((rect.right -= size.cx) - strip.left, 0);
+        strip.bottom = strip.top + size.cy;
+    if (style & CBRS_ALIGN_TOP)
+        strip.bottom = rect.top += size.cy;
+    else if (style & CBRS_ALIGN_BOTTOM)
+        strip.top = rect.bottom -= size.cy;
+    else if (style & CBRS_ALIGN_LEFT)
+        strip.right = rect.left += size.cx;
+    else
+        strip.left = rect.right -= size.cx;
     return strip;
 }
 

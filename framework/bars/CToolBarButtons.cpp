@@ -165,17 +165,18 @@ void CToolBar::GetButtonText(int index, CString& text) const
 
 CSize CToolBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)
 {
-    CRect all(0, 0, 0, 0);
+    LONG right = 0;
+    LONG bottom = 0;
     for (int i = 0; i < m_nCount; ++i)
     {
         CRect item;
         GetItemRect(i, &item);
-        all.right = std::max(all.right, item.right);
-        all.bottom = std::max(all.bottom, item.bottom);
+        right = std::max(right, item.right);
+        bottom = std::max(bottom, item.bottom);
     }
     const CSize size = CControlBar::CalcFixedLayout(stretch, horizontal);
-    const int width = static_cast<int>(all.right) + m_cxLeftBorder + m_cxRightBorder;
-    const int height = static_cast<int>(all.bottom) + m_cyTopBorder + m_cyBottomBorder;
+    const int width = static_cast<int>(right) + m_cxLeftBorder + m_cxRightBorder;
+    const int height = static_cast<int>(bottom) + m_cyTopBorder + m_cyBottomBorder;
     return CSize(std::max(static_cast<int>(size.cx), width),
                  std::max(static_cast<int>(size.cy), m_height ? m_height : height));
 }

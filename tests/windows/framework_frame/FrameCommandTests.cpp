@@ -2,6 +2,9 @@
 
 #include "tests/support/PumpUntil.h"
 
+#include <functional>
+#include <utility>
+
 using namespace vorn::test;
 
 namespace
@@ -239,6 +242,78 @@ TEST_F(FrameCommands, AcceleratorOfACommandThatIsDisabledDoesNothing)
     EXPECT_TRUE(frame->PreTranslateMessage(&key));
     EXPECT_EQ(std::string::npos, AllNotes().find("frame-handler"));
     frame->DestroyWindow();
+}
+
+namespace
+{
+/// Ends the program's loop, which closes the frame, once a condition holds; looks at idle time and every 10 ms.
+class LoopEnd
+{
+public:
+    LoopEnd(CWnd& frame, std::function<bool()> condition) : m_frame(frame), m_condition(std::move(condition))
+    {
+        s_current = this;
+        m_timer = ::SetTimer(nullptr, 0, 10, OnTimer);
+        m_deadline = ::GetTickCount() + 10000;
+    }
+    ~LoopEnd()
+    {
+        ::KillTimer(nullptr, m_timer);
+        s_current = nullptr;
+    }
+    LoopEnd(const LoopEnd&) = delete;
+    LoopEnd& operator=(const LoopEnd&) = delete;
+
+    bool held = false;
+
+private:
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD now)
+    {
+        if (s_current->held)
+            return;
+        s_current->held = s_current->m_condition();
+        if (s_current->held || static_cast<int>(now - s_current->m_deadline) > 0)
+            s_current->m_frame.PostMessage(WM_CLOSE);
+    }
+
+    static inline LoopEnd* s_current = nullptr;
+    CWnd& m_frame;
+    std::function<bool()> m_condition;
+    UINT_PTR m_timer;
+    DWORD m_deadline;
+};
+} // namespace
+
+TEST_F(FrameCommands, ProgramsLoopTurnsKeysIntoCommandsAndKeepsBarsUpToDate)
+{
+    TestFrame* frame = LoadedFrame();
+    App().m_pMainWnd = frame;
+    frame->ShowWindow(SW_SHOW);
+    frame->SetFocus();
+    ViewOf(*frame)->PostMessage(WM_KEYDOWN, VK_F8, 1);
+    const LoopEnd end(*frame,
+                      [frame]
+                      {
+                          return AllNotes().find("app-handler") != std::string::npos &&
+                                 frame->statusBar.GetPaneText(1) == "from the frame";
+                      });
+    EXPECT_EQ(0, App().Run());
+    EXPECT_TRUE(end.held);
+}
+
+TEST_F(FrameCommands, ProgramsLoopDoesDelayedLayouts)
+{
+    TestFrame* frame = LoadedFrame();
+    App().m_pMainWnd = frame;
+    frame->ShowWindow(SW_SHOW);
+    frame->ShowControlBar(&frame->statusBar, FALSE, TRUE);
+    const LoopEnd end(*frame,
+                      [frame]
+                      {
+                          return !frame->statusBar.IsWindowVisible();
+                      });
+    App().Run();
+    EXPECT_TRUE(end.held);
 }
 
 using FrameTitle = FrameTest;
