@@ -93,8 +93,8 @@ public:
     void DelayRecalcLayout(BOOL notify = TRUE);
     /// Shows or hides the bars of this frame as the section tells. Bars not named there stay.
     void LoadBarState(LPCTSTR profileName);
-    void SaveBarState(LPCTSTR profileName);
-    void GetDockState(CDockState& state);
+    void SaveBarState(LPCTSTR profileName) const;
+    void GetDockState(CDockState& state) const;
     void SetDockState(const CDockState& state);
     /// @}
 

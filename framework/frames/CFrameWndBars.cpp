@@ -90,7 +90,7 @@ BOOL CFrameWnd::OnEraseBkgnd(CDC* dc)
     return CWnd::OnEraseBkgnd(dc);
 }
 
-void CFrameWnd::GetDockState(CDockState& state)
+void CFrameWnd::GetDockState(CDockState& state) const
 {
     state.Clear();
     for (const CControlBar* bar : AllBars())
@@ -118,7 +118,7 @@ void CFrameWnd::LoadBarState(LPCTSTR profileName)
         SetDockState(state);
 }
 
-void CFrameWnd::SaveBarState(LPCTSTR profileName)
+void CFrameWnd::SaveBarState(LPCTSTR profileName) const
 {
     CDockState state;
     GetDockState(state);
