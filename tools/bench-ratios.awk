@@ -19,6 +19,28 @@ function shown_time(t) { return t < 1e3 ? sprintf("%.1f ns", t) : t < 1e6 ? spri
     for (i = 6; i <= columns; i++) counter[name, column[i]] = field[i - 1]
 }
 
+# "1.5k", "2.07", "320m": how the console form shortens a counter.
+function plain(text, last) {
+    last = substr(text, length(text))
+    return (text + 0) * (last == "k" ? 1e3 : last == "M" ? 1e6 : last == "G" ? 1e9 : last == "m" ? 1e-3 : last == "u" ? 1e-6 : last == "n" ? 1e-9 : 1)
+}
+
+# The console form: name, elapsed time, processor time, repetitions, counters.
+/_median +[0-9][^,]* (ns|us|ms|s) / {
+    name = rest = $0
+    sub(/_median +[0-9].*/, "", name)
+    sub(/\/manual_time$/, "", name)
+    real = sub(/\/real_time$/, "", name)
+    sub(/^.*_median +/, "", rest)
+    fields = split(rest, field, / +/)
+    elapsed[name] = nanoseconds(field[1], field[2])
+    processor[name] = real ? elapsed[name] : nanoseconds(field[3], field[4])
+    for (i = 6; i <= fields; i++) {
+        split(field[i], pair, "=")
+        counter[name, pair[1]] = plain(pair[2])
+    }
+}
+
 function need(name) {
     if (name in elapsed) return 1
     printf "   ?       %s: there is no benchmark \"%s\"\n", what, name
@@ -38,6 +60,11 @@ function evaluate(expression, side) {
         text = shown_time(value)
     } else if (split(expression, side, " @") == 2) {
         if (!need(side[1])) return 0
+        if (counter[side[1], side[2]] == "") {
+            printf "   ?       %s: the results hold no counter \"%s\" of \"%s\"\n", what, side[2], side[1]
+            bad = 1
+            return 0
+        }
         value = counter[side[1], side[2]] + 0
         text = sprintf("%.2f", value)
     } else {

@@ -10,12 +10,12 @@ command_bench() {
     build_preset native-core core_bench
     build_preset windows-x86 core_bench windows_bench bench_start_plain bench_start_library
     mkdir -p "$results"
-    rm -f "$results"/*.csv
+    rm -f "$results"/*.txt
     headline "Benchmarks, native"
     step build/native-core/bench/core_bench "${arguments[@]}" || exit 1
     bench_under_wine
     headline "Against the limits (bench/ratios.txt)"
-    step tools/bench-ratios bench/ratios.txt "$results"/*.csv || fail "not every limit is kept"
+    step tools/bench-ratios bench/ratios.txt "$results"/*.txt || fail "not every limit is kept"
 }
 
 bench_under_wine() {
@@ -26,6 +26,6 @@ bench_under_wine() {
     tools/wine-session stop
     for program in core_bench windows_bench; do
         step taskset -c "$core" tools/with-wine "build/windows-x86/bin/$program.exe" "${arguments[@]}" \
-            "--benchmark_out=$results/$program.csv" --benchmark_out_format=csv || exit 1
+            "--benchmark_out=$results/$program.txt" --benchmark_out_format=console || exit 1
     done
 }

@@ -47,6 +47,20 @@ protected:
     ScratchKey m_settings{HKEY_CURRENT_USER, kSettings};
 };
 
+// The view of a sample that starts with the position page, once the page's controls stand in it.
+HWND PositionView(HWND window)
+{
+    constexpr int kViewId = 0xE900;
+    constexpr int kLastControlId = 2006;
+    const HWND view = GetDlgItem(window, kViewId);
+    const bool ready = PumpUntil(
+        [view]
+        {
+            return IsWindowVisible(GetDlgItem(view, kLastControlId)) != FALSE;
+        });
+    return ready ? view : nullptr;
+}
+
 std::string WindowsFolderFile(const char* name)
 {
     char folder[MAX_PATH];
@@ -122,6 +136,27 @@ TEST_F(SampleHost, SavesAPictureOfItsWindow)
     ASSERT_GT(picture.size(), 24u);
     EXPECT_EQ(picture.substr(0, 8), "\x89PNG\r\n\x1A\n");
     EXPECT_EQ(picture.substr(16, 8), std::string("\0\0\x02\xBC\0\0\x01\xF4", 8)); // 700 x 500, big-endian
+}
+
+TEST_F(SampleHost, StoresHowPositionsAreWritten)
+{
+    constexpr int kSecondsCheckId = 2002;
+    constexpr int kDecimalsEditId = 2003;
+    {
+        const SampleProcess sample("--page \"Position and time\"", m_folder.File("output.txt"));
+        const HWND window = sample.MainWindow();
+        ASSERT_NE(window, nullptr);
+        const HWND view = PositionView(window);
+        ASSERT_NE(view, nullptr);
+        SendMessageA(GetDlgItem(view, kSecondsCheckId), BM_CLICK, 0, 0);
+        SendMessageA(GetDlgItem(view, kDecimalsEditId), WM_SETTEXT, 0, reinterpret_cast<LPARAM>("2"));
+        PostMessageA(window, WM_CLOSE, 0, 0);
+        EXPECT_EQ(sample.ExitCode(), 0u);
+    }
+    EXPECT_EQ(Run("--page \"Position and time\" --summary"), 0u);
+    // 47.449 degrees are 47 degrees, 26 minutes and 56.40 seconds.
+    EXPECT_NE(Output().find("N 47\xC2\xB0 26' 56.40\n"), std::string::npos) << Output();
+    EXPECT_NE(Output().find("W122\xC2\xB0 18' 33.48\n"), std::string::npos) << Output();
 }
 
 TEST_F(SampleHost, RefusesWhatItDoesNotKnow)
