@@ -1,9 +1,12 @@
 #include "tests/support/PumpUntil.h"
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
+#include "tests/support/WindowPicture.h"
 #include "tests/windows/VornSample/SampleProcess.h"
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 using vorn::test::PumpUntil;
 using vorn::test::SampleProcess;
@@ -136,6 +139,43 @@ TEST_F(SampleHost, SavesAPictureOfItsWindow)
     ASSERT_GT(picture.size(), 24u);
     EXPECT_EQ(picture.substr(0, 8), "\x89PNG\r\n\x1A\n");
     EXPECT_EQ(picture.substr(16, 8), std::string("\0\0\x02\xBC\0\0\x01\xF4", 8)); // 700 x 500, big-endian
+}
+
+TEST_F(SampleHost, ShowsThePlaceUnderThePointerWhileItIsOnTheMap)
+{
+    const SampleProcess sample("--page \"Position and time\" --size 1180x900", m_folder.File("output.txt"));
+    const HWND window = sample.MainWindow();
+    ASSERT_NE(window, nullptr);
+    const HWND view = PositionView(window);
+    ASSERT_NE(view, nullptr);
+    const auto pictureWithPointerAt = [&](int x, int y)
+    {
+        SendMessageA(view, WM_MOUSEMOVE, 0, MAKELPARAM(x, y));
+        RedrawWindow(view, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        EXPECT_TRUE(vorn::test::SaveWindowPicture(window, m_folder.File("pointer.bmp")));
+        return m_folder.Read("pointer.bmp");
+    };
+    // In the view the map reaches from 174 to 594 and from 72 to 282 at 96 dpi.
+    // A picture may lag behind its window, so each is taken until it is what it has to become.
+    std::string off;
+    std::string onMap;
+    EXPECT_TRUE(PumpUntil(
+        [&]
+        {
+            return std::exchange(off, pictureWithPointerAt(900, 800)) == off && !off.empty();
+        }));
+    EXPECT_TRUE(PumpUntil(
+        [&]
+        {
+            return (onMap = pictureWithPointerAt(300, 150)) != off;
+        }));
+    EXPECT_TRUE(PumpUntil(
+        [&]
+        {
+            return pictureWithPointerAt(400, 200) != onMap;
+        }));
+    PostMessageA(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(sample.ExitCode(), 0u);
 }
 
 TEST_F(SampleHost, StoresHowPositionsAreWritten)
