@@ -15,5 +15,6 @@ BOOL AboutDialog::OnInitDialog()
         text.AppendFormat("%s  %s\r\n", module.fileName.c_str(), module.version.c_str());
     SetDlgItemText(IDC_ABOUT_VERSIONS, text);
     CenterWindow();
-    return TRUE;
+    GetDlgItem(IDOK)->SetFocus(); // otherwise the list of versions comes up selected
+    return FALSE;
 }
