@@ -47,14 +47,20 @@ TEST(CStringThreads, TextsMayEndOnAnotherThread)
                 }
             });
         maker.join();
+        int whole = 0; // texts that came over with all their characters
         std::thread ender(
-            [taken = std::move(texts)]() mutable
+            [&whole, taken = std::move(texts)]() mutable
             {
+                for (std::size_t i = 0; i < taken.size(); ++i)
+                {
+                    const int length = static_cast<int>(i % 120);
+                    whole += taken[i] == CString('a', length) ? 1 : 0;
+                }
                 taken.clear();
             });
         ender.join();
+        EXPECT_EQ(whole, 1000);
     }
-    SUCCEED();
 }
 
 TEST(CStringThreads, ManyThreadsMakeAndEndTextsAtOnce)
