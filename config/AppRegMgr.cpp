@@ -53,7 +53,7 @@ AppRegMgr* AppRegMgr::Instance()
 
 void AppRegMgr::FreeInst()
 {
-    delete g_instance;
+    delete g_instance; // a plain pointer: nothing of the library may end by itself while the host unloads
     g_instance = nullptr;
 }
 

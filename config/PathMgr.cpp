@@ -30,7 +30,7 @@ PathMgr* PathMgr::Instance(const char* app)
 
 void PathMgr::FreeInst()
 {
-    delete std::exchange(mpInstance, nullptr);
+    delete std::exchange(mpInstance, nullptr); // a plain pointer by the interface
 }
 
 void PathMgr::Initialize(const char* app)

@@ -29,7 +29,7 @@ struct ImageListTraits
     static void FreeTemporary(Object* list)
     {
         list->m_hImageList = nullptr;
-        delete list;
+        delete list; // made by MakeTemporary; the map holds plain pointers
     }
 };
 
