@@ -1,0 +1,2 @@
+// Gives the inline members their exported copies, for callers whose compiler does not inline them.
+#include "frame/CriticalSectionLock.h"
