@@ -11,6 +11,11 @@ void* TakeBlock(std::size_t& size) noexcept
     return std::malloc(size);
 }
 
+void* TakeFreeBlock(std::size_t&) noexcept
+{
+    return nullptr;
+}
+
 void GiveBlock(void* block, std::size_t) noexcept
 {
     std::free(block);
@@ -40,6 +45,7 @@ namespace
 constexpr std::size_t kClassStep = 32;
 constexpr std::size_t kClassCount = 4;
 constexpr int kBlocksKept = 256;
+constexpr int kSeedBlocks = 32;
 
 struct FreeBlock
 {
@@ -60,6 +66,22 @@ public:
         return block;
     }
 
+    // The first blocks that a copy would like to have come from the heap: a list that nobody fills stays empty for
+    // ever.
+    void* TakeOrSeed(std::size_t size) noexcept
+    {
+        if (m_first != nullptr)
+        {
+            return Take();
+        }
+        if (m_seeds == 0)
+        {
+            return nullptr;
+        }
+        --m_seeds;
+        return std::malloc(size);
+    }
+
     bool Put(void* memory) noexcept
     {
         if (m_count >= m_limit)
@@ -74,6 +96,7 @@ public:
     FreeBlock* Close() noexcept
     {
         m_limit = 0;
+        m_seeds = 0;
         m_count = 0;
         return std::exchange(m_first, nullptr);
     }
@@ -82,6 +105,7 @@ private:
     FreeBlock* m_first = nullptr;
     int m_count = 0;
     int m_limit = kBlocksKept;
+    int m_seeds = kSeedBlocks;
 };
 
 struct alignas(64) SharedList
@@ -158,6 +182,17 @@ void* TakeBlock(std::size_t& size) noexcept
     size = (sizeClass + 1) * kClassStep;
     void* block = IsOwner() ? g_ownLists[sizeClass].Take() : TakeShared(g_sharedLists[sizeClass]);
     return block != nullptr ? block : std::malloc(size);
+}
+
+void* TakeFreeBlock(std::size_t& size) noexcept
+{
+    const std::size_t sizeClass = ClassOf(size);
+    if (sizeClass >= kClassCount || !IsOwner())
+    {
+        return nullptr;
+    }
+    size = (sizeClass + 1) * kClassStep;
+    return g_ownLists[sizeClass].TakeOrSeed(size);
 }
 
 void GiveBlock(void* block, std::size_t size) noexcept

@@ -10,6 +10,10 @@ namespace vorn
 /// short.
 void* TakeBlock(std::size_t& size) noexcept;
 
+/// Like TakeBlock(), but only a block that costs next to nothing: from the calling thread's own free list, without lock
+/// and, but for the first few, without the heap. Otherwise null.
+void* TakeFreeBlock(std::size_t& size) noexcept;
+
 /// Gives a block back, with the size that TakeBlock() reported. Any thread may call it.
 void GiveBlock(void* block, std::size_t size) noexcept;
 

@@ -22,7 +22,8 @@ concept IsCString = std::derived_from<std::remove_cvref_t<T>, CString>;
 
 /// A text of 8-bit characters, as large as one pointer (to its first character), always ended by a zero.
 ///
-/// Copies share one counted block until one of them is changed; the counts are safe over threads, one object is not.
+/// Copies share one counted block until one of them is changed; a short text may be copied at once, which is cheaper
+/// than counting. The counts are safe over threads, one object is not.
 /// Zeros inside the text are allowed: lengths count them and comparisons of two strings see them, while a `const
 /// char*` argument ends at its first zero and a null one is an empty text. An argument may point into the string's own
 /// characters.
@@ -262,6 +263,10 @@ private:
         }
         if (owners > 0)
         {
+            if (data->length <= vorn::kShortTextLength)
+            {
+                return vorn::ShareShort(data);
+            }
             data->refs.fetch_add(1, std::memory_order_relaxed);
         }
         return data;

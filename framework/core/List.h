@@ -3,6 +3,7 @@
 /// @file
 /// Doubly linked lists.
 #include "framework/core/CollectionHelpers.h"
+#include "framework/core/NodePool.h"
 #include "framework/core/Object.h"
 
 namespace vorn
@@ -14,8 +15,9 @@ template <class TYPE, class ARG_TYPE>
 class ListBase : public CObject
 {
 public:
-    /// @param nBlockSize accepted for compatibility; elements are allocated one by one.
-    explicit ListBase([[maybe_unused]] INT_PTR nBlockSize = 10)
+    /// @param nBlockSize for how many elements memory is taken at first; later pieces are larger. A list that has been
+    /// emptied by RemoveAll() holds no memory; one whose elements were removed singly keeps it for the next ones.
+    explicit ListBase(INT_PTR nBlockSize = 10) : m_pool(sizeof(Node), nBlockSize)
     {
     }
     ~ListBase() override
@@ -94,6 +96,7 @@ public:
         {
             Unlink(m_head);
         }
+        m_pool.Clear();
     }
 
     POSITION GetHeadPosition() const noexcept
@@ -202,34 +205,62 @@ private:
         return reinterpret_cast<Node*>(position);
     }
 
+    /// Ends an element and gives its memory back to the list.
+    struct Ender
+    {
+        vorn::NodePool* pool;
+        void operator()(Node* node) const noexcept
+        {
+            std::destroy_at(node);
+            pool->Give(node);
+        }
+    };
+    using OwnedNode = std::unique_ptr<Node, Ender>;
+
+    Node* Make(Node* previous, Node* next, ARG_TYPE element)
+    {
+        static_assert(alignof(Node) <= 2 * sizeof(void*), "the pool aligns no further");
+        void* memory = m_pool.Take();
+        try
+        {
+            return new (memory) Node(previous, next, element);
+        }
+        catch (...)
+        {
+            m_pool.Give(memory);
+            throw;
+        }
+    }
+
     POSITION Link(Node* previous, Node* next, ARG_TYPE element)
     {
-        Node* node = MakeNode<Node>(previous, next, element).release(); // the links own the nodes
+        Node* node = Make(previous, next, element); // the links own the nodes
         (previous != nullptr ? previous->next : m_head) = node;
         (next != nullptr ? next->previous : m_tail) = node;
         ++m_count;
         return PositionOf(node);
     }
 
-    std::unique_ptr<Node> Detach(Node* node) noexcept
+    OwnedNode Detach(Node* node) noexcept
     {
         (node->previous != nullptr ? node->previous->next : m_head) = node->next;
         (node->next != nullptr ? node->next->previous : m_tail) = node->previous;
         --m_count;
-        return std::unique_ptr<Node>(node);
+        return OwnedNode(node, Ender{&m_pool});
     }
 
     void Unlink(Node* node)
     {
-        const std::unique_ptr<Node> ended = Detach(node);
+        const OwnedNode ended = Detach(node);
     }
 
     TYPE Take(POSITION position)
     {
-        const std::unique_ptr<Node> node = Detach(NodeAt(position));
+        const OwnedNode node = Detach(NodeAt(position));
         return std::move(node->data);
     }
 
+    vorn::NodePool m_pool;
     Node* m_head = nullptr;
     Node* m_tail = nullptr;
     INT_PTR m_count = 0;

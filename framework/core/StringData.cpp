@@ -2,6 +2,7 @@
 
 #include "framework/core/BlockPool.h"
 #include "framework/core/Exception.h"
+#include "framework/core/ShortCopy.h"
 
 #include <cstddef>
 #include <new>
@@ -39,6 +40,20 @@ StringData* AllocateString(int length)
     auto* data = new (block) StringData{0, CapacityOf(size), 1};
     data->Text()[0] = '\0';
     return data;
+}
+
+StringData* ShareShort(StringData* data) noexcept
+{
+    std::size_t size = BlockSize(data->length);
+    void* block = TakeFreeBlock(size);
+    if (block == nullptr)
+    {
+        data->refs.fetch_add(1, std::memory_order_relaxed);
+        return data;
+    }
+    auto* copy = new (block) StringData{data->length, CapacityOf(size), 1};
+    CopyText(copy->Text(), data->Text(), static_cast<std::size_t>(data->length) + 1);
+    return copy;
 }
 
 void FreeString(StringData* data) noexcept

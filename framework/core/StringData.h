@@ -50,6 +50,13 @@ inline constexpr int kMaxStringLength = 0x7FFFFF00;
 /// A block for at least `length` characters with one owner, length 0 and a zero in front. Throws the memory exception.
 HOSTFRAMEWORK_API StringData* AllocateString(int length);
 
+/// Longest text of which a copy may be a block of its own; see ShareShort().
+inline constexpr int kShortTextLength = 100;
+
+/// One more owner of a text of 1 to kShortTextLength characters. Where a block lies ready the owner gets a copy:
+/// counting up and down with all threads looking on costs more than copying so few characters.
+HOSTFRAMEWORK_API StringData* ShareShort(StringData* data) noexcept;
+
 /// Gives a block back to the pool or the heap. Any thread may call it.
 HOSTFRAMEWORK_API void FreeString(StringData* data) noexcept;
 

@@ -242,13 +242,31 @@ TEST(CString, IndicesOutsideThrowInvalidArgument)
 
 TEST(CString, CopiesShareUntilOneIsChanged)
 {
-    CString first("taxiway");
+    const CString text = CString('t', 101);
+    const CString first = text;
     CString second = first;
     EXPECT_EQ(first.GetString(), second.GetString());
     second.SetAt(0, 'T');
     EXPECT_NE(first.GetString(), second.GetString());
-    EXPECT_EQ(first, "taxiway");
-    EXPECT_EQ(second, "Taxiway");
+    EXPECT_EQ(first, text);
+    EXPECT_EQ(second, 'T' + CString('t', 100));
+}
+
+TEST(CString, CopiesOfShortTextsAreIndependentWhetherBlocksLieReadyOrNot)
+{
+    for (int length = 1; length <= 101; ++length)
+    {
+        const CString text('t', length);
+        std::vector<CString> copies(600, text); // more than the blocks that are kept
+        for (CString& copy : copies)
+        {
+            ASSERT_EQ(copy, text);
+            copy.SetAt(length - 1, 'T');
+        }
+        ASSERT_EQ(text, CString('t', length));
+        ASSERT_EQ(copies.front(), CString('t', length - 1) + 'T');
+        ASSERT_EQ(copies.back(), copies.front());
+    }
 }
 
 TEST(CString, EveryChangeLeavesOtherOwnersAlone)
@@ -388,13 +406,13 @@ TEST(CString, EveryChangeLeavesOtherOwnersAlone)
 
 TEST(CString, LookingDoesNotEndSharing)
 {
-    const CString first("taxiway");
+    const CString first('w', 101); // too long to be copied at once
     const CString second = first;
     static_cast<void>(second.Find('w'));
     static_cast<void>(second[0]);
     static_cast<void>(second.Compare(first));
     EXPECT_EQ(first.GetString(), second.GetString());
-    EXPECT_EQ(first.Left(100).GetString(), first.GetString()) << "a whole part is a copy";
+    EXPECT_EQ(first.Left(200).GetString(), first.GetString()) << "a whole part is a copy";
     EXPECT_EQ(first.Mid(0).GetString(), first.GetString());
 }
 

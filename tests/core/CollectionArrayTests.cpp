@@ -180,7 +180,9 @@ TEST(StringArray, CopyAndAppend)
     EXPECT_EQ(target.GetSize(), 2);
     target.Copy(target);
     EXPECT_EQ(target[1], "y");
-    EXPECT_EQ(source[0].GetString(), target[0].GetString()) << "copied texts share their characters";
+    source.SetAt(0, CString('x', 101));
+    target.Copy(source);
+    EXPECT_EQ(source[0].GetString(), target[0].GetString()) << "copies of long texts share their characters";
 }
 
 TEST(StringArray, RemoveAtClosesTheGap)

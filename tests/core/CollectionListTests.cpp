@@ -165,3 +165,66 @@ TEST(TypedPtrList, GivesTypedPointers)
     EXPECT_EQ(next, nullptr);
     EXPECT_EQ(list.RemoveTail(), &inner);
 }
+
+TEST(ListMemory, PlacesOfRemovedElementsAreUsedAgain)
+{
+    CList<int, int> list(2);
+    for (int i = 0; i < 1000; ++i)
+    {
+        list.AddTail(i);
+    }
+    for (int i = 0; i < 1000; i += 2)
+    {
+        EXPECT_EQ(list.RemoveHead(), i);
+        EXPECT_EQ(list.RemoveHead(), i + 1);
+        list.AddTail(1000 + i);
+        list.AddTail(1001 + i);
+    }
+    EXPECT_EQ(list.GetCount(), 1000);
+    int expected = 1000;
+    for (POSITION at = list.GetHeadPosition(); at != nullptr; ++expected)
+    {
+        ASSERT_EQ(list.GetNext(at), expected);
+    }
+    EXPECT_EQ(expected, 2000);
+}
+
+TEST(ListMemory, AListIsUsableAfterRemoveAll)
+{
+    CStringList list(0); // a first piece of one element at least
+    for (int round = 0; round < 3; ++round)
+    {
+        list.AddTail("a");
+        list.AddTail("b");
+        EXPECT_EQ(Joined(list), "ab");
+        list.RemoveAll();
+        EXPECT_TRUE(list.IsEmpty());
+        EXPECT_EQ(list.GetHeadPosition(), nullptr);
+    }
+}
+
+TEST(ListMemory, AnElementThatCannotBeCopiedLeavesTheListAsItWas)
+{
+    struct Refusing
+    {
+        Refusing() = default;
+        Refusing(const Refusing& other) : refuses(other.refuses)
+        {
+            if (refuses)
+            {
+                throw 7;
+            }
+        }
+        Refusing& operator=(const Refusing&) = default;
+        bool refuses = false;
+    };
+    CList<Refusing> list;
+    Refusing element;
+    list.AddTail(element);
+    element.refuses = true;
+    EXPECT_THROW(list.AddTail(element), int);
+    EXPECT_EQ(list.GetCount(), 1);
+    element.refuses = false;
+    list.AddTail(element);
+    EXPECT_EQ(list.GetCount(), 2);
+}
