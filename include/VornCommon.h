@@ -30,6 +30,7 @@
 #include "config/GlobalRegData.h"
 #include "config/PathMgr.h"
 #include "files/BrowseForDirectory.h"
+#include "files/core/CDBFFile.h"
 #include "files/core/CFileFindInExtSet.h"
 #include "files/core/FileExists.h"
 #include "frame/CriticalSectionLock.h"

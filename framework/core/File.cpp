@@ -1,6 +1,6 @@
 #include "framework/core/File.h"
 
-#include "framework/core/FileSystem.h"
+#include "framework/core/FileFaults.h"
 
 #include <cstring>
 #include <memory>
@@ -59,7 +59,8 @@ BOOL CFile::Open(LPCSTR lpszFileName, UINT nOpenFlags, CFileException* pError)
 {
     HANDLE file = hFileNull;
     const CString path = vorn::FullPath(lpszFileName != nullptr ? lpszFileName : "");
-    const vorn::SystemError error = vorn::OpenFile(path, nOpenFlags, file);
+    vorn::SystemError error = vorn::FaultBefore(vorn::FileStep::Open);
+    error = error != 0 ? error : vorn::OpenFile(path, nOpenFlags, file);
     if (error == 0)
     {
         m_hFile = file;
@@ -97,7 +98,9 @@ void CFile::Close()
     m_strFileName.Empty();
     if (file != hFileNull)
     {
-        vorn::ThrowOnError(vorn::CloseFile(file), path);
+        const vorn::SystemError fault = vorn::FaultBefore(vorn::FileStep::Close);
+        const vorn::SystemError error = vorn::CloseFile(file);
+        vorn::ThrowOnError(fault != 0 ? fault : error, path);
     }
 }
 
@@ -117,6 +120,7 @@ UINT CFile::Read(void* lpBuf, UINT nCount)
     if (nCount > 0)
     {
         CheckArgument(lpBuf != nullptr);
+        vorn::ThrowOnError(vorn::FaultBefore(vorn::FileStep::Read, nCount), m_strFileName);
         vorn::ThrowOnError(vorn::ReadFile(m_hFile, lpBuf, nCount, read), m_strFileName);
     }
     return read;
@@ -127,7 +131,9 @@ void CFile::Write(const void* lpBuf, UINT nCount)
     if (nCount > 0)
     {
         CheckArgument(lpBuf != nullptr);
-        vorn::ThrowOnError(vorn::WriteFile(m_hFile, lpBuf, nCount), m_strFileName);
+        const vorn::SystemError fault = vorn::FaultBefore(vorn::FileStep::Write, nCount);
+        const vorn::SystemError error = nCount > 0 ? vorn::WriteFile(m_hFile, lpBuf, nCount) : 0;
+        vorn::ThrowOnError(fault != 0 ? fault : error, m_strFileName);
     }
 }
 
@@ -135,6 +141,7 @@ void CFile::Flush()
 {
     if (m_hFile != hFileNull)
     {
+        vorn::ThrowOnError(vorn::FaultBefore(vorn::FileStep::Flush), m_strFileName);
         vorn::ThrowOnError(vorn::FlushFile(m_hFile), m_strFileName);
     }
 }
@@ -142,6 +149,7 @@ void CFile::Flush()
 ULONGLONG CFile::Seek(LONGLONG lOff, UINT nFrom)
 {
     CheckArgument(nFrom <= end);
+    vorn::ThrowOnError(vorn::FaultBefore(vorn::FileStep::Seek), m_strFileName);
     ULONGLONG position = 0;
     vorn::ThrowOnError(vorn::SeekFile(m_hFile, lOff, nFrom, position), m_strFileName);
     return position;
@@ -159,6 +167,7 @@ ULONGLONG CFile::SeekToEnd()
 
 ULONGLONG CFile::GetPosition() const
 {
+    vorn::ThrowOnError(vorn::FaultBefore(vorn::FileStep::Seek), m_strFileName);
     ULONGLONG position = 0;
     vorn::ThrowOnError(vorn::SeekFile(m_hFile, 0, current, position), m_strFileName);
     return position;
@@ -166,6 +175,7 @@ ULONGLONG CFile::GetPosition() const
 
 ULONGLONG CFile::GetLength() const
 {
+    vorn::ThrowOnError(vorn::FaultBefore(vorn::FileStep::Length), m_strFileName);
     ULONGLONG length = 0;
     vorn::ThrowOnError(vorn::FileLength(m_hFile, length), m_strFileName);
     return length;
@@ -173,6 +183,7 @@ ULONGLONG CFile::GetLength() const
 
 void CFile::SetLength(ULONGLONG dwNewLen)
 {
+    vorn::ThrowOnError(vorn::FaultBefore(vorn::FileStep::SetLength), m_strFileName);
     vorn::ThrowOnError(vorn::SetFileLength(m_hFile, dwNewLen), m_strFileName);
 }
 
@@ -204,12 +215,14 @@ BOOL CFile::GetStatus(LPCSTR lpszFileName, CFileStatus& rStatus)
 void CFile::Rename(LPCSTR lpszOldName, LPCSTR lpszNewName)
 {
     CheckArgument(lpszOldName != nullptr && lpszNewName != nullptr);
+    vorn::ThrowOnError(vorn::FaultBefore(vorn::FileStep::Rename), lpszOldName);
     vorn::ThrowOnError(vorn::RenameFile(lpszOldName, lpszNewName), lpszOldName);
 }
 
 void CFile::Remove(LPCSTR lpszFileName)
 {
     CheckArgument(lpszFileName != nullptr);
+    vorn::ThrowOnError(vorn::FaultBefore(vorn::FileStep::Remove), lpszFileName);
     vorn::ThrowOnError(vorn::RemoveFile(lpszFileName), lpszFileName);
 }
 
@@ -237,6 +250,12 @@ void CFile::SetFilePath(LPCSTR lpszNewName)
 
 namespace vorn
 {
+SystemError MoveFileOver(const char* from, const char* to)
+{
+    const SystemError fault = FaultBefore(FileStep::Rename);
+    return fault != 0 ? fault : MoveOver(from, to);
+}
+
 void ThrowOnError(SystemError error, const char* path)
 {
     if (error != 0)

@@ -217,6 +217,16 @@ SystemError RenameFile(const char* from, const char* to)
     return ErrorIf(std::rename(from, to) != 0);
 }
 
+SystemError MoveOver(const char* from, const char* to)
+{
+    CFileStatus status;
+    if (StatusOfPath(to, status) == 0 && (status.m_attribute & CFile::readOnly) != 0)
+    {
+        return EACCES; // the folder's permissions alone would let it go
+    }
+    return ErrorIf(std::rename(from, to) != 0);
+}
+
 SystemError RemoveFile(const char* path)
 {
     return ErrorIf(unlink(path) != 0);

@@ -49,6 +49,10 @@ SystemError StatusOfFile(HANDLE file, CFileStatus& status);
 SystemError StatusOfPath(const char* path, CFileStatus& status);
 SystemError RenameFile(const char* from, const char* to);
 SystemError RemoveFile(const char* path);
+/// Gives a file the name of another, which it replaces in one step. A file that may not be written is not replaced.
+SystemError MoveOver(const char* from, const char* to);
+/// The same for use outside the file classes.
+HOSTFRAMEWORK_API SystemError MoveFileOver(const char* from, const char* to);
 
 /// Absolute form of a path; the path itself when it cannot be made.
 CString FullPath(const char* path);

@@ -170,6 +170,11 @@ SystemError RenameFile(const char* from, const char* to)
     return ErrorIf(!MoveFileA(from, to));
 }
 
+SystemError MoveOver(const char* from, const char* to)
+{
+    return ErrorIf(!MoveFileExA(from, to, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+}
+
 SystemError RemoveFile(const char* path)
 {
     return ErrorIf(!DeleteFileA(path));
