@@ -29,6 +29,7 @@
 #include "config/DefinedPathSetting.h"
 #include "config/GlobalRegData.h"
 #include "config/PathMgr.h"
+#include "config/Registry.h"
 #include "files/BrowseForDirectory.h"
 #include "files/core/CDBFFile.h"
 #include "files/core/CFileFindInExtSet.h"
