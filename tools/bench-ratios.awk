@@ -10,6 +10,7 @@ function shown_time(t) { return t < 1e3 ? sprintf("%.1f ns", t) : t < 1e6 ? spri
     sub(/_median"?,.*/, "", name)
     sub(/^"/, "", name)
     sub(/\/manual_time$/, "", name)
+    sub(/\/iterations:[0-9]+$/, "", name)
     real = sub(/\/real_time$/, "", name)
     sub(/^.*_median"?,/, "", rest)
     split(rest, field, ",")
@@ -30,6 +31,7 @@ function plain(text, last) {
     name = rest = $0
     sub(/_median +[0-9].*/, "", name)
     sub(/\/manual_time$/, "", name)
+    sub(/\/iterations:[0-9]+$/, "", name)
     real = sub(/\/real_time$/, "", name)
     sub(/^.*_median +/, "", rest)
     fields = split(rest, field, / +/)

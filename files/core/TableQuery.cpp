@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstring>
 #include <limits>
 #include <system_error>
 
@@ -15,7 +14,7 @@ bool TableQuery::Matches(std::string_view text) const
     if (text.size() != static_cast<std::size_t>(value.GetLength()))
         return false;
     if (isCaseSensitive)
-        return std::memcmp(text.data(), value.GetString(), text.size()) == 0;
+        return text == std::string_view(value.GetString(), text.size());
     return std::equal(text.begin(), text.end(), value.GetString(),
                       [](char a, char b)
                       {

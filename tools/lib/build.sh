@@ -14,6 +14,13 @@ build_third_party() {
     done
 }
 
+# What the benchmarks compare with.
+build_yardsticks() {
+    [ -e build/deps/stamps/built-shapelib ] && return
+    headline "Building what the benchmarks compare with (once)"
+    step tools/build-deps yardsticks || exit 1
+}
+
 # build_preset NAME [TARGET...]
 build_preset() {
     local preset=$1 arguments=()

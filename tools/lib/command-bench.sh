@@ -2,20 +2,23 @@
 # Benchmarks: the portable ones natively, and all under Wine with server and program on one core; on
 # two, a call to the server costs 8 or 50 microseconds by chance. bench/ratios.txt holds the limits.
 command_bench() {
-    local results=build/bench arguments=(--benchmark_repetitions=5 --benchmark_report_aggregates_only=true)
+    local results=build/bench missed=0 arguments=(--benchmark_repetitions=5 --benchmark_report_aggregates_only=true)
     [ $# -le 1 ] || fail "bench [FILTER] takes one regular expression at most"
     [ -z "${1:-}" ] || arguments+=("--benchmark_filter=$1")
-    need_packages build wine
+    need_packages build wine count
     build_third_party
-    build_preset native-core core_bench
+    build_yardsticks
+    build_preset native-core core_bench count_table_fields
     build_preset windows-x86 core_bench windows_bench bench_start_plain bench_start_library
     mkdir -p "$results"
     rm -f "$results"/*.txt
     headline "Benchmarks, native"
     step build/native-core/bench/core_bench "${arguments[@]}" || exit 1
     bench_under_wine
-    headline "Against the limits (bench/ratios.txt)"
-    step tools/bench-ratios bench/ratios.txt "$results"/*.txt || fail "not every limit is kept"
+    headline "Against the limits (bench/ratios.txt), and instructions counted"
+    step tools/bench-ratios bench/ratios.txt "$results"/*.txt || missed=1
+    step tools/bench-instructions || missed=1
+    [ "$missed" -eq 0 ] || fail "not every limit is kept"
 }
 
 bench_under_wine() {

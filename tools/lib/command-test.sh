@@ -4,7 +4,7 @@ test_presets=(windows-x86 native-core native-asan native-fuzz)
 
 command_test() {
     local preset begin=$SECONDS status=0
-    need_packages build wine check docs
+    need_packages build wine check oracle docs
     build_third_party
     for preset in "${test_presets[@]}"; do
         build_preset "$preset"
