@@ -13,33 +13,27 @@ using vorn::TableState;
 
 namespace
 {
-void AssignField(CString& out, const TableField& field, const char* record)
+std::size_t TextSize(const char* bytes, const TableField& field)
 {
-    const char* bytes = record + field.start;
-    const auto size = static_cast<std::size_t>(field.size);
-    vorn::AssignText(out, bytes, vorn::TrimmedLength(bytes, size), size);
+    return vorn::TrimmedLength(bytes, static_cast<std::size_t>(field.size));
 }
 
-// Numbers, memos, and fields that do not exist.
-void AssignOther(CString& out, TableState& state, int field)
+// Numbers, memos, fields that do not exist, and texts that need a new block.
+[[gnu::noinline]] void AssignOther(CString& out, TableState& state, int field)
 {
-    vorn::FieldScratch scratch;
-    const std::string_view text = state.TextOf(field, scratch);
-    vorn::AssignText(out, text.data(), text.size(), text.size());
-}
-
-bool IsPlain(const TableField& field)
-{
-    return field.type != 'N' && field.type != 'M';
-}
-
-void AssignValue(CString& out, TableState& state, int field)
-{
-    const char* record = state.reader.Record();
-    if (record != nullptr && state.IsField(field) && IsPlain(state.Field(field))) [[likely]]
-        AssignField(out, state.Field(field), record);
-    else
-        AssignOther(out, state, field);
+    const bool isAssigned = NoThrow(false,
+                                    [&]
+                                    {
+                                        vorn::FieldScratch scratch;
+                                        const std::string_view text = state.TextOf(field, scratch);
+                                        const bool isPlain = state.PlainField(field) != nullptr;
+                                        const std::size_t room =
+                                            isPlain ? static_cast<std::size_t>(state.Field(field).size) : text.size();
+                                        vorn::AssignText(out, text.data(), text.size(), room);
+                                        return true;
+                                    });
+    if (!isAssigned)
+        out.Empty();
 }
 
 // What does not fit the record stays away.
@@ -57,29 +51,34 @@ void SetValue(TableState& state, const TableField& field, std::string_view value
 
 CString CDBFFile::GetFieldValue(int field)
 {
+    if (const TableField* plain = m_state->PlainField(field)) [[likely]]
+    {
+        const char* bytes = m_state->reader.Record() + plain->start;
+        return NoThrow(CString(),
+                       [&]
+                       {
+                           return CString(bytes, static_cast<int>(TextSize(bytes, *plain)));
+                       });
+    }
     CString value;
-    GetFieldValue(field, value);
+    AssignOther(value, *m_state, field);
     return value;
 }
 
 CString CDBFFile::GetFieldValue(const char* name)
 {
-    CString value;
-    GetFieldValue(GetFieldNumber(name), value);
-    return value;
+    return GetFieldValue(GetFieldNumber(name));
 }
 
 void CDBFFile::GetFieldValue(int field, CString& out)
 {
-    try
+    if (const TableField* plain = m_state->PlainField(field)) [[likely]]
     {
-        AssignValue(out, *m_state, field);
+        const char* bytes = m_state->reader.Record() + plain->start;
+        if (vorn::AssignInPlace(out, bytes, TextSize(bytes, *plain))) [[likely]]
+            return;
     }
-    catch (CException* exception)
-    {
-        exception->Delete();
-        out.Empty();
-    }
+    AssignOther(out, *m_state, field);
 }
 
 void CDBFFile::GetFieldValue(const char* name, CString& out)

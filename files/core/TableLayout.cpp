@@ -45,6 +45,7 @@ TableField FieldOf(const char* descriptor, int offset)
     field.length = isNumeric ? static_cast<int>(ByteAt(length)) : Int16At(length);
     field.precision = isNumeric ? static_cast<int>(ByteAt(length + 1)) : 0;
     field.offset = offset;
+    field.isPlain = !isNumeric && field.type != 'M';
     return field;
 }
 

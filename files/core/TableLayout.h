@@ -25,8 +25,9 @@ struct TableField
     int precision = 0; ///< Decimals; 'N' only.
     int offset = 0;    ///< As declared, from the deletion flag on; may lie outside the record.
     char type = 0;
-    int start = 0; ///< Where the part inside the record begins.
-    int size = 0;  ///< Bytes inside the record.
+    bool isPlain = false; ///< The text is the bytes without those that pad it.
+    int start = 0;        ///< Where the part inside the record begins.
+    int size = 0;         ///< Bytes inside the record.
 };
 
 /// What a table's head says.

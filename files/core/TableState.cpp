@@ -77,6 +77,7 @@ bool TableState::ReadHead()
                                 {
                                     return ReadHeadFrom(file, layout);
                                 });
+    readableFields = static_cast<unsigned>(layout.fields.size());
     reader.Start();
     return isRead;
 }
@@ -103,6 +104,7 @@ void TableState::ForgetTable()
     const int base = layout.baseOffset;
     layout = TableLayout();
     layout.baseOffset = base;
+    readableFields = 0;
     names.Forget();
     reader.Start();
 }

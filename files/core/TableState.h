@@ -30,6 +30,7 @@ struct TableState
     TableFile file;
     CFile memo;
     TableLayout layout;
+    unsigned readableFields = 0; ///< Fields that the table's head has.
     DecodeKey key;
     RecordReader reader{file, layout, key};
     int readAhead = 0;
@@ -38,7 +39,15 @@ struct TableState
 
     bool IsField(int field) const
     {
-        return static_cast<unsigned>(field) < layout.fields.size();
+        return field >= 0 && static_cast<std::size_t>(field) < layout.fields.size();
+    }
+    /// The field when its value is made of its bytes alone and a record was read; null otherwise.
+    const TableField* PlainField(int field) const
+    {
+        if (static_cast<unsigned>(field) >= readableFields || reader.Record() == nullptr)
+            return nullptr;
+        const TableField& facts = Field(field);
+        return facts.isPlain ? &facts : nullptr;
     }
     const TableField& Field(int field) const
     {
