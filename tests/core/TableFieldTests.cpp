@@ -18,6 +18,7 @@ protected:
     /// Opens the table with its first record current.
     void Open(const std::string& bytes)
     {
+        m_table.Close();
         ASSERT_EQ(m_table.Open(m_folder.Write("t.dbf", bytes).c_str(), CFile::modeRead), 1);
         ASSERT_EQ(m_table.ReadRecord(0), 1);
     }

@@ -31,6 +31,7 @@ protected:
     /// The memo of the table "t.dbf" as just written.
     std::string Memo(const std::string& block)
     {
+        m_table.Close();
         const std::string path = m_folder.Write("t.dbf", MemoTable(block).Bytes());
         EXPECT_EQ(m_table.Open(path.c_str(), CFile::modeRead), 1);
         EXPECT_EQ(m_table.ReadRecord(0), 1);
@@ -42,8 +43,9 @@ protected:
         return {value.GetString(), static_cast<std::size_t>(value.GetLength())};
     }
     /// Makes "t.dbt": a first block of '#', then the bytes.
-    void Write(const std::string& entries) const
+    void Write(const std::string& entries)
     {
+        m_table.Close();
         m_folder.Write("t.dbt", std::string(kBlock, '#') + entries);
     }
 

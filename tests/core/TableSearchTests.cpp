@@ -25,6 +25,7 @@ class TableSearch : public testing::TestWithParam<int>
 protected:
     void Open(const TableBytes& bytes)
     {
+        m_table.Close();
         ASSERT_EQ(m_table.Open(m_folder.Write("t.dbf", bytes.Bytes()).c_str(), CFile::modeRead), 1);
     }
     std::string Value(int field)
