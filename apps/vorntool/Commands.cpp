@@ -5,8 +5,8 @@ namespace vorn::tool
 
 Tool VornTool()
 {
-    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(), PathsCommands(),  FormatCommands(),
-                                          ParseCommands(),    DateCommands(),  VersionCommands()};
+    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(), PathsCommands(),   FormatCommands(),
+                                          ParseCommands(),    DateCommands(),  VersionCommands(), DbfCommands()};
     return {"Looks into an installation of the Vornwald applications.", VORN_VERSION, groups};
 }
 

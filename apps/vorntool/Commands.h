@@ -14,6 +14,7 @@ const CommandGroup& FormatCommands();
 const CommandGroup& ParseCommands();
 const CommandGroup& DateCommands();
 const CommandGroup& VersionCommands();
+const CommandGroup& DbfCommands();
 
 /// The whole tool with all its commands.
 Tool VornTool();

@@ -1,0 +1,84 @@
+#include "apps/vorntool/DbfFailure.h"
+#include "apps/vorntool/DbfOutput.h"
+#include "apps/vorntool/DbfProgress.h"
+#include "apps/vorntool/DbfRun.h"
+#include "apps/vorntool/DbfTable.h"
+#include "apps/vorntool/core/CsvWriter.h"
+#include "apps/vorntool/core/JsonWriter.h"
+
+#include <memory>
+
+namespace vorn::tool
+{
+
+namespace
+{
+
+void WriteHeadings(const DbfTable& table, const std::vector<int>& fields, CsvWriter& csv)
+{
+    for (const int field : fields)
+    {
+        csv.Value(table.FieldName(field));
+    }
+    csv.EndRow();
+}
+
+// @return the number of records written
+std::uint64_t WriteRecords(DbfTable& table, const std::vector<int>& fields, CsvWriter& csv, DbfOutput& output,
+                           DbfProgress& progress)
+{
+    std::uint64_t count = 0;
+    for (; table.Held() > 0 && table.ReadNext(); ++count)
+    {
+        for (const int field : fields)
+        {
+            csv.Value(table.Value(field));
+        }
+        csv.EndRow();
+        output.Take(csv.Text());
+        progress.At(count, static_cast<std::uint64_t>(table.Library().CurRecIndex()));
+    }
+    return count;
+}
+
+std::unique_ptr<DbfOutput> OutputOf(const Invocation& call)
+{
+    return call.Has("output") ? std::make_unique<DbfOutput>(call.ValueOf("output", ""), call.Has("force"))
+                              : std::make_unique<DbfOutput>();
+}
+
+} // namespace
+
+void ExportDbf(const Invocation& call, Output& output)
+{
+    if (call.Has("json") && !call.Has("output"))
+    {
+        throw DbfWrongUse("--json goes with --output; 'dump --json' prints records as JSON");
+    }
+    DbfTable table(call, DbfAccess::Scan);
+    const std::vector<int> fields = table.FieldsFrom(call);
+    if (fields.empty())
+    {
+        throw DbfFailure(Quoted(table.Name()) + " has no fields");
+    }
+    const std::unique_ptr<DbfOutput> target = OutputOf(call);
+    DbfProgress progress(call, "export", table.Held());
+    CsvWriter csv(call.Has("lf") ? "\n" : "\r\n");
+    WriteHeadings(table, fields, csv);
+    const std::uint64_t count = WriteRecords(table, fields, csv, *target, progress);
+    target->Finish(csv.Text());
+    progress.Done();
+    if (table.Held() < table.Layout().records)
+    {
+        output.errors = "vorntool dbf export: the header counts " + std::to_string(table.Layout().records) +
+                        " records, but the file ends behind " + std::to_string(table.Held()) + "\n";
+    }
+    if (call.Has("json"))
+    {
+        JsonWriter json;
+        json.BeginObject().Name("file").Text(call.ValueOf("output", ""));
+        output.text = json.Name("records").Whole(static_cast<std::int64_t>(count)).EndObject().Line();
+    }
+}
+
+} // namespace vorn::tool
