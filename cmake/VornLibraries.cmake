@@ -1,5 +1,9 @@
 enable_language(RC)
 
+# System functions whose DLLs are loaded with their first call; goes before the plain import libraries.
+add_library(vorn_late STATIC framework/late/BindLateFunction.cpp framework/late/LateFunctions.cpp)
+target_link_libraries(vorn_late PRIVATE vorn_flags)
+
 # vorn_library(NAME EXPORT_MACRO folder...): one DLL from every source below the folders.
 function(vorn_library name macro)
     set(globs "")
@@ -7,16 +11,17 @@ function(vorn_library name macro)
         list(APPEND globs "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.rc")
     endforeach()
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${globs})
-    list(FILTER sources EXCLUDE REGEX "/framework/start/")
+    list(FILTER sources EXCLUDE REGEX "/framework/(late|start)/")
     add_library(${name} SHARED ${sources})
     target_compile_definitions(${name} PRIVATE ${macro})
-    target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:vorn_flags>)
+    target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:vorn_flags> $<BUILD_INTERFACE:vorn_late>)
     add_library(Vorn::${name} ALIAS ${name})
     set_property(GLOBAL APPEND PROPERTY VORN_LIBRARIES ${name})
 endfunction()
 
 vorn_library(HostFramework HOSTFRAMEWORK_BUILD framework)
-target_link_libraries(HostFramework PUBLIC comctl32 comdlg32 winspool shell32 ole32 uuid oleaut32 version gdi32)
+target_link_libraries(HostFramework PUBLIC uuid version gdi32
+                      INTERFACE comctl32 comdlg32 winspool shell32 ole32 oleaut32)
 
 # The entry of hosts that have an application object and no main function of their own. Every
 # program that links the framework may take it; its own main or WinMain goes before.
@@ -41,7 +46,8 @@ vorn_library(VornCommon VORNCOMMON_BUILD frame config aviation files toolkit res
 target_link_libraries(VornCommon PUBLIC HostFramework TarnUtil TarnComm VornChart)
 
 # The compiler's runtime DLLs stand beside the programs: exceptions and RTTI cross modules
-# only when every module shares them.
+# only when every module shares them. They come without their debug information, which is ten times
+# as large as they are and makes them slow to load.
 set(VORN_RUNTIME_DLLS "")
 foreach(dll libgcc_s_dw2-1.dll libstdc++-6.dll libwinpthread-1.dll)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
@@ -49,6 +55,9 @@ foreach(dll libgcc_s_dw2-1.dll libstdc++-6.dll libwinpthread-1.dll)
     if(NOT IS_ABSOLUTE "${path}")
         set(path "/usr/i686-w64-mingw32/lib/${dll}")
     endif()
-    list(APPEND VORN_RUNTIME_DLLS "${path}")
-    configure_file("${path}" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll}" COPYONLY)
+    set(copy "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll}")
+    if(NOT EXISTS "${copy}" OR "${path}" IS_NEWER_THAN "${copy}")
+        execute_process(COMMAND ${CMAKE_STRIP} -o "${copy}" "${path}" COMMAND_ERROR_IS_FATAL ANY)
+    endif()
+    list(APPEND VORN_RUNTIME_DLLS "${copy}")
 endforeach()
