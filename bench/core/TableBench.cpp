@@ -43,38 +43,6 @@ void ExpectSame(benchmark::State& state, long long mine, long long theirs)
 
 // Each pass gives the number of characters or records that it saw.
 
-long long FieldsIntoText()
-{
-    CDBFFile table(kReadAhead);
-    table.Open(Table().Path(), CFile::modeRead);
-    long long characters = 0;
-    CString value;
-    while (table.ReadRecord(-1) == 1)
-    {
-        for (int field = 0; field < BenchTable::kFields; ++field)
-        {
-            table.GetFieldValue(field, value);
-            characters += value.GetLength();
-        }
-    }
-    return characters;
-}
-
-long long FieldsByValue()
-{
-    CDBFFile table(kReadAhead);
-    table.Open(Table().Path(), CFile::modeRead);
-    long long characters = 0;
-    while (table.ReadRecord(-1) == 1)
-    {
-        for (int field = 0; field < BenchTable::kFields; ++field)
-        {
-            characters += table.GetFieldValue(field).GetLength();
-        }
-    }
-    return characters;
-}
-
 long long Records(int readAhead)
 {
     CDBFFile table(readAhead);
@@ -122,6 +90,38 @@ long long WholeFile()
 
 #ifdef VORN_HAVE_SHAPELIB
 using vorn::bench::ShapelibTable;
+
+long long FieldsIntoText()
+{
+    CDBFFile table(kReadAhead);
+    table.Open(Table().Path(), CFile::modeRead);
+    long long characters = 0;
+    CString value;
+    while (table.ReadRecord(-1) == 1)
+    {
+        for (int field = 0; field < BenchTable::kFields; ++field)
+        {
+            table.GetFieldValue(field, value);
+            characters += value.GetLength();
+        }
+    }
+    return characters;
+}
+
+long long FieldsByValue()
+{
+    CDBFFile table(kReadAhead);
+    table.Open(Table().Path(), CFile::modeRead);
+    long long characters = 0;
+    while (table.ReadRecord(-1) == 1)
+    {
+        for (int field = 0; field < BenchTable::kFields; ++field)
+        {
+            characters += table.GetFieldValue(field).GetLength();
+        }
+    }
+    return characters;
+}
 
 long long FieldsByShapelib()
 {

@@ -168,7 +168,7 @@ TEST(OurTables, OthersReadDatesTruthsAndFloats)
     const ScratchFolder folder;
     const std::string path = folder.File("types.dbf");
     const TableFacts facts{{{"DAY", 'D', 8}, {"YES", 'L', 1}, {"REAL", 'F', 9}, {"TEXT", 'C', 5}},
-                           {{"20260131", "T", "12.25", "abc"}, {"19031217", "F", "-0.5", "xyz"}}};
+                           {{"20260131", "T", "12", "abc"}, {"19031217", "F", "-5", "xyz"}}};
     ASSERT_NO_FATAL_FAILURE(WriteOurTable(path, facts));
     EXPECT_EQ(facts.rows, RowsByDbfdump(path, 4));
     const std::vector<Row> rows = RowsByOgr(path);
@@ -177,6 +177,8 @@ TEST(OurTables, OthersReadDatesTruthsAndFloats)
     EXPECT_EQ("1903/12/17", rows[1][0]);
     EXPECT_EQ("T", rows[0][1]);
     EXPECT_EQ("F", rows[1][1]);
+    EXPECT_EQ("12", rows[0][2]);
+    EXPECT_EQ("-5", rows[1][2]);
     EXPECT_EQ("abc", rows[0][3]);
     EXPECT_EQ("xyz", rows[1][3]);
 }
