@@ -5,8 +5,9 @@ namespace vorn::tool
 
 Tool VornTool()
 {
-    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(), PathsCommands(),   FormatCommands(),
-                                          ParseCommands(),    DateCommands(),  VersionCommands(), DbfCommands()};
+    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(),  PathsCommands(), FormatCommands(),
+                                          ParseCommands(),    DateCommands(),   DbfCommands(),   FindCommands(),
+                                          StatsCommands(),    VersionCommands()};
     return {"Looks into an installation of the Vornwald applications.", VORN_VERSION, groups};
 }
 

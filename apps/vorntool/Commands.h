@@ -13,6 +13,8 @@ const CommandGroup& PathsCommands();
 const CommandGroup& FormatCommands();
 const CommandGroup& ParseCommands();
 const CommandGroup& DateCommands();
+const CommandGroup& FindCommands();
+const CommandGroup& StatsCommands();
 const CommandGroup& VersionCommands();
 const CommandGroup& DbfCommands();
 

@@ -5,14 +5,28 @@ using namespace vorn::test;
 namespace
 {
 
-const std::vector<std::vector<std::string>> kCommands = {
-    {"settings", "get"},  {"settings", "set"},  {"settings", "delete"},
-    {"settings", "list"}, {"settings", "apps"}, {"units", "convert"},
-    {"units", "show"},    {"version"},          {"format", "lat"},
-    {"format", "lon"},    {"format", "course"}, {"format", "alt"},
-    {"format", "fl"},     {"format", "time"},   {"format", "date"},
-    {"parse", "hhmm"},    {"parse", "base"},    {"date"},
-    {"paths", "list"},    {"paths", "get"}};
+const std::vector<std::vector<std::string>> kCommands = {{"settings", "get"},
+                                                         {"settings", "set"},
+                                                         {"settings", "delete"},
+                                                         {"settings", "list"},
+                                                         {"settings", "apps"},
+                                                         {"units", "convert"},
+                                                         {"units", "show"},
+                                                         {"version"},
+                                                         {"format", "lat"},
+                                                         {"format", "lon"},
+                                                         {"format", "course"},
+                                                         {"format", "alt"},
+                                                         {"format", "fl"},
+                                                         {"format", "time"},
+                                                         {"format", "date"},
+                                                         {"parse", "hhmm"},
+                                                         {"parse", "base"},
+                                                         {"date"},
+                                                         {"paths", "list"},
+                                                         {"paths", "get"},
+                                                         {"find"},
+                                                         {"stats"}};
 
 std::string Joined(const std::vector<std::string>& words)
 {
