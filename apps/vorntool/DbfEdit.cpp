@@ -32,11 +32,6 @@ void RefuseStrange(const DbfMarks& marks)
     }
 }
 
-const DbfField& FieldOf(const DbfTable& table, int field)
-{
-    return table.Layout().fields[static_cast<std::size_t>(field)];
-}
-
 // The value as the table's own text, after all checks.
 CString TakeValue(const DbfTable& table, int field, const std::string& given)
 {
@@ -45,7 +40,7 @@ CString TakeValue(const DbfTable& table, int field, const std::string& given)
     {
         throw DbfFailure(Quoted(Shown(given)) + " has characters that the table's code page has not");
     }
-    const DbfField& properties = FieldOf(table, field);
+    const DbfField& properties = table.Field(field);
     if (UsableLength(properties, table.Layout().recordLength) != properties.length)
     {
         throw DbfFailure("field " + table.FieldName(field) + " does not lie within the record");
@@ -79,7 +74,7 @@ std::string AddMemo(DbfTable& table, const CString& text)
 
 void StoreMemo(DbfTable& table, int field, const CString& text)
 {
-    const DbfField& properties = FieldOf(table, field);
+    const DbfField& properties = table.Field(field);
     const std::string block = AddMemo(table, text);
     if (block.size() > static_cast<std::size_t>(properties.length))
     {
@@ -94,7 +89,7 @@ void StoreMemo(DbfTable& table, int field, const CString& text)
 
 void Store(DbfTable& table, int field, const CString& value)
 {
-    const DbfField& properties = FieldOf(table, field);
+    const DbfField& properties = table.Field(field);
     if (properties.type == 'M')
     {
         StoreMemo(table, field, value);

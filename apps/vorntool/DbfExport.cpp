@@ -6,6 +6,7 @@
 #include "apps/vorntool/core/CsvWriter.h"
 #include "apps/vorntool/core/JsonWriter.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace vorn::tool
@@ -41,6 +42,27 @@ std::uint64_t WriteRecords(DbfTable& table, const std::vector<int>& fields, CsvW
     return count;
 }
 
+// What a reader of the values should know.
+std::vector<std::string> Notes(const DbfTable& table, const std::vector<int>& fields)
+{
+    std::vector<std::string> notes;
+    if (table.Held() < table.Layout().records)
+    {
+        notes.push_back("the header counts " + std::to_string(table.Layout().records) +
+                        " records, but the file ends behind " + std::to_string(table.Held()));
+    }
+    const auto doubtful = std::count_if(fields.begin(), fields.end(),
+                                        [&](int field)
+                                        {
+                                            return !table.DoubtAbout(table.Field(field)).empty();
+                                        });
+    if (doubtful > 0)
+    {
+        notes.push_back(std::to_string(doubtful) + " fields do not read as they were meant; 'dbf info' names them");
+    }
+    return notes;
+}
+
 std::unique_ptr<DbfOutput> OutputOf(const Invocation& call)
 {
     return call.Has("output") ? std::make_unique<DbfOutput>(call.ValueOf("output", ""), call.Has("force"))
@@ -62,16 +84,16 @@ void ExportDbf(const Invocation& call, Output& output)
         throw DbfFailure(Quoted(table.Name()) + " has no fields");
     }
     const std::unique_ptr<DbfOutput> target = OutputOf(call);
-    DbfProgress progress(call, "export", table.Held());
+    const DbfPrinting printing = call.Has("output") ? DbfPrinting::Afterwards : DbfPrinting::Meanwhile;
+    DbfProgress progress(call, "export", table.Held(), printing);
     CsvWriter csv(call.Has("lf") ? "\n" : "\r\n");
     WriteHeadings(table, fields, csv);
     const std::uint64_t count = WriteRecords(table, fields, csv, *target, progress);
     target->Finish(csv.Text());
     progress.Done();
-    if (table.Held() < table.Layout().records)
+    for (const std::string& note : Notes(table, fields))
     {
-        output.errors = "vorntool dbf export: the header counts " + std::to_string(table.Layout().records) +
-                        " records, but the file ends behind " + std::to_string(table.Held()) + "\n";
+        output.errors += "vorntool dbf export: " + note + "\n";
     }
     if (call.Has("json"))
     {

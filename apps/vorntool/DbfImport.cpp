@@ -137,7 +137,7 @@ void Report(const Invocation& call, const DbfNewTable& table, const std::vector<
 void ImportDbf(const Invocation& call, Output& output)
 {
     DbfCsvInput first(call.values[0]);
-    DbfProgress progress(call, "import", first.Size());
+    DbfProgress progress(call, "import", first.Size(), DbfPrinting::Afterwards);
     const bool isGiven = call.Has("fields");
     const std::vector<DbfColumn> columns =
         isGiven ? GivenColumns(call.ValueOf("fields", ""), first.Headings().size()) : FoundColumns(first, progress);

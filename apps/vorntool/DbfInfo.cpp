@@ -36,19 +36,19 @@ std::string RecordsText(const DbfLayout& layout, const DbfMarks& marks)
     return text + (marks.strange > 0 ? ", " + std::to_string(marks.strange) + " without a valid deletion mark" : "");
 }
 
-std::string FieldsText(const DbfLayout& layout)
+std::string FieldsText(const DbfTable& table)
 {
     DbfGrid grid;
-    const char* const headings[] = {"Field", "Type", "Length", "Decimals", "Offset"};
-    for (const char* const heading : headings)
+    const char* const headings[] = {"Field", "Type", "Length", "Decimals", "Offset", ""};
+    for (std::size_t i = 0; i < std::size(headings); ++i)
     {
-        grid.AddColumn(heading, heading != headings[0] && heading != headings[1]);
+        grid.AddColumn(headings[i], i >= 2 && i <= 4);
     }
     std::vector<std::vector<std::string>> rows;
-    for (const DbfField& field : layout.fields)
+    for (const DbfField& field : table.Layout().fields)
     {
         rows.push_back({Utf8FromLibrary(field.name), TypeOf(field), std::to_string(field.length),
-                        std::to_string(field.decimals), std::to_string(field.offset)});
+                        std::to_string(field.decimals), std::to_string(field.offset), table.DoubtAbout(field)});
         grid.Measure(rows.back());
     }
     std::string text = rows.empty() ? std::string() : std::string("\n").append(grid.Headings());
@@ -74,7 +74,7 @@ std::string InfoText(const DbfTable& table, const DbfMarks& marks)
     {
         lines.insert(lines.begin() + 1, {"Offset", std::to_string(table.Offset())});
     }
-    return LinedUp(lines) + FieldsText(layout);
+    return LinedUp(lines) + FieldsText(table);
 }
 
 void WriteFields(JsonWriter& json, const DbfLayout& layout)

@@ -46,7 +46,7 @@ void ShowDbfHead(const Invocation& call, Output&)
     DbfTable table(call, limit > 100 ? DbfAccess::Scan : DbfAccess::Read);
     const std::vector<int> fields = table.FieldsFrom(call);
     const std::vector<int> records = LiveRecords(table, call, limit);
-    DbfProgress progress(call, "head", records.size());
+    DbfProgress progress(call, "head", records.size(), DbfPrinting::Meanwhile);
     PrintDbfRecords(table, records, fields, DbfFormFrom(call), progress);
 }
 
@@ -56,7 +56,7 @@ void DumpDbf(const Invocation& call, Output&)
     DbfTable table(call, DbfAccess::Scan);
     const std::vector<int> fields = table.FieldsFrom(call);
     const std::vector<int> records = LiveRecords(table, call, limit);
-    DbfProgress progress(call, "dump", records.size());
+    DbfProgress progress(call, "dump", records.size(), DbfPrinting::Meanwhile);
     PrintDbfRecords(table, records, fields, call.Has("json") ? DbfForm::Json : DbfForm::Vertical, progress);
 }
 
@@ -64,7 +64,7 @@ void ShowDbfMemo(const Invocation& call, Output& output)
 {
     DbfTable table(call, DbfAccess::Read);
     const int field = call.values.size() > 2 ? table.FieldNamed(call.values[2]) : table.OnlyMemoField();
-    if (table.Layout().fields[static_cast<std::size_t>(field)].type != 'M')
+    if (table.Field(field).type != 'M')
     {
         throw DbfFailure(Quoted(call.values[2]) + " is no memo field");
     }

@@ -45,6 +45,10 @@ bool MoveOver(const std::filesystem::path& from, const std::filesystem::path& to
 DbfOutput::DbfOutput(const std::string& name, bool mayReplace)
     : m_name(name), m_path(PathFromUtf8(name)), m_unfinished(UnusedBeside(m_path))
 {
+    if (name.empty())
+    {
+        throw DbfWrongUse("'' cannot be the name of a file");
+    }
     if (Exists(m_path) && !mayReplace)
     {
         throw DbfFailure(Quoted(name) + " exists; --force replaces it");

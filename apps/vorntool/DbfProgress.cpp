@@ -13,10 +13,16 @@ namespace
 constexpr ULONGLONG kPatience = 1000; // milliseconds
 constexpr ULONGLONG kBetween = 200;
 
-bool ErrorsGoToAConsole()
+bool IsConsole(DWORD stream)
 {
     DWORD mode = 0;
-    return GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) != FALSE;
+    return GetConsoleMode(GetStdHandle(stream), &mode) != FALSE;
+}
+
+bool IsFreeConsole(DbfPrinting printing)
+{
+    const bool isTaken = printing == DbfPrinting::Meanwhile && IsConsole(STD_OUTPUT_HANDLE);
+    return IsConsole(STD_ERROR_HANDLE) && !isTaken;
 }
 
 void Say(const std::string& text)
@@ -26,9 +32,10 @@ void Say(const std::string& text)
 
 } // namespace
 
-DbfProgress::DbfProgress(const Invocation& call, std::string what, std::uint64_t total)
-    : m_what(std::move(what)), m_total(total), m_isConsole(ErrorsGoToAConsole()), m_isAskedFor(call.Has("progress")),
-      m_shows(m_isConsole || m_isAskedFor), m_next(GetTickCount64() + (m_isAskedFor ? kBetween : kPatience))
+DbfProgress::DbfProgress(const Invocation& call, std::string what, std::uint64_t total, DbfPrinting printing)
+    : m_what(std::move(what)), m_total(total), m_isConsole(IsConsole(STD_ERROR_HANDLE)),
+      m_isAskedFor(call.Has("progress")), m_shows(m_isAskedFor || IsFreeConsole(printing)),
+      m_next(GetTickCount64() + (m_isAskedFor ? kBetween : kPatience))
 {
 }
 

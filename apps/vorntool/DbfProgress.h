@@ -12,12 +12,20 @@ namespace vorn::tool
 
 inline constexpr Option kDbfProgressOption = {"progress", nullptr, "report progress on standard error"};
 
+/// Whether standard output is written to while work goes on.
+enum class DbfPrinting
+{
+    Afterwards,
+    Meanwhile
+};
+
 /// Tells how far long work has come, on standard error: from the second second on when that is a console, always when
-/// the call asks for it. What stands on a console goes when the work is done.
+/// the call asks for it. What stands on a console goes when the work is done, and a console that results are printed on
+/// meanwhile is left alone.
 class DbfProgress
 {
 public:
-    DbfProgress(const Invocation& call, std::string what, std::uint64_t total);
+    DbfProgress(const Invocation& call, std::string what, std::uint64_t total, DbfPrinting printing);
     ~DbfProgress();
     DbfProgress(const DbfProgress&) = delete;
     DbfProgress& operator=(const DbfProgress&) = delete;

@@ -127,7 +127,7 @@ void QueryDbf(const Invocation& call, Output&)
                          (isSorted ? ", if the table is sorted by it" : ""));
     }
     table.Library().SetBufferSize(0);
-    DbfProgress progress(call, "query", found.size());
+    DbfProgress progress(call, "query", found.size(), DbfPrinting::Meanwhile);
     PrintDbfRecords(table, found, fields, DbfFormFrom(call), progress);
 }
 

@@ -123,7 +123,7 @@ private:
 
     bool IsNumber(int field) const
     {
-        return m_table.Layout().fields[static_cast<std::size_t>(field)].type == 'N';
+        return m_table.Field(field).type == 'N';
     }
 
     // A number of more digits than 64 bits hold stays a text.

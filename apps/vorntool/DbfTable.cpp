@@ -206,7 +206,16 @@ std::vector<int> DbfTable::FieldsFrom(const Invocation& call)
 
 std::string DbfTable::FieldName(int field) const
 {
-    return Utf8FromLibrary(m_layout.fields.at(static_cast<std::size_t>(field)).name);
+    return Utf8FromLibrary(Field(field).name);
+}
+
+std::string DbfTable::DoubtAbout(const DbfField& field) const
+{
+    if (UsableLength(field, m_layout.recordLength) != field.length)
+    {
+        return "not within the record";
+    }
+    return field.decimals > 0 ? "decimals read as digits" : std::string();
 }
 
 int DbfTable::RecordFrom(const std::string& number) const

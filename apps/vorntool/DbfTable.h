@@ -69,6 +69,11 @@ public:
         return static_cast<int>(m_layout.fields.size());
     }
 
+    const DbfField& Field(int field) const
+    {
+        return m_layout.fields.at(static_cast<std::size_t>(field));
+    }
+
     /// Records that lie wholly in the file; a damaged header may count more.
     std::uint32_t Held() const
     {
@@ -86,6 +91,10 @@ public:
 
     /// A field's name, as UTF-8.
     std::string FieldName(int field) const;
+
+    /// Why a field's values are not what its maker meant: it does not lie within the record, or it has decimals, which
+    /// the library reads as digits. Empty for all others.
+    std::string DoubtAbout(const DbfField& field) const;
 
     /// The number of a record that the table has, live or deleted.
     int RecordFrom(const std::string& number) const;

@@ -211,6 +211,20 @@ TEST_F(DbfCsvTool, ExportChoosesFieldsAndLeavesDeletedRecordsOut)
                   "vorntool dbf export: --json goes with --output; 'dump --json' prints records as JSON");
 }
 
+TEST_F(DbfCsvTool, AFileIsNeverReplacedByItsOwnContent)
+{
+    const std::string csv = Csv("A\n1\n");
+    ExpectFailure({"dbf", "import", csv, csv, "--force"}, 1, "vorntool dbf import: '" + csv + "' cannot be replaced");
+    EXPECT_EQ(m_folder.Read("in.csv"), "A\n1\n");
+    const std::string bytes = TableBytes({{"A", 'C', 1}}, {" x"});
+    const std::string table = m_folder.Write("t.dbf", bytes);
+    ExpectFailure({"dbf", "export", table, "--output", table, "--force"}, 1,
+                  "vorntool dbf export: '" + table + "' could not be written");
+    EXPECT_EQ(m_folder.Read("t.dbf"), bytes);
+    ExpectFailure({"dbf", "export", table, "--output", ""}, 2, "vorntool dbf export: '' cannot be the name of a file");
+    EXPECT_EQ(Files(), (std::vector<std::string>{"in.csv", "t.dbf"}));
+}
+
 TEST_F(DbfCsvTool, ExportTellsOfRecordsThatAreMissing)
 {
     std::string bytes = TableBytes({{"A", 'C', 1}}, {" x", " y"});

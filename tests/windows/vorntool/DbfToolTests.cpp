@@ -71,6 +71,22 @@ TEST_F(DbfTool, InfoTellsOfAFileThatEndsTooEarlyAndOfInvalidMarks)
               std::string::npos);
 }
 
+TEST_F(DbfTool, FieldsThatReadOtherwiseThanTheirMakerMeantArePointedOut)
+{
+    const std::string table =
+        Table(TableBytes({{"A", 'C', 2}, {"V", 'N', 5, 2}, {"LAST", 'C', 3}}, {" ab12.25xyz", " cd-1.50xyz"}));
+    const ToolRun info = RunVornTool({"dbf", "info", table});
+    EXPECT_TRUE(info.text.ends_with("\nField  Type  Length  Decimals  Offset\n"
+                                    "A      C          2         0       1\n"
+                                    "V      N          5         2       3  decimals read as digits\n"
+                                    "LAST   C          3         0     520  not within the record\n"))
+        << info.text;
+    const ToolRun exported = RunVornTool({"dbf", "export", table});
+    EXPECT_EQ(exported.status, 0u);
+    EXPECT_EQ(exported.text, "A,V,LAST\r\nab,121425,\r\ncd,1311450,\r\n");
+    EXPECT_EQ(exported.errors, "vorntool dbf export: 2 fields do not read as they were meant; 'dbf info' names them\n");
+}
+
 TEST_F(DbfTool, HeadLinesUpTheLiveRecords)
 {
     const std::string table = Table();
