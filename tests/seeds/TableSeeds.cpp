@@ -1,149 +1,172 @@
 #include "tests/seeds/TableSeeds.h"
-#include "tests/seeds/TableBytes.h"
+#include "tests/support/TableBytes.h"
 
 namespace vorn::test
 {
 namespace
 {
 
-const std::vector<FieldBytes> kStations{{"IDENT", 'C', 3}, {"FREQ", 'N', 5}, {"ELEVENCHARS", 'C', 4}};
-const std::vector<std::string> kRecords{" DEN11790abcd", "*GLL11420gone", " BJC  542\t   ", " LAA 1169    "};
+constexpr std::size_t kBlock = 512;
 
-std::string Stations()
+TableBytes StationFields()
 {
-    return TableBytes(kStations, kRecords);
+    TableBytes table;
+    table.Field("IDENT", 'C', 3).Field("FREQ", 'N', 5).Field("ELEVENCHARS", 'C', 4);
+    return table;
 }
 
-std::string WithoutFields()
+TableBytes Stations()
 {
-    return TableHeader(3, 33, 1) + "\r * ";
+    TableBytes table = StationFields();
+    table.Record("DEN11790abcd").Record("GLL11420gone", '*').Record("BJC  542\t   ").Record("LAA 1169    ");
+    return table;
 }
 
 std::string WithDecimals()
 {
-    return TableBytes({{"VALUE", 'N', 6, 2}, {"BEHIND", 'C', 3}}, {"   12.25abc", " -1.5   xyz"});
+    TableBytes table;
+    table.Field("VALUE", 'N', 6, 2).Field("BEHIND", 'C', 3).Record(" 12.25abc").Record("-1.5  xyz");
+    return table.Bytes();
 }
 
 std::string AllDeleted()
 {
-    return TableBytes(kStations, std::vector<std::string>(40, kRecords[1]));
-}
-
-/// Lengths and counts that are not true: what is read must end, and stay inside the record.
-std::string WithLengths(unsigned records, int header, int record)
-{
-    return TableHeader(records, header, record) + Stations().substr(32);
+    TableBytes table = StationFields();
+    for (int i = 0; i < 40; ++i)
+    {
+        table.Record("GLL11420gone", '*');
+    }
+    return table.Bytes();
 }
 
 std::string WithNegativeField()
 {
-    return TableBytes({{"A", 'C', 3}, {"B", 'C', -200}, {"C", 'C', 0x7FFF}, {"D", 'M', 2}}, {" abcde"});
+    TableBytes table;
+    table.Field("A", 'C', 3).Field("B", 'C', 0x38, 0xFF).Field("C", 'C', 0xFF, 0x7F).Field("D", 'M', 2);
+    return table.StateRecordLength(6).Header() + " abcde";
 }
 
 /// The area behind the descriptors, where others keep a path, counts for descriptors too.
 std::string WithBacklink()
 {
-    std::string table = Stations();
-    table.insert(32 + 32 * kStations.size() + 1, std::string(263, '\0'));
-    table.replace(8, 2, LittleEndian(33 + 32 * 3 + 263, 2));
+    return Stations().EndHeaderWith('\r' + std::string(263, '\0')).Bytes();
+}
+
+TableBytes NoteFields()
+{
+    TableBytes table;
+    table.Field("ID", 'C', 1).Field("NOTE", 'M', 10);
     return table;
 }
 
 std::string Notes(const std::vector<std::string>& numbers)
 {
-    std::vector<std::string> records;
+    TableBytes table = NoteFields();
     for (const std::string& number : numbers)
     {
-        records.push_back(" x" + std::string(10 - number.size(), ' ') + number);
+        table.Record('x' + std::string(10 - number.size(), ' ') + number);
     }
-    return TableBytes({{"ID", 'C', 1}, {"NOTE", 'M', 10}}, records);
+    return table.Bytes();
+}
+
+std::string MemoFile(const std::string& entries)
+{
+    std::string header = LittleEndian(1 + entries.size() / kBlock, 4);
+    header.resize(20);
+    header += LittleEndian(kBlock, 2);
+    header.resize(kBlock);
+    return header + entries;
+}
+
+std::string EntryOfLength(unsigned long length)
+{
+    return MemoEntryBytes("text").replace(4, 4, LittleEndian(length, 4));
+}
+
+/// Of the older kind, without marker and length.
+std::string OldEntry(const std::string& text)
+{
+    return Padded(text, kBlock, '\0');
 }
 
 /// One record with a memo; only the record is coded.
 std::string CodedNotes(const std::string& key)
 {
-    const std::string plain = Notes({"1"});
-    const std::size_t begin = plain.size() - 12;
-    return plain.substr(0, begin) + Coded(plain.substr(begin), key);
+    return NoteFields().StateCount(1).Header() + Scrambled(" x         1", key);
 }
 
 /// Marker and length of a memo stay plain.
-std::string CodedMemo(const std::string& text, const std::string& key)
+std::string CodedEntry(const std::string& text, const std::string& key)
 {
-    return MemoBytes(text).replace(8, text.size(), Coded(text, key));
+    return MemoEntryBytes(text).replace(8, text.size(), Scrambled(text, key));
 }
 
 /// Key, table and memo file as one input: each of the first two behind its length, in 1 and 2 bytes.
 std::string Together(const std::string& key, const std::string& table, const std::string& memo)
 {
-    return LittleEndian(static_cast<long long>(key.size()), 1) + key +
-           LittleEndian(static_cast<long long>(table.size()), 2) + table + memo;
-}
-
-std::string MemoFile(const std::vector<std::string>& entries)
-{
-    std::string file;
-    for (const std::string& entry : entries)
-    {
-        file += entry;
-    }
-    return MemoHeader(1 + static_cast<int>(file.size() / 512)) + file;
-}
-
-std::string EntryOfLength(long long length)
-{
-    return MemoBytes("text").replace(4, 4, LittleEndian(length, 4));
-}
-
-std::string OldEntry(const std::string& text)
-{
-    std::string entry = text;
-    entry.resize(512);
-    return entry;
+    return LittleEndian(key.size(), 1) + key + LittleEndian(table.size(), 2) + table + memo;
 }
 
 /// Steps of two bytes, what and with which argument, behind their count; then key, table and memo file.
 std::string Use(const std::string& steps, const std::string& whole)
 {
-    return LittleEndian(static_cast<long long>(steps.size() / 2), 1) + steps + whole;
+    return LittleEndian(steps.size() / 2, 1) + steps + whole;
+}
+
+using Seeds = std::map<std::string, std::string>;
+
+void AddTables(Seeds& seeds)
+{
+    seeds["table/stations"] = Stations().Bytes();
+    seeds["table/without-fields"] = TableBytes().StateCount(3).Bytes() + " * ";
+    seeds["table/decimals"] = WithDecimals();
+    seeds["table/all-deleted"] = AllDeleted();
+    seeds["table/endless-count"] = Stations().StateCount(0xFFFFFFFF).Bytes();
+    seeds["table/negative-header"] = Stations().StateHeaderLength(-1).Bytes();
+    seeds["table/negative-record"] = Stations().StateRecordLength(-13).Bytes();
+    seeds["table/no-record-length"] = Stations().StateRecordLength(0).Bytes();
+    seeds["table/short-record"] = Stations().StateRecordLength(3).Bytes();
+    seeds["table/short-descriptors"] = Stations().Bytes().substr(0, 100);
+    seeds["table/negative-field"] = WithNegativeField();
+    seeds["table/backlink"] = WithBacklink();
+    seeds["table/cut-record"] = Stations().Bytes().substr(0, 129 + 20);
+}
+
+void AddMemos(Seeds& seeds)
+{
+    const std::string one = MemoEntryBytes("one");
+    const std::string lengths =
+        EntryOfLength(7) + EntryOfLength(0xFFFFFFFF) + EntryOfLength(0x7FFFFFFF) + EntryOfLength(0x80000008);
+    seeds["tablememo/two"] = Together("", Notes({"1", "2", "", "7"}), MemoFile(one + MemoEntryBytes("two")));
+    seeds["tablememo/coded"] = Together("key", CodedNotes("key"), MemoFile(CodedEntry("one", "key")));
+    seeds["tablememo/long"] = Together("", Notes({"1"}), MemoFile(MemoEntryBytes(std::string(1200, 'm'))));
+    seeds["tablememo/old"] = Together("", Notes({"1", "2"}), MemoFile(OldEntry("old\x1A\x1A") + OldEntry("no end")));
+    seeds["tablememo/lengths"] = Together("", Notes({"1", "2", "3", "4"}), MemoFile(lengths));
+    seeds["tablememo/numbers"] = Together("", Notes({"-1", "0", "9999999999", "1x"}), MemoFile(one));
+    seeds["tablememo/behind"] = Together("", Notes({"1"}) + MemoFile(MemoEntryBytes("behind")), "");
+}
+
+void AddUses(Seeds& seeds)
+{
+    const std::string stations = Together("", Stations().Bytes(), "");
+    const std::string notes = Together("", Notes({"1", "2"}), MemoFile(MemoEntryBytes("one") + MemoEntryBytes("two")));
+    seeds["tableuse/read"] = Use({0, 0, 1, 2, 2, 0, 3, 1}, stations);
+    seeds["tableuse/search"] = Use({4, 0, 5, 1, 6, 0, 7, 2, 8, 1}, stations);
+    seeds["tableuse/change"] = Use({0, 2, 9, 1, 10, 0, 11, 5, 12, 0, 13, 0}, stations);
+    seeds["tableuse/delete"] = Use({0, 2, 14, 0, 1, 0, 14, 0, 15, 0, 2, 0}, stations);
+    seeds["tableuse/settings"] = Use({16, 3, 17, 1, 18, 32, 19, 0, 20, 0, 2, 0}, notes);
+    seeds["tableuse/memo"] = Use({21, 0, 22, 9, 2, 0, 0, 0, 23, 0, 24, 3}, notes);
 }
 
 } // namespace
 
 std::map<std::string, std::string> TableSeeds()
 {
-    const std::string stations = Together("", Stations(), "");
-    const std::string notes = Together("", Notes({"1", "2", "", "7"}), MemoFile({MemoBytes("one"), MemoBytes("two")}));
-    return {
-        {"table/stations", Stations()},
-        {"table/without-fields", WithoutFields()},
-        {"table/decimals", WithDecimals()},
-        {"table/all-deleted", AllDeleted()},
-        {"table/endless-count", WithLengths(0xFFFFFFFF, 129, 13)},
-        {"table/negative-header", WithLengths(4, -1, 13)},
-        {"table/negative-record", WithLengths(4, 129, -13)},
-        {"table/no-record-length", WithLengths(4, 129, 0)},
-        {"table/short-record", WithLengths(4, 129, 3)},
-        {"table/short-descriptors", Stations().substr(0, 100)},
-        {"table/negative-field", WithNegativeField()},
-        {"table/backlink", WithBacklink()},
-        {"table/cut-record", Stations().substr(0, 129 + 20)},
-        {"tablememo/two", notes},
-        {"tablememo/coded", Together("key", CodedNotes("key"), MemoFile({CodedMemo("one", "key")}))},
-        {"tablememo/long", Together("", Notes({"1"}), MemoFile({MemoBytes(std::string(1200, 'm'))}))},
-        {"tablememo/old", Together("", Notes({"1", "2"}), MemoFile({OldEntry("old\x1A\x1A"), OldEntry("no end")}))},
-        {"tablememo/lengths", Together("", Notes({"1", "2", "3", "4"}),
-                                       MemoFile({EntryOfLength(7), EntryOfLength(-1), EntryOfLength(0x7FFFFFFF),
-                                                 EntryOfLength(0x80000008)}))},
-        {"tablememo/numbers", Together("", Notes({"-1", "0", "9999999999", "1x"}), MemoFile({MemoBytes("one")}))},
-        {"tablememo/behind", Together("", Notes({"1"}) + MemoFile({MemoBytes("behind")}), "")},
-        {"tableuse/read", Use(std::string("\x00\x00\x01\x02\x02\x00\x03\x01", 8), stations)},
-        {"tableuse/search", Use(std::string("\x04\x00\x05\x01\x06\x00\x07\x02\x08\x01", 10), stations)},
-        {"tableuse/change", Use(std::string("\x00\x02\x09\x01\x0A\x00\x0B\x05\x0C\x00\x0D\x00", 12), stations)},
-        {"tableuse/delete", Use(std::string("\x00\x00\x0E\x00\x01\x00\x0E\x00\x0F\x00\x02\x00", 12), stations)},
-        {"tableuse/settings", Use(std::string("\x10\x03\x11\x01\x12\x20\x13\x00\x14\x00\x02\x00", 12), notes)},
-        {"tableuse/memo", Use(std::string("\x15\x00\x16\x09\x02\x00\x00\x00\x17\x00\x18\x00", 12), notes)},
-    };
+    Seeds seeds;
+    AddTables(seeds);
+    AddMemos(seeds);
+    AddUses(seeds);
+    return seeds;
 }
 
 } // namespace vorn::test
