@@ -7,6 +7,16 @@
 
 using vorn::NoThrow;
 
+namespace
+{
+bool IsOwnFile(const vorn::TableState& state, const char* name)
+{
+    CFile other;
+    other.SetFilePath(name);
+    return other.GetFilePath().CompareNoCase(state.file.GetFilePath()) == 0;
+}
+} // namespace
+
 void CDBFFile::DumpHeader()
 {
     NoThrow(false,
@@ -36,7 +46,7 @@ int CDBFFile::DumpToFile(const char* name)
                    [&]
                    {
                        CFile dump;
-                       if (name == nullptr || !m_state->layout.IsTable() ||
+                       if (name == nullptr || !m_state->layout.IsTable() || IsOwnFile(*m_state, name) ||
                            !dump.Open(name, CFile::modeCreate | CFile::modeWrite | CFile::shareExclusive))
                            return 0;
                        const bool isWritten = vorn::DumpTable(m_state->file, m_state->layout, m_state->key, dump);

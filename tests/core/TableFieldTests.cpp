@@ -64,14 +64,15 @@ TEST_F(TableField, GetFieldValue_TrimsTextsOfEveryLengthInFieldsOfEveryWidth)
 {
     for (std::size_t width = 1; width <= 70; ++width)
     {
+        TableBytes table;
+        table.Field("BEFORE", 'C', 3).Field("F", 'C', static_cast<int>(width)).Field("AFTER", 'C', 3);
+        for (std::size_t length = 0; length <= width; ++length)
+            table.Record("bbb" + Padded(std::string(length, 'x'), width) + "aaa");
+        Open(table);
         for (std::size_t length = 0; length <= width; ++length)
         {
-            const std::string text = Padded("", length, 'x');
-            TableBytes table;
-            table.Field("BEFORE", 'C', 3).Field("F", 'C', static_cast<int>(width)).Field("AFTER", 'C', 3);
-            table.Record("bbb" + Padded(text, width) + "aaa");
-            Open(table);
-            ASSERT_EQ(Value(1), text) << width;
+            ASSERT_EQ(m_table.ReadRecord(static_cast<int>(length)), 1);
+            ASSERT_EQ(Value(1), std::string(length, 'x')) << width;
         }
     }
 }
