@@ -172,6 +172,11 @@ SystemError RenameFile(const char* from, const char* to)
 
 SystemError MoveOver(const char* from, const char* to)
 {
+    const DWORD attributes = GetFileAttributesA(to);
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+    {
+        return ERROR_ACCESS_DENIED; // not every system refuses by itself
+    }
     return ErrorIf(!MoveFileExA(from, to, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
 }
 
