@@ -5,9 +5,9 @@ namespace vorn::tool
 
 Tool VornTool()
 {
-    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(),  PathsCommands(), FormatCommands(),
-                                          ParseCommands(),    DateCommands(),   DbfCommands(),   FindCommands(),
-                                          StatsCommands(),    VersionCommands()};
+    static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(),    PathsCommands(),  FormatCommands(),
+                                          ParseCommands(),    DateCommands(),     DbfCommands(),    FindCommands(),
+                                          StatsCommands(),    RegistryCommands(), VersionCommands()};
     return {"Looks into an installation of the Vornwald applications.", VORN_VERSION, groups};
 }
 

@@ -17,6 +17,7 @@ const CommandGroup& FindCommands();
 const CommandGroup& StatsCommands();
 const CommandGroup& VersionCommands();
 const CommandGroup& DbfCommands();
+const CommandGroup& RegistryCommands();
 
 /// The whole tool with all its commands.
 Tool VornTool();
