@@ -224,6 +224,13 @@ TEST_F(ExtensionSearch, IsADynamicClassOfTheFramework)
     EXPECT_FALSE(CFileFind().IsKindOf(RUNTIME_CLASS(CFileFindInExtSet)));
 }
 
+TEST_F(ExtensionSearch, CanBeReplacedInDerivedClasses)
+{
+    using Begin = BOOL (CFileFindInExtSet::*)(const char*, const char*, DWORD);
+    EXPECT_GE(vorn::test::SlotOf(static_cast<Begin>(&CFileFindInExtSet::FindFile)), 0);
+    EXPECT_GE(vorn::test::SlotOf(&CFileFindInExtSet::FindNextFile), 0);
+}
+
 TEST_F(ExtensionSearch, IsSteppedThroughTheFrameworksClass)
 {
     Make({"a.dbf", "b.dbt"});

@@ -158,6 +158,9 @@ TEST(Win32CriticalSection, IsCopiedByteForByte)
     const Opened lock(123);
     const Opened copy(lock);
     EXPECT_EQ(std::memcmp(&copy.Record(), &lock.Record(), sizeof(CRITICAL_SECTION)), 0);
+    Opened assigned(4000);
+    assigned = lock;
+    EXPECT_EQ(std::memcmp(&assigned.Record(), &lock.Record(), sizeof(CRITICAL_SECTION)), 0);
     EXPECT_EQ(lock.Record().LockCount, -1);
     EXPECT_EQ(lock.Record().OwningThread, nullptr);
 }
