@@ -37,6 +37,9 @@ ON_WM_KEYDOWN()
 ON_WM_LBUTTONDOWN()
 ON_WM_MOUSEMOVE()
 ON_WM_CTLCOLOR()
+ON_WM_SETFOCUS()
+ON_COMMAND_RANGE(ID_TABLE_FIRST, ID_TABLE_LAST, OnPageCommand)
+ON_UPDATE_COMMAND_UI_RANGE(ID_TABLE_FIRST, ID_TABLE_LAST, OnUpdatePageCommand)
 END_MESSAGE_MAP()
 
 PageView::PageView() : m_pages(MakePages())
@@ -81,8 +84,99 @@ void PageView::ShowPage(std::size_t index)
     m_scroll = 0;
     m_pages[m_current]->Refresh();
     m_pages[m_current]->Activate(*this, true);
+    ShowScrollBar(SB_VERT, !m_pages[m_current]->FillsWindow());
     Layout();
     Invalidate(FALSE);
+    if (CWnd* const first = m_pages[m_current]->FirstControl())
+        first->SetFocus();
+    else
+        SetFocus();
+}
+
+bool PageView::ShowPage(const std::string& name)
+{
+    std::size_t found = m_pages.size();
+    for (std::size_t index = 0; index < m_pages.size(); ++index)
+    {
+        const CString full = m_pages[index]->Name();
+        if (full.CompareNoCase(name.c_str()) == 0)
+        {
+            ShowPage(index);
+            return true;
+        }
+        if (full.Left(static_cast<int>(name.size())).CompareNoCase(name.c_str()) == 0)
+            found = found == m_pages.size() ? index : m_pages.size() + 1;
+    }
+    if (found >= m_pages.size())
+        return false;
+    ShowPage(found);
+    return true;
+}
+
+Page* PageView::OwnerOf(UINT command) const
+{
+    for (const std::unique_ptr<Page>& page : m_pages)
+    {
+        if (page->OwnsCommand(command))
+            return page.get();
+    }
+    return nullptr;
+}
+
+void PageView::OnPageCommand(UINT command)
+{
+    for (std::size_t index = 0; index < m_pages.size(); ++index)
+    {
+        if (!m_pages[index]->OwnsCommand(command))
+            continue;
+        ShowPage(index);
+        if (m_pages[index]->CanRun(command))
+            m_pages[index]->Run(command);
+        return;
+    }
+}
+
+void PageView::OnUpdatePageCommand(CCmdUI* item)
+{
+    const Page* const owner = OwnerOf(item->m_nID);
+    item->Enable(owner != nullptr && owner->CanRun(item->m_nID));
+}
+
+void PageView::OnSetFocus(CWnd* before)
+{
+    CView::OnSetFocus(before);
+    if (CWnd* const first = m_pages[m_current]->FirstControl())
+        first->SetFocus();
+}
+
+BOOL PageView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    const BOOL handled = CView::OnNotify(wParam, lParam, result);
+    m_pages[m_current]->OnNotification(*reinterpret_cast<const NMHDR*>(lParam));
+    return handled;
+}
+
+BOOL PageView::PreTranslateMessage(MSG* message)
+{
+    if (CView::PreTranslateMessage(message))
+        return TRUE;
+    if (message->message != WM_KEYDOWN)
+        return FALSE;
+    const UINT key = static_cast<UINT>(message->wParam);
+    if (key == VK_TAB && GetKeyState(VK_CONTROL) >= 0)
+        return MoveFocus(GetKeyState(VK_SHIFT) < 0);
+    return m_pages[m_current]->OnKey(key, CWnd::FromHandle(message->hwnd));
+}
+
+bool PageView::MoveFocus(bool backwards)
+{
+    CWnd* const focus = GetFocus();
+    const HWND from = focus != nullptr && IsChild(focus) ? focus->m_hWnd : nullptr;
+    const HWND next = ::GetNextDlgTabItem(m_hWnd, from, backwards);
+    if (next == nullptr || next == from)
+        return false;
+    ::SetFocus(next);
+    return true;
 }
 
 void PageView::RefreshPage()
@@ -143,18 +237,23 @@ void PageView::Layout()
     if (m_theme == nullptr)
         return;
     const CRect area = PageArea();
-    m_pageHeight = m_pages[m_current]->HeightFor(area.Width(), *m_theme);
+    const bool fills = m_pages[m_current]->FillsWindow();
+    m_pageHeight = fills ? area.Height() : m_pages[m_current]->HeightFor(area.Width(), *m_theme);
     m_scroll = std::clamp(m_scroll, 0, std::max(0, m_pageHeight - area.Height()));
+    if (!fills)
+        ShowScrollPosition(area.Height());
+    m_pages[m_current]->PlaceControls(ScrolledPage(), *m_theme);
+}
 
+void PageView::ShowScrollPosition(int height)
+{
     SCROLLINFO info{};
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
     info.nMax = std::max(0, m_pageHeight - 1);
-    info.nPage = static_cast<UINT>(std::max<LONG>(0, area.Height()));
+    info.nPage = static_cast<UINT>(std::max(0, height));
     info.nPos = m_scroll;
     SetScrollInfo(SB_VERT, &info);
-
-    m_pages[m_current]->PlaceControls(ScrolledPage(), *m_theme);
 }
 
 void PageView::ScrollTo(int position)

@@ -18,11 +18,17 @@ public:
     std::size_t CurrentPage() const;
     void ShowPage(std::size_t index);
 
+    /// Shows the page whose name begins with `name`, in either case. False when there is none, or when there are
+    /// several and none of exactly that name.
+    bool ShowPage(const std::string& name);
+
     /// Takes all values anew and paints them.
     void RefreshPage();
 
 protected:
     void OnDraw(CDC* dc) override;
+    BOOL PreTranslateMessage(MSG* message) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     BOOL OnPreparePrinting(CPrintInfo* info) override;
     void OnPrint(CDC* dc, CPrintInfo* info) override;
@@ -35,6 +41,9 @@ protected:
     afx_msg void OnKeyDown(UINT key, UINT repeats, UINT flags);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnSetFocus(CWnd* before);
+    afx_msg void OnPageCommand(UINT command);
+    afx_msg void OnUpdatePageCommand(CCmdUI* item);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     DECLARE_MESSAGE_MAP()
@@ -44,7 +53,10 @@ private:
     CRect ScrolledPage() const;
     CRect RailArea() const;
     CRect RailItem(std::size_t index) const;
+    Page* OwnerOf(UINT command) const;
+    bool MoveFocus(bool backwards);
     void Layout();
+    void ShowScrollPosition(int height);
     void ScrollTo(int position);
     void ScrollByKey(UINT key);
     void PaintBand(CDC& dc) const;

@@ -4,6 +4,7 @@
 #include "apps/sample/PageView.h"
 #include "apps/sample/Snapshot.h"
 #include "apps/sample/core/ReportTable.h"
+#include "apps/sample/model/Usage.h"
 #include "apps/sample/resource.h"
 
 #include <memory>
@@ -35,17 +36,14 @@ void PumpPending()
     }
 }
 
-bool SelectPage(PageView& view, const std::string& name)
+std::string TakeOptions(PageView& view, const StartOptions& options)
 {
-    for (std::size_t index = 0; index < view.Pages().size(); ++index)
+    for (const std::unique_ptr<Page>& page : view.Pages())
     {
-        if (lstrcmpi(view.Pages()[index]->Name(), name.c_str()) == 0)
-        {
-            view.ShowPage(index);
-            return true;
-        }
+        if (std::string problem = page->TakeOptions(options); !problem.empty())
+            return problem;
     }
-    return false;
+    return {};
 }
 
 } // namespace
@@ -68,9 +66,10 @@ BOOL SampleApp::InitInstance()
 
     VornCommonApp::Inst(this);
     SetRegistryKey("Vornwald"); // the bars' state stands beside the settings
+    CountUse(UsageEvent::Start);
     if (!CreateMainFrame(options) || !ApplyOptions(options))
         return FALSE;
-    if (options.summary || !options.snapshotFile.empty())
+    if (options.IsUnattended())
     {
         RunUnattended(options);
         return FALSE;
@@ -99,10 +98,14 @@ bool SampleApp::CreateMainFrame(const StartOptions& options)
 bool SampleApp::ApplyOptions(const StartOptions& options)
 {
     PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
-    if (options.page.empty() || SelectPage(view, options.page))
+    const std::string problem = TakeOptions(view, options);
+    const bool aboutTables = !options.table.empty() || !options.find.empty();
+    const std::string page = options.page.empty() && aboutTables ? "Tables" : options.page;
+    const bool shown = page.empty() || view.ShowPage(page);
+    if (shown && (problem.empty() || !options.IsUnattended())) // a user sees on the page what is wrong
         return true;
-    Print(STD_ERROR_HANDLE, "VornSample: there is no page named " + options.page + '\n');
-    m_exitCode = kWrongUse;
+    Print(STD_ERROR_HANDLE, "VornSample: " + (shown ? problem : "there is no page named " + page) + '\n');
+    m_exitCode = shown ? kFailed : kWrongUse;
     m_pMainWnd->DestroyWindow();
     return false;
 }

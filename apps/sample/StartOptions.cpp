@@ -1,7 +1,8 @@
 #include "apps/sample/StartOptions.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
-#include <cstring>
 #include <string_view>
 
 namespace
@@ -18,6 +19,44 @@ bool ParseSize(std::string_view text, StartOptions& options)
     return width.ptr == text.data() + cross && height.ptr == end && options.width > 0 && options.height > 0;
 }
 
+struct TextOption
+{
+    std::string_view name;
+    std::string StartOptions::*text;
+};
+
+constexpr std::array kTextOptions = {
+    TextOption{"--snapshot", &StartOptions::snapshotFile},
+    TextOption{"--page", &StartOptions::page},
+    TextOption{"--table", &StartOptions::table},
+    TextOption{"--find", &StartOptions::find},
+};
+
+const TextOption* FindTextOption(std::string_view name)
+{
+    const auto option = std::find_if(kTextOptions.begin(), kTextOptions.end(),
+                                     [name](const TextOption& candidate)
+                                     {
+                                         return candidate.name == name;
+                                     });
+    return option == kTextOptions.end() ? nullptr : &*option;
+}
+
+bool TakesValue(std::string_view name)
+{
+    return name == "--size" || FindTextOption(name) != nullptr;
+}
+
+void TakeValue(StartOptions& options, std::string_view name, const char* value)
+{
+    if (const TextOption* const option = FindTextOption(name))
+        options.*option->text = value;
+    else if (!ParseSize(value, options))
+        options.error = "--size wants WIDTHxHEIGHT, for example 1180x900";
+    if (name == "--find" && options.find.find('=') == std::string::npos)
+        options.error = "--find wants FIELD=VALUE, for example IDENT=SEA";
+}
+
 } // namespace
 
 StartOptions ParseStartOptions(int count, const char* const* arguments)
@@ -31,27 +70,26 @@ StartOptions ParseStartOptions(int count, const char* const* arguments)
             options.summary = true;
         else if (argument == "--help")
             options.help = true;
-        else if (argument != "--snapshot" && argument != "--page" && argument != "--size")
+        else if (!TakesValue(argument))
             options.error = "unknown option " + std::string(argument);
         else if (value == nullptr)
             options.error = std::string(argument) + " wants a value";
-        else if (++i; argument == "--snapshot")
-            options.snapshotFile = value;
-        else if (argument == "--page")
-            options.page = value;
-        else if (!ParseSize(value, options))
-            options.error = "--size wants WIDTHxHEIGHT, for example 1180x900";
+        else
+            TakeValue(options, argument, arguments[++i]);
     }
     return options;
 }
 
 const char* StartOptionsHelp()
 {
-    return "VornSample [--page NAME] [--size WIDTHxHEIGHT] [--snapshot FILE.png] [--summary]\n"
+    return "VornSample [--page NAME] [--table FILE.dbf] [--find FIELD=VALUE]\n"
+           "           [--size WIDTHxHEIGHT] [--snapshot FILE.png] [--summary]\n"
            "\n"
-           "Shows the family's programs and versions, the settings in force and values in your units.\n"
+           "Shows the family's programs and versions, the settings in force, values in your units and tables.\n"
            "\n"
-           "  --page NAME            start with this page, for example Overview\n"
+           "  --page NAME            start with this page, for example Overview; its beginning will do\n"
+           "  --table FILE.dbf       browse this table instead of the sample's own\n"
+           "  --find FIELD=VALUE     select the first record of the table with this value\n"
            "  --size WIDTHxHEIGHT    start with a window of this size\n"
            "  --snapshot FILE.png    save a picture of the window and exit\n"
            "  --summary              print what the pages show and exit\n";

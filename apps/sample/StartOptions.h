@@ -8,9 +8,18 @@ struct StartOptions
     bool summary = false;     ///< print what the pages show to standard output
     bool help = false;        ///< print how to call the program
     std::string snapshotFile; ///< save a picture of the window there and exit
-    std::string page;         ///< name of the page to show first
+    std::string page;         ///< name of the page to show first, or its beginning
+    std::string table;        ///< file of the table to browse; empty for the sample's own
+    std::string find;         ///< FIELD=VALUE: the record to select there
     int width = 0;            ///< of the window in pixels; 0 leaves it as stored
     int height = 0;
+
+    /// True when nobody is there to look: the program writes what it was asked for and ends.
+    bool IsUnattended() const
+    {
+        return summary || !snapshotFile.empty();
+    }
+
     std::string error; ///< what is wrong with the command line; empty when nothing is
 };
 

@@ -50,6 +50,9 @@ public:
     /// @name Items
     int GetItemCount() const;
     void SetItemCount(int items);
+    /// The number of items of an owner-data list (LVS_OWNERDATA), whose texts the owner gives when it is asked for
+    /// them. `flags`: LVSICF_NOINVALIDATEALL repaints only what changes, LVSICF_NOSCROLL stays where the list is.
+    BOOL SetItemCountEx(int items, DWORD flags = LVSICF_NOINVALIDATEALL);
     int InsertItem(const LVITEMA* item);
     int InsertItem(int index, LPCTSTR text);
     int InsertItem(int index, LPCTSTR text, int image);

@@ -28,6 +28,11 @@ void CListCtrl::SetItemCount(int items)
     Ask(*this, LVM_SETITEMCOUNT, static_cast<WPARAM>(items));
 }
 
+BOOL CListCtrl::SetItemCountEx(int items, DWORD flags)
+{
+    return Ask(*this, LVM_SETITEMCOUNT, static_cast<WPARAM>(items), static_cast<LPARAM>(flags)) != 0;
+}
+
 int CListCtrl::InsertItem(const LVITEMA* item)
 {
     return Ask(*this, LVM_INSERTITEMA, 0, item);

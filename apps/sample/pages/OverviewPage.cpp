@@ -3,6 +3,7 @@
 #include "apps/sample/model/FamilyPrograms.h"
 #include "apps/sample/model/SampleValues.h"
 #include "apps/sample/model/SettingsInForce.h"
+#include "apps/sample/model/Usage.h"
 #include "apps/sample/ui/TableCard.h"
 
 #include <algorithm>
@@ -26,6 +27,7 @@ void OverviewPage::Refresh()
     m_values = SampleValuesTable();
     m_settings = SettingsInForceTable();
     m_programs = FamilyProgramsTable();
+    m_usage = UsageTable();
 }
 
 OverviewPage::Places OverviewPage::PlacesIn(const CRect& area, const Theme& theme) const
@@ -43,13 +45,15 @@ OverviewPage::Places OverviewPage::PlacesIn(const CRect& area, const Theme& them
     places.settings.SetRect(right, settingsTop, rightEdge, settingsTop + TableCard(m_settings, theme).Height());
     const int programsTop = places.settings.bottom + gap;
     places.programs.SetRect(right, programsTop, rightEdge, programsTop + TableCard(m_programs, theme).Height());
+    const int usageTop = places.programs.bottom + gap;
+    places.usage.SetRect(right, usageTop, rightEdge, usageTop + TableCard(m_usage, theme).Height());
     return places;
 }
 
 int OverviewPage::HeightFor(int width, const Theme& theme) const
 {
     const Places places = PlacesIn(CRect(0, 0, width, 0), theme);
-    return std::max(places.values.bottom, places.programs.bottom) + theme.Px(kGap);
+    return std::max(places.values.bottom, places.usage.bottom) + theme.Px(kGap);
 }
 
 void OverviewPage::Paint(CDC& dc, const CRect& area, const Theme& theme) const
@@ -58,9 +62,11 @@ void OverviewPage::Paint(CDC& dc, const CRect& area, const Theme& theme) const
     TableCard(m_values, theme).Draw(dc, places.values);
     TableCard(m_settings, theme).Draw(dc, places.settings);
     TableCard(m_programs, theme).Draw(dc, places.programs);
+    TableCard(m_usage, theme).Draw(dc, places.usage);
 }
 
 std::string OverviewPage::Summary() const
 {
-    return vorn::ToText(m_values) + '\n' + vorn::ToText(m_settings) + '\n' + vorn::ToText(m_programs);
+    return vorn::ToText(m_values) + '\n' + vorn::ToText(m_settings) + '\n' + vorn::ToText(m_programs) + '\n' +
+           vorn::ToText(m_usage);
 }

@@ -4,7 +4,7 @@
 #include "apps/sample/pages/Page.h"
 
 /// The first page: sample values in the user's units, the settings in force with their source, and the programs of
-/// the family that were found.
+/// the family that were found, and how often this one was used.
 class OverviewPage : public Page
 {
 public:
@@ -20,6 +20,7 @@ private:
         CRect values;
         CRect settings;
         CRect programs;
+        CRect usage;
     };
 
     Places PlacesIn(const CRect& area, const Theme& theme) const;
@@ -27,4 +28,5 @@ private:
     vorn::ReportTable m_values;
     vorn::ReportTable m_settings;
     vorn::ReportTable m_programs;
+    vorn::ReportTable m_usage;
 };

@@ -13,6 +13,44 @@ bool Page::OnControl(UINT, UINT)
     return false;
 }
 
+std::string Page::TakeOptions(const StartOptions&)
+{
+    return {};
+}
+
+bool Page::FillsWindow() const
+{
+    return false;
+}
+
+void Page::OnNotification(const NMHDR&)
+{
+}
+
+bool Page::OnKey(UINT, CWnd*)
+{
+    return false;
+}
+
+CWnd* Page::FirstControl()
+{
+    return nullptr;
+}
+
+bool Page::OwnsCommand(UINT) const
+{
+    return false;
+}
+
+bool Page::CanRun(UINT) const
+{
+    return false;
+}
+
+void Page::Run(UINT)
+{
+}
+
 bool Page::OnPointer(const CRect&, CPoint, const Theme&)
 {
     return false;

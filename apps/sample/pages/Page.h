@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/sample/StartOptions.h"
 #include "apps/sample/ui/Theme.h"
 
 #include <string>
@@ -37,6 +38,27 @@ public:
 
     /// A notification of one of the page's own controls. True when it was meant for the page.
     virtual bool OnControl(UINT id, UINT code);
+
+    /// What the command line asks of the page, before it comes to the front. What is wrong with that; empty when
+    /// nothing is.
+    virtual std::string TakeOptions(const StartOptions& options);
+
+    /// True for a page that makes do with the window as it is: the view then neither scrolls it nor has a scroll bar.
+    virtual bool FillsWindow() const;
+
+    /// A notification by WM_NOTIFY of one of the page's own controls.
+    virtual void OnNotification(const NMHDR& header);
+
+    /// A key is going to the view or to one of the page's controls. True when the page has dealt with it.
+    virtual bool OnKey(UINT key, CWnd* control);
+
+    /// The control that gets the keys when the page comes to the front; null for none.
+    virtual CWnd* FirstControl();
+
+    /// Whether the page deals with a command of the menu bar, can do so now, and that it does.
+    virtual bool OwnsCommand(UINT command) const;
+    virtual bool CanRun(UINT command) const;
+    virtual void Run(UINT command);
 
     /// The pointer moved to `point` of the view. True when what the page shows has changed.
     virtual bool OnPointer(const CRect& area, CPoint point, const Theme& theme);

@@ -4,6 +4,7 @@
 #include "apps/sample/pages/FoldersPage.h"
 #include "apps/sample/pages/OverviewPage.h"
 #include "apps/sample/pages/PositionPage.h"
+#include "apps/sample/pages/TablePage.h"
 
 std::vector<std::unique_ptr<Page>> MakePages()
 {
@@ -12,5 +13,6 @@ std::vector<std::unique_ptr<Page>> MakePages()
     pages.push_back(std::make_unique<PositionPage>());
     pages.push_back(std::make_unique<CurrencyPage>());
     pages.push_back(std::make_unique<FoldersPage>());
+    pages.push_back(std::make_unique<TablePage>());
     return pages;
 }

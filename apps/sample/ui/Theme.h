@@ -27,6 +27,7 @@ public:
     COLORREF muted = RGB(0x6B, 0x77, 0x86);
     COLORREF accent = RGB(0x0B, 0x62, 0xB5);
     COLORREF good = RGB(0x1B, 0x7A, 0x43);
+    COLORREF bad = RGB(0xB3, 0x26, 0x1E);
 
     CBrush windowBrush; ///< of the colour `window`, for controls that stand on it
 

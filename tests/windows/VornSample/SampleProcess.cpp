@@ -29,6 +29,32 @@ BOOL CALLBACK IsMainWindow(HWND window, LPARAM parameter)
     return FALSE;
 }
 
+BOOL CALLBACK IsDialog(HWND window, LPARAM parameter)
+{
+    Search& search = *reinterpret_cast<Search*>(parameter);
+    DWORD process = 0;
+    char className[16];
+    GetWindowThreadProcessId(window, &process);
+    GetClassNameA(window, className, sizeof className);
+    if (process != search.process || !IsWindowVisible(window) || std::string(className) != "#32770")
+        return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+HWND WaitForWindow(DWORD process, WNDENUMPROC isIt)
+{
+    Search search{process, nullptr};
+    PumpUntil(
+        [&search, isIt]
+        {
+            EnumWindows(isIt, reinterpret_cast<LPARAM>(&search));
+            return search.found != nullptr;
+        },
+        std::chrono::milliseconds(kDeadlineMs));
+    return search.found;
+}
+
 std::string ProgramPath()
 {
     char path[MAX_PATH];
@@ -69,15 +95,12 @@ bool SampleProcess::IsStarted() const
 
 HWND SampleProcess::MainWindow() const
 {
-    Search search{m_process.dwProcessId, nullptr};
-    PumpUntil(
-        [&search]
-        {
-            EnumWindows(IsMainWindow, reinterpret_cast<LPARAM>(&search));
-            return search.found != nullptr;
-        },
-        std::chrono::milliseconds(kDeadlineMs));
-    return search.found;
+    return WaitForWindow(m_process.dwProcessId, IsMainWindow);
+}
+
+HWND SampleProcess::Dialog() const
+{
+    return WaitForWindow(m_process.dwProcessId, IsDialog);
 }
 
 DWORD SampleProcess::ExitCode() const

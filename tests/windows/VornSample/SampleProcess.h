@@ -22,6 +22,9 @@ public:
     /// Its main window once it is visible; null when none comes before the deadline.
     HWND MainWindow() const;
 
+    /// A dialog or message box of its, once it is visible; null when none comes before the deadline.
+    HWND Dialog() const;
+
     /// Waits for the end. 0xFFFFFFFF when it does not come before the deadline.
     DWORD ExitCode() const;
 

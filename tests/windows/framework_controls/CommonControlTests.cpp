@@ -242,6 +242,94 @@ TEST_F(ListControlTest, HitTestFindsTheItem)
     EXPECT_TRUE(flags & LVHT_ONITEM);
 }
 
+namespace
+{
+// Gives each text as "row/column" when it is asked for it, and the row whose number is typed.
+class AskingList : public CListCtrl
+{
+public:
+    int m_asked = 0;
+
+protected:
+    afx_msg void OnDisplayInfo(NMHDR* header, LRESULT* result)
+    {
+        LVITEMA& item = reinterpret_cast<NMLVDISPINFOA*>(header)->item;
+        ++m_asked;
+        if (item.mask & LVIF_TEXT)
+            lstrcpyn(item.pszText, (std::to_string(item.iItem) + '/' + std::to_string(item.iSubItem)).c_str(),
+                     item.cchTextMax);
+        *result = 0;
+    }
+
+    afx_msg void OnFindItem(NMHDR* header, LRESULT* result)
+    {
+        *result = std::atoi(reinterpret_cast<NMLVFINDITEMA*>(header)->lvfi.psz);
+    }
+
+    // Wine asks in wide characters, whatever the window's own are.
+    afx_msg void OnFindWideItem(NMHDR* header, LRESULT* result)
+    {
+        *result = _wtoi(reinterpret_cast<NMLVFINDITEMW*>(header)->lvfi.psz);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(AskingList, CListCtrl)
+ON_NOTIFY_REFLECT(LVN_GETDISPINFOA, OnDisplayInfo)
+ON_NOTIFY_REFLECT(LVN_ODFINDITEMA, OnFindItem)
+ON_NOTIFY_REFLECT(LVN_ODFINDITEMW, OnFindWideItem)
+END_MESSAGE_MAP()
+
+class OwnerDataListTest : public ControlTest
+{
+protected:
+    OwnerDataListTest()
+    {
+        m_list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA, m_rect, &m_host, kId);
+        m_list.InsertColumn(0, "Name", LVCFMT_LEFT, 80);
+        m_list.InsertColumn(1, "Value", LVCFMT_RIGHT, 50, 1);
+    }
+    AskingList m_list;
+};
+} // namespace
+
+TEST_F(OwnerDataListTest, AsksForTextsOfItemsThatItDoesNotHold)
+{
+    EXPECT_TRUE(m_list.SetItemCountEx(200000));
+    EXPECT_EQ(m_list.GetItemCount(), 200000);
+    EXPECT_EQ(m_list.GetItemText(199999, 1), "199999/1");
+    EXPECT_EQ(m_list.GetItemText(7, 0), "7/0");
+}
+
+TEST_F(OwnerDataListTest, PaintsByAskingForWhatIsShownAlone)
+{
+    m_list.SetItemCountEx(200000, 0);
+    m_list.EnsureVisible(150000, FALSE);
+    m_list.m_asked = 0;
+    m_list.Invalidate();
+    m_list.UpdateWindow();
+    EXPECT_GT(m_list.m_asked, 0);
+    EXPECT_LE(m_list.m_asked, 8 * (m_list.GetCountPerPage() + 2));
+}
+
+TEST_F(OwnerDataListTest, AsksWhichItemIsMeant)
+{
+    m_list.SetItemCountEx(1000);
+    LVFINDINFOA find{};
+    find.flags = LVFI_STRING;
+    find.psz = "321";
+    EXPECT_EQ(m_list.FindItem(&find), 321);
+}
+
+TEST_F(OwnerDataListTest, KeepsTheSelectionWhenItemsGo)
+{
+    m_list.SetItemCountEx(10);
+    m_list.SetItemState(4, LVIS_SELECTED, LVIS_SELECTED);
+    m_list.SetItemCountEx(6, LVSICF_NOSCROLL);
+    EXPECT_EQ(m_list.GetItemCount(), 6);
+    EXPECT_EQ(m_list.GetNextItem(-1, LVNI_SELECTED), 4);
+}
+
 TEST_F(ListControlTest, NotificationIsReflected)
 {
     class Reflecting : public CListCtrl

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "apps/sample/core/ReportTable.h"
+
+/// What the sample counts of its own use, in the order of its statistics file.
+enum class UsageEvent
+{
+    Start,
+    TableOpened,
+    Search,
+    Edit,
+    Deletion,
+    Pack,
+};
+
+/// Counts a use once more and saves the counters at once, in the user's folder of the sample. A folder that cannot be
+/// written costs the count and nothing else.
+void CountUse(UsageEvent event);
+
+/// The counters so far.
+vorn::ReportTable UsageTable();
