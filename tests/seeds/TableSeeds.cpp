@@ -135,13 +135,16 @@ void AddTables(Seeds& seeds)
 void AddMemos(Seeds& seeds)
 {
     const std::string one = MemoEntryBytes("one");
-    const std::string lengths =
-        EntryOfLength(7) + EntryOfLength(0xFFFFFFFF) + EntryOfLength(0x7FFFFFFF) + EntryOfLength(0x80000008);
+    std::string lengths;
+    for (const unsigned long length : {7UL, 0xFFFFFFFFUL, 0x7FFFFFFFUL, 0x80000008UL, 0x60000000UL, 2000UL})
+    {
+        lengths += EntryOfLength(length);
+    }
     seeds["tablememo/two"] = Together("", Notes({"1", "2", "", "7"}), MemoFile(one + MemoEntryBytes("two")));
     seeds["tablememo/coded"] = Together("key", CodedNotes("key"), MemoFile(CodedEntry("one", "key")));
     seeds["tablememo/long"] = Together("", Notes({"1"}), MemoFile(MemoEntryBytes(std::string(1200, 'm'))));
     seeds["tablememo/old"] = Together("", Notes({"1", "2"}), MemoFile(OldEntry("old\x1A\x1A") + OldEntry("no end")));
-    seeds["tablememo/lengths"] = Together("", Notes({"1", "2", "3", "4"}), MemoFile(lengths));
+    seeds["tablememo/lengths"] = Together("", Notes({"1", "2", "3", "4", "5", "6"}), MemoFile(lengths));
     seeds["tablememo/numbers"] = Together("", Notes({"-1", "0", "9999999999", "1x"}), MemoFile(one));
     seeds["tablememo/behind"] = Together("", Notes({"1"}) + MemoFile(MemoEntryBytes("behind")), "");
 }
