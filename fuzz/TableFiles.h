@@ -7,12 +7,16 @@
 #include <string_view>
 #include <unistd.h>
 
+#ifdef __has_feature
+#if __has_feature(address_sanitizer)
 /// Lengths in a file decide nothing before they were compared with the file's own: an allocation beyond the largest
 /// read-ahead of 16 MiB is a finding.
 extern "C" const char* __asan_default_options()
 {
     return "max_allocation_size_mb=24";
 }
+#endif
+#endif
 
 namespace vorn::fuzz
 {
