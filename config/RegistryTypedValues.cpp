@@ -16,6 +16,7 @@ BYTE* Bytes(const void* data)
 std::vector<std::string_view> TextsOf(const CStringArray& array)
 {
     std::vector<std::string_view> texts;
+    texts.reserve(static_cast<std::size_t>(array.GetSize()));
     for (INT_PTR i = 0; i < array.GetSize(); ++i)
     {
         texts.emplace_back(array[i].GetString());
@@ -62,7 +63,7 @@ bool Registry::GetStringValue(const char* name, CString& value)
 
 bool Registry::SetStringValue(const char* name, const char* value)
 {
-    return value != nullptr ? SetValue(name, TypeString, Bytes(value), static_cast<DWORD>(std::strlen(value) + 1))
+    return value != nullptr ? SetValue(name, TypeString, Bytes(value), static_cast<DWORD>(std::strlen(value)) + 1)
                             : Record(ERROR_INVALID_PARAMETER);
 }
 
