@@ -2,12 +2,13 @@
 
 #include "config/FolderNames.h"
 #include "config/IniFile.h"
+#include "frame/MappedFile.h"
 #include "frame/QuietErrors.h"
 #include "frame/core/FixedFileInfo.h"
 #include "frame/core/ProgramRules.h"
+#include "frame/core/VersionResource.h"
 
 #include <string>
-#include <vector>
 
 namespace
 {
@@ -32,16 +33,11 @@ std::string InstallationFolder(const char* pathKey)
     return folder.empty() ? std::string("C:\\Vornwald\\") : folder;
 }
 
-std::vector<std::byte> VersionResource(const std::string& file)
+std::optional<vorn::ProgramVersion> InstalledVersion(const std::string& file)
 {
     const vorn::QuietErrors quiet;
-    DWORD unused = 0;
-    std::vector<std::byte> resource(GetFileVersionInfoSizeA(file.c_str(), &unused));
-    if (resource.empty() || !GetFileVersionInfoA(file.c_str(), 0, static_cast<DWORD>(resource.size()), resource.data()))
-    {
-        return {};
-    }
-    return resource;
+    const vorn::MappedFile program(file);
+    return vorn::ProductVersion(vorn::VersionResourceOf(program.Content()));
 }
 
 /// 0 when the sibling is there in too old a version.
@@ -65,7 +61,7 @@ int GetProgramVersion(const char* product, const char* pathKey, int& major, int&
         return -1;
     }
     const auto path = vorn::ProgramPath(InstallationFolder(pathKey), file);
-    const auto version = path ? vorn::ProductVersion(VersionResource(*path)) : std::nullopt;
+    const auto version = path ? InstalledVersion(*path) : std::nullopt;
     if (!version)
     {
         return 0;

@@ -186,6 +186,49 @@ TEST_F(InstalledPrograms, WithoutUsableVersionResourceGiveZero)
     EXPECT_EQ(major, -7);
 }
 
+TEST_F(InstalledPrograms, WhoseResourceClaimsMoreThanTheFileHoldsAreReadAllTheSame)
+{
+    WritePaths("AeroluneDir=" + Root());
+    WriteProgram(Root() + kPlanner, VersionResource(9, 4));
+    for (const std::uint32_t claimed : {0x00000400u, 0x00010000u, 0x1FFFFFFFu, 0x3FFFFFFFu, 0x7FFFFFFFu, 0xFFFFFFFFu})
+    {
+        ClaimResourceSize(Root() + kPlanner, claimed);
+        EXPECT_EQ(Version("Aerolune", "AeroluneDir"), 1) << claimed;
+        EXPECT_EQ(minor, 4);
+    }
+    ClaimResourceSize(Root() + kPlanner, 91);
+    EXPECT_EQ(Version("Aerolune", "AeroluneDir"), 0);
+}
+
+TEST_F(InstalledPrograms, ThatAreOpenForWritingGiveZeroUntilTheyAreDone)
+{
+    WritePaths("AeroluneDir=" + Root());
+    WriteProgram(Root() + kPlanner, VersionResource(9, 4));
+    {
+        const std::ofstream installer(Root() + kPlanner, std::ios::app | std::ios::binary);
+        EXPECT_EQ(Version("Aerolune", "AeroluneDir"), 0);
+    }
+    EXPECT_EQ(Version("Aerolune", "AeroluneDir"), 1);
+}
+
+TEST_F(InstalledPrograms, OfARealProgramAreWhatTheSystemSays)
+{
+    const std::string library = "VornCommon.dll";
+    DWORD unused = 0;
+    std::vector<char> resource(GetFileVersionInfoSizeA(library.c_str(), &unused));
+    ASSERT_TRUE(GetFileVersionInfoA(library.c_str(), 0, static_cast<DWORD>(resource.size()), resource.data()));
+    VS_FIXEDFILEINFO* info = nullptr;
+    UINT size = 0;
+    ASSERT_TRUE(VerQueryValueA(resource.data(), "\\", reinterpret_cast<void**>(&info), &size));
+    WritePaths("AeroluneDir=" + Root());
+    std::filesystem::create_directories(Root() + "Aerolune");
+    char path[MAX_PATH] = {};
+    GetModuleFileNameA(GetModuleHandleA(library.c_str()), path, MAX_PATH);
+    ASSERT_TRUE(CopyFileA(path, (Root() + kPlanner).c_str(), FALSE));
+    EXPECT_EQ(Version("Aerolune", "AeroluneDir"), 1);
+    EXPECT_EQ(static_cast<DWORD>(major) << 16 | static_cast<DWORD>(minor), info->dwProductVersionMS);
+}
+
 TEST_F(InstalledPrograms, ThatAreNoProgramFilesGiveZero)
 {
     WritePaths("AeroluneDir=" + Root());

@@ -16,6 +16,8 @@ namespace
 {
 constexpr DWORD kFileAlignment = 0x200;
 constexpr DWORD kSectionAddress = 0x1000;
+constexpr DWORD kDirectorySize = sizeof(IMAGE_RESOURCE_DIRECTORY) + sizeof(IMAGE_RESOURCE_DIRECTORY_ENTRY);
+constexpr DWORD kDataEntry = 3 * kDirectorySize; // in the section: behind type, name and language
 
 template <class Record>
 void Append(Bytes& bytes, const Record& record)
@@ -53,14 +55,13 @@ void AppendDirectory(Bytes& bytes, DWORD id, DWORD target)
 /// The tree type, name, language, each with one entry, and the resource behind it.
 Bytes ResourceSection(const Bytes& resource)
 {
-    constexpr DWORD directorySize = sizeof(IMAGE_RESOURCE_DIRECTORY) + sizeof(IMAGE_RESOURCE_DIRECTORY_ENTRY);
     constexpr DWORD isDirectory = 0x80000000;
     Bytes bytes;
-    AppendDirectory(bytes, 16, directorySize | isDirectory); // 16: version resources
-    AppendDirectory(bytes, 1, 2 * directorySize | isDirectory);
-    AppendDirectory(bytes, 0x409, 3 * directorySize);
+    AppendDirectory(bytes, 16, kDirectorySize | isDirectory); // 16: version resources
+    AppendDirectory(bytes, 1, 2 * kDirectorySize | isDirectory);
+    AppendDirectory(bytes, 0x409, kDataEntry);
     IMAGE_RESOURCE_DATA_ENTRY data{};
-    data.OffsetToData = kSectionAddress + 3 * directorySize + sizeof data;
+    data.OffsetToData = kSectionAddress + kDataEntry + sizeof data;
     data.Size = static_cast<DWORD>(resource.size());
     Append(bytes, data);
     bytes.insert(bytes.end(), resource.begin(), resource.end());
@@ -142,6 +143,15 @@ void WriteProgram(const std::string& path, const Bytes& resource)
     ASSERT_NE(file, nullptr) << path;
     const Bytes bytes = Program(resource);
     EXPECT_EQ(std::fwrite(bytes.data(), 1, bytes.size(), file), bytes.size());
+    std::fclose(file);
+}
+
+void ClaimResourceSize(const std::string& path, std::uint32_t size)
+{
+    FILE* file = std::fopen(path.c_str(), "r+b");
+    ASSERT_NE(file, nullptr) << path;
+    std::fseek(file, kFileAlignment + kDataEntry + offsetof(IMAGE_RESOURCE_DATA_ENTRY, Size), SEEK_SET);
+    EXPECT_EQ(std::fwrite(&size, sizeof size, 1, file), 1U);
     std::fclose(file);
 }
 } // namespace vorn::test

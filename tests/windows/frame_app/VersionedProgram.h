@@ -18,4 +18,7 @@ Bytes VersionResourceWithoutFixedPart();
 /// Writes the smallest program file that the system takes for one: headers and, unless `resource` is empty, a resource
 /// section with that version resource. Folders on the path are made.
 void WriteProgram(const std::string& path, const Bytes& resource);
+
+/// Changes the size that a program written by WriteProgram() claims for its version resource.
+void ClaimResourceSize(const std::string& path, std::uint32_t size);
 } // namespace vorn::test
