@@ -137,6 +137,9 @@ private:
 /// A file's name for the library; a DbfFailure when it has characters that the system's code page has not.
 CString DbfPath(const std::string& name);
 
+/// Bytes of a file from a place on, fewer at its end.
+std::vector<std::uint8_t> DbfBytesAt(CFile& file, LONGLONG place, std::size_t count);
+
 /// The name of a table's memo file: each occurrence of the last four characters replaced, as the library does it.
 CString DbfMemoPath(const CString& table, const char* ending);
 
