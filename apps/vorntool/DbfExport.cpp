@@ -25,10 +25,10 @@ void WriteHeadings(const DbfTable& table, const std::vector<int>& fields, CsvWri
 }
 
 // @return the number of records written
-std::uint64_t WriteRecords(DbfTable& table, const std::vector<int>& fields, CsvWriter& csv, DbfOutput& output,
-                           DbfProgress& progress)
+std::int64_t WriteRecords(DbfTable& table, const std::vector<int>& fields, CsvWriter& csv, DbfOutput& output,
+                          DbfProgress& progress)
 {
-    std::uint64_t count = 0;
+    std::int64_t count = 0;
     for (; table.Held() > 0 && table.ReadNext(); ++count)
     {
         for (const int field : fields)
@@ -37,7 +37,7 @@ std::uint64_t WriteRecords(DbfTable& table, const std::vector<int>& fields, CsvW
         }
         csv.EndRow();
         output.Take(csv.Text());
-        progress.At(count, static_cast<std::uint64_t>(table.Library().CurRecIndex()));
+        progress.At(static_cast<std::uint64_t>(count), static_cast<std::uint64_t>(table.Library().CurRecIndex()));
     }
     return count;
 }
@@ -50,6 +50,15 @@ std::vector<std::string> Notes(const DbfTable& table, const std::vector<int>& fi
     {
         notes.push_back("the header counts " + std::to_string(table.Layout().records) +
                         " records, but the file ends behind " + std::to_string(table.Held()));
+    }
+    const bool hasMemos = std::any_of(fields.begin(), fields.end(),
+                                      [&](int field)
+                                      {
+                                          return table.Field(field).type == 'M';
+                                      });
+    if (hasMemos && table.Offset() == 0 && table.MemoName().empty())
+    {
+        notes.emplace_back("the table has no memo file: its memos are empty");
     }
     const auto doubtful = std::count_if(fields.begin(), fields.end(),
                                         [&](int field)
@@ -88,7 +97,7 @@ void ExportDbf(const Invocation& call, Output& output)
     DbfProgress progress(call, "export", table.Held(), printing);
     CsvWriter csv(call.Has("lf") ? "\n" : "\r\n");
     WriteHeadings(table, fields, csv);
-    const std::uint64_t count = WriteRecords(table, fields, csv, *target, progress);
+    const std::int64_t count = WriteRecords(table, fields, csv, *target, progress);
     target->Finish(csv.Text());
     progress.Done();
     for (const std::string& note : Notes(table, fields))
@@ -99,7 +108,7 @@ void ExportDbf(const Invocation& call, Output& output)
     {
         JsonWriter json;
         json.BeginObject().Name("file").Text(call.ValueOf("output", ""));
-        output.text = json.Name("records").Whole(static_cast<std::int64_t>(count)).EndObject().Line();
+        output.text = json.Name("records").Whole(count).EndObject().Line();
     }
 }
 

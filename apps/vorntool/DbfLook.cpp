@@ -70,6 +70,10 @@ void ShowDbfMemo(const Invocation& call, Output& output)
     }
     const int record = table.MakeCurrent(call.values[1]);
     const std::string& text = table.Value(field);
+    if (text.empty() && table.LacksMemos(field))
+    {
+        throw DbfFailure("the table has no memo file");
+    }
     if (call.Has("json"))
     {
         JsonWriter json;

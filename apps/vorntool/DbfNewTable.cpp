@@ -160,7 +160,7 @@ void DbfNewTable::TakePlaces()
         {
             Move(aside, m_memoPath);
         }
-        throw DbfFailure(Quoted(m_name) + " cannot be replaced");
+        throw DbfFailure(Quoted(m_name) + (Exists(m_path) ? " cannot be replaced" : " cannot be written there"));
     }
     if (m_hasMemos && !Move(m_unfinishedMemo, m_memoPath))
     {

@@ -111,6 +111,9 @@ public:
     /// Counts the deletion marks of @p count records from @p first on.
     DbfMarks Marks(std::uint32_t first, std::uint32_t count);
 
+    /// Whether a field of the current record names a memo, but there is no memo file.
+    bool LacksMemos(int field);
+
     /// The name of the memo file that the library opens beside the table; empty when there is none.
     std::string MemoName() const;
 

@@ -62,6 +62,10 @@ std::vector<int> DbfTable::FieldsFrom(const Invocation& call)
     {
         fields.push_back(FieldNamed(name));
     }
+    if (fields.empty())
+    {
+        throw DbfWrongUse("--fields names no field");
+    }
     return fields;
 }
 
@@ -152,6 +156,12 @@ DbfMarks DbfTable::Marks(std::uint32_t first, std::uint32_t count)
         }
     }
     return marks;
+}
+
+bool DbfTable::LacksMemos(int field)
+{
+    CString block = m_table.GetFieldValueRaw(m_table.GetFieldName(field));
+    return Field(field).type == 'M' && MemoName().empty() && !block.Trim(" 0").IsEmpty();
 }
 
 std::string DbfTable::MemoName() const

@@ -194,6 +194,9 @@ TEST_F(DbfCsvTool, AFolderThatIsNotThereIsNamed)
     const std::string table = m_folder.File("none\\out.dbf");
     ExpectFailure({"dbf", "import", Csv("A\n1\n"), table}, 1,
                   "vorntool dbf import: '" + table + "' cannot be written there");
+    const std::string wild = Out("new?.dbf");
+    ExpectFailure({"dbf", "import", Csv("A\n1\n"), wild}, 1,
+                  "vorntool dbf import: '" + wild + "' cannot be written there");
     const std::string csv = m_folder.File("none.csv");
     ExpectFailure({"dbf", "import", csv, Out()}, 1, "vorntool dbf import: there is no file '" + csv + "'");
     ExpectImported("A\n1\n", "1 records of A:N:1");

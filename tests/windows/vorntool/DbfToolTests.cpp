@@ -238,6 +238,19 @@ TEST_F(DbfTool, MemosArePrintedWhole)
     ExpectFailure({"dbf", "memo", Table(), "0"}, 1, "vorntool dbf memo: the table has no memo field");
 }
 
+TEST_F(DbfTool, MemosWithoutTheirFileAreNotTakenForEmptyOnes)
+{
+    const std::string table =
+        m_folder.Write("m.dbf", TableBytes({{"A", 'C', 1}, {"NOTE", 'M', 10}}, {" x         1", " y          "}));
+    ExpectFailure({"dbf", "memo", table, "0"}, 1, "vorntool dbf memo: the table has no memo file");
+    ExpectDone({"dbf", "memo", table, "1"}, "\n");
+    const ToolRun exported = RunVornTool({"dbf", "export", table});
+    EXPECT_EQ(exported.text, "A,NOTE\r\nx,\r\ny,\r\n");
+    EXPECT_EQ(exported.errors, "vorntool dbf export: the table has no memo file: its memos are empty\n");
+    ExpectDone({"dbf", "export", table, "--fields", "A"}, "A\r\nx\r\ny\r\n");
+    ExpectFailure({"dbf", "export", table, "--fields", ""}, 2, "vorntool dbf export: --fields names no field");
+}
+
 TEST_F(DbfTool, WhatIsNoTableIsRefusedWithTheReason)
 {
     const std::string missing = m_folder.File("missing.dbf");
