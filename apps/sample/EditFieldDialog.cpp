@@ -24,7 +24,7 @@ BOOL EditFieldDialog::OnInitDialog()
     caption.Format("Edit record %d", m_table.RecordOf(m_row) + 1);
     SetWindowText(caption);
     auto& fields = static_cast<CComboBox&>(*GetDlgItem(IDC_EDIT_FIELD));
-    for (const vorn::TableField& field : m_table.Fields())
+    for (const vorn::FieldFacts& field : m_table.Fields())
         fields.AddString(field.name.c_str());
     fields.SetCurSel(m_field);
     OnFieldChosen();
@@ -59,7 +59,7 @@ void EditFieldDialog::OnValueChanged()
 
 std::string EditFieldDialog::Hint(vorn::TableResult check, std::size_t typed) const
 {
-    const vorn::TableField& field = m_table.Fields()[static_cast<std::size_t>(m_field)];
+    const vorn::FieldFacts& field = m_table.Fields()[static_cast<std::size_t>(m_field)];
     std::string hint = std::to_string(typed);
     if (field.type != 'M')
         hint += " of " + std::to_string(field.length);

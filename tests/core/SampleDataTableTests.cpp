@@ -284,7 +284,7 @@ TEST_F(DataTableTest, EveryResultButDoneHasWords)
 TEST(DataTableLong, GivesTheSameRowsHoweverItIsScrolled)
 {
     const ScratchFolder folder;
-    constexpr int kRecords = 20000;
+    constexpr int kRecords = 3000;
     std::string csv = "NO:N:6,TEXT:C:20\n";
     for (int record = 0; record < kRecords; ++record)
         csv += std::to_string(record) + ",text " + std::to_string(record * 7919 % 10007) + '\n';
@@ -293,7 +293,7 @@ TEST(DataTableLong, GivesTheSameRowsHoweverItIsScrolled)
     std::vector<int> live;
     for (int record = 0; record < kRecords; ++record)
     {
-        if (record % 10 == 3 || (record > 5000 && record < 5700))
+        if (record % 10 == 3 || (record > 1000 && record < 1400))
             bytes[97 + static_cast<std::size_t>(record) * 27] = '*';
         else
             live.push_back(record);
@@ -308,11 +308,11 @@ TEST(DataTableLong, GivesTheSameRowsHoweverItIsScrolled)
         ASSERT_EQ(table.Row(row)->front(), std::to_string(live[static_cast<std::size_t>(row)]));
         ASSERT_EQ(table.RecordOf(row), live[static_cast<std::size_t>(row)]);
     };
-    for (int row = 0; row < table.RowCount(); row += 7)
+    for (int row = 0; row < table.RowCount(); row += 17)
         expectRow(row);
-    for (int row = table.RowCount() - 1; row >= 0; row -= 3)
+    for (int row = table.RowCount() - 1; row >= 0; row -= 13)
         expectRow(row);
-    for (int turn = 0; turn < 2000; ++turn)
+    for (int turn = 0; turn < 150; ++turn)
         expectRow(turn * 7919 % table.RowCount());
     EXPECT_EQ(table.FindFirst({0, std::to_string(live.back()), SearchMethod::Binary}), table.RowCount() - 1);
     EXPECT_EQ(table.FindFirst({0, std::to_string(live.back()), SearchMethod::Linear}), table.RowCount() - 1);

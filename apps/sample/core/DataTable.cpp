@@ -158,7 +158,7 @@ const std::string& DataTable::Path() const
     return m_path;
 }
 
-const std::vector<TableField>& DataTable::Fields() const
+const std::vector<FieldFacts>& DataTable::Fields() const
 {
     return m_fields;
 }
@@ -239,7 +239,7 @@ std::string DataTable::Value(int row, int field)
 int DataTable::MemoField() const
 {
     const auto memo = std::find_if(m_fields.begin(), m_fields.end(),
-                                   [](const TableField& field)
+                                   [](const FieldFacts& field)
                                    {
                                        return field.type == 'M';
                                    });

@@ -11,7 +11,7 @@
 namespace vorn
 {
 
-struct TableField
+struct FieldFacts
 {
     std::string name;
     char type = 'C';
@@ -67,7 +67,7 @@ public:
     /// Why the table is open for reading alone: InUse or Denied. Done when it is not.
     TableResult WhyReadOnly() const;
     const std::string& Path() const;
-    const std::vector<TableField>& Fields() const;
+    const std::vector<FieldFacts>& Fields() const;
     int RowCount() const;
     int DeletedCount() const;
     /// Bytes of a record.
@@ -133,7 +133,7 @@ private:
     std::string m_path;
     TableResult m_whyReadOnly = TableResult::Done;
     bool m_open = false;
-    std::vector<TableField> m_fields;
+    std::vector<FieldFacts> m_fields;
     LiveRows m_rows;
     RowCache m_cache;
     SearchTerms m_terms;

@@ -32,7 +32,7 @@ TableResult DataTable::Check(int field, const std::string& value) const
         return TableResult::NotWritten;
     if (IsReadOnly())
         return TableResult::ReadOnly;
-    const TableField& description = m_fields[static_cast<std::size_t>(field)];
+    const FieldFacts& description = m_fields[static_cast<std::size_t>(field)];
     if (description.type == 'M')
         return TableResult::Done;
     if (value.size() > static_cast<std::size_t>(description.length))
@@ -63,7 +63,7 @@ TableResult DataTable::SetValue(int row, int field, const std::string& value)
 
 std::string DataTable::FieldText(int field, const std::string& value) const
 {
-    const TableField& description = m_fields[static_cast<std::size_t>(field)];
+    const FieldFacts& description = m_fields[static_cast<std::size_t>(field)];
     if (description.type == 'M')
         return {};
     return description.type == 'N' && !value.empty() ? ToTheRight(value, description.length) : value;

@@ -56,7 +56,7 @@ vorn::ReportTable UsageTable()
     const CTime since(static_cast<__time64_t>(Statistics().GetStartDate()));
     vorn::ReportTable table{"Use of this program", "", {{"What"}, {"Times", vorn::Align::Right}}, {}};
     if (Statistics().GetStartDate() > 0)
-        table.note = ("Counted since " + since.FormatGmt("%Y-%m-%d")).GetString();
+        table.title += (" since " + since.FormatGmt("%Y-%m-%d")).GetString();
     for (const Use& use : kUses)
         table.AddRow({use.words, std::to_string(Statistics().GetStat(Counter(use.event)))});
     return table;

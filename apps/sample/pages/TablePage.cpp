@@ -53,8 +53,15 @@ bool TablePage::FillsWindow() const
 // A table that another program held may be free by now.
 void TablePage::Refresh()
 {
-    if (m_table.IsOpen() && m_table.IsReadOnly())
-        OpenTable(std::string(m_table.Path()));
+    if (!m_table.IsReadOnly())
+        return;
+    const bool searched = m_searched;
+    const int row = m_view != nullptr ? m_list.SelectedRow() : m_firstRow;
+    OpenTable(std::string(m_table.Path()));
+    m_searched = searched;
+    m_firstRow = row;
+    if (m_view != nullptr)
+        m_list.Select(row);
 }
 
 std::string TablePage::TakeOptions(const StartOptions& options)
@@ -74,7 +81,7 @@ std::string TablePage::SelectByOption(const std::string& find)
     const std::string name = find.substr(0, equal);
     const auto& fields = m_table.Fields();
     const auto field = std::find_if(fields.begin(), fields.end(),
-                                    [&name](const vorn::TableField& candidate)
+                                    [&name](const vorn::FieldFacts& candidate)
                                     {
                                         return lstrcmpi(candidate.name.c_str(), name.c_str()) == 0;
                                     });
@@ -129,7 +136,7 @@ std::string TablePage::Summary() const
 {
     auto& table = const_cast<vorn::DataTable&>(m_table); // reading moves its current record
     vorn::ReportTable report{FileNameOf(table.Path()), Note(), {{"Record", vorn::Align::Right}}, {}};
-    for (const vorn::TableField& field : table.Fields())
+    for (const vorn::FieldFacts& field : table.Fields())
         report.columns.push_back({field.name, field.type == 'N' ? vorn::Align::Right : vorn::Align::Left});
     const int first = std::max(0, m_view != nullptr ? m_list.SelectedRow() : m_firstRow);
     for (int row = first; row < std::min(first + kSummaryRows, table.RowCount()); ++row)

@@ -19,7 +19,7 @@ constexpr std::array kButtonTexts = {
     ButtonText{ID_TABLE_FIND, "&Find"},     ButtonText{ID_TABLE_NEXT, "&Next"},
 };
 
-std::string TypeName(const vorn::TableField& field)
+std::string TypeName(const vorn::FieldFacts& field)
 {
     switch (field.type)
     {
@@ -98,7 +98,7 @@ void TablePage::ShowFields()
     m_fields.DeleteAllItems();
     m_field.ResetContent();
     int index = 0;
-    for (const vorn::TableField& field : m_table.Fields())
+    for (const vorn::FieldFacts& field : m_table.Fields())
     {
         m_fields.InsertItem(index, field.name.c_str());
         m_fields.SetItemText(index, 1, TypeName(field).c_str());

@@ -67,7 +67,7 @@ void TableList::ShowTable()
 void TableList::AddColumns()
 {
     InsertColumn(0, "Record", LVCFMT_LEFT, m_theme->Px(kNumberWidth));
-    const std::vector<vorn::TableField>& fields = m_table.Fields();
+    const std::vector<vorn::FieldFacts>& fields = m_table.Fields();
     for (std::size_t index = 0; index < fields.size(); ++index)
     {
         const int field = static_cast<int>(index);
@@ -110,9 +110,14 @@ void TableList::Select(int row)
 {
     if (row < 0 || row >= m_table.RowCount())
         return;
+    ScrollTo(row);
     SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     SetSelectionMark(row);
-    // A row out of sight comes into the middle.
+}
+
+// A row out of sight comes into the middle.
+void TableList::ScrollTo(int row)
+{
     const int page = GetCountPerPage();
     const int top = GetTopIndex();
     if (row < top)

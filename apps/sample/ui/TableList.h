@@ -39,6 +39,7 @@ protected:
 
 private:
     void AddColumns();
+    void ScrollTo(int row);
     int WidthFor(int field);
 
     vorn::DataTable& m_table;
