@@ -29,7 +29,7 @@ const std::tm* LocalNow(std::tm& parts)
 std::vector<char> NewHead(const TableState& state)
 {
     std::tm parts{};
-    return vorn::MakeHead(state.layout.fields, LocalNow(parts));
+    return state.layout.baseOffset == 0 ? vorn::MakeHead(state.layout.fields, LocalNow(parts)) : std::vector<char>();
 }
 
 bool WriteNewTable(const CString& name, const std::vector<char>& head)

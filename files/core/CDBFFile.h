@@ -50,8 +50,8 @@ public:
 
     /// Makes an empty table of the fields added before and leaves it open for reading and writing, without a memo
     /// file. An existing file is replaced, in one step.
-    /// @return 0 when the file cannot be made, and when a record or the header would have more than 32,767 bytes; the
-    /// added fields then stay.
+    /// @return 0 when the file cannot be made, with a base offset, and when a record or the header would have more than
+    /// 32,767 bytes; the added fields then stay.
     int Create(const char* name);
 
     /// Adds a field to those that Create() makes.
@@ -101,8 +101,9 @@ public:
     CString GetFieldValueRaw(const char* name);
 
     /// Sets a field of the record buffer, which begins as blanks before the first record is read: blanks, then the
-    /// value over them. A longer value goes on into the next fields, up to the record's end. Nothing is written; see
-    /// WriteRecord(). A null value sets blanks.
+    /// value over them, on the left. A longer value goes on into the next fields, up to the record's end. Nothing is
+    /// written; see WriteRecord(). A null value sets blanks. In an 'N' field blanks behind a number read as zeros: pass
+    /// it with the blanks in front that fill the field.
     void SetFieldValue(int field, const char* value);
     void SetFieldValue(const char* name, const char* value);
     void SetFieldValue(const char* name, long value);

@@ -165,6 +165,15 @@ TEST_P(TableWrite, Create_RefusesWhatCannotBeAndKeepsTheFields)
     EXPECT_FALSE(std::filesystem::exists(m_folder.Path() / "u.dbf.tmp"));
 }
 
+TEST_P(TableWrite, Create_WithABaseOffsetTouchesNothing)
+{
+    const std::string container = m_folder.Write("c.bin", "####" + Small().Bytes());
+    m_table.SetBaseOffset(4);
+    m_table.AddNewField("A", 'C', 3);
+    EXPECT_EQ(m_table.Create(container.c_str()), 0);
+    EXPECT_EQ(Bytes("c.bin"), "####" + Small().Bytes());
+}
+
 TEST_P(TableWrite, AddNewField_CountsBeforeTheTableIsMade)
 {
     m_table.AddNewField("A", 'C', 3);
