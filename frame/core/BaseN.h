@@ -14,7 +14,8 @@ VORNCOMMON_API unsigned long long FromBaseN(const char* digits, int base);
 VORNCOMMON_API CString ToBaseN(unsigned long long value, int base);
 
 /// Bytes as digits of a base that is a power of two, the lowest bits of the first byte first: 0x01 in base 16 is "10".
-/// Left-over bits make a last digit. Empty for any other base, null or a count below 1.
+/// Left-over bits make a last digit. Empty for any other base, null, a count below 1, and more than 2^31 - 1
+/// digits.
 VORNCOMMON_API CString ToBaseN(unsigned char* bytes, int count, int base);
 
 /// Takes base-64 digits apart again, least significant bits first, into at most `size` bytes; ends at the first

@@ -139,9 +139,11 @@ int BitsPerDigit(int base)
 std::string EncodeBytes(std::span<const unsigned char> bytes, int base)
 {
     const auto bits = static_cast<unsigned>(BitsPerDigit(base));
-    if (bits == 0 || bytes.empty())
+    if (bits == 0)
         return {};
     const std::uint64_t length = (static_cast<std::uint64_t>(bytes.size()) * kBitsPerByte + bits - 1) / bits;
+    if (length == 0 || length > kMostDigits)
+        return {};
     std::string digits(static_cast<std::size_t>(length), '0');
     char* out = digits.data();
     if (bits == kBitsPerLargestDigit)

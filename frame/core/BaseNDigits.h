@@ -17,6 +17,9 @@ static_assert(kBaseNDigits.size() == 64);
 inline constexpr int kSmallestBase = 2;
 inline constexpr int kLargestBase = 64;
 
+/// Most digits that bytes are written as: as long as a string may be.
+inline constexpr std::size_t kMostDigits = 0x7FFFFFFF;
+
 /// Value of a character that is no digit.
 inline constexpr std::uint8_t kNoDigit = 255;
 
@@ -41,7 +44,8 @@ std::string EncodeNumber(std::uint64_t value, int base);
 int BitsPerDigit(int base);
 
 /// Bytes as digits, least significant bit first: the lowest bits of the first byte make the first digit, and what is
-/// left at the end makes a last digit with zeros above. Empty when `base` is no power of two from 2 to 64.
+/// left at the end makes a last digit with zeros above. Empty when `base` is no power of two from 2 to 64, and when
+/// that would be more than `kMostDigits`.
 std::string EncodeBytes(std::span<const unsigned char> bytes, int base);
 
 /// Takes base-64 digits apart again, 6 bits each, least significant first, until `bytes` is full, the digits end, or a

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <new>
 
 // A plain chain without a destructor: static objects that hold an array may outlive everything here.
 
@@ -32,9 +33,12 @@ SharedArray* Find(const char* array)
     return entry;
 }
 
-void Enter(const char* array)
+bool Enter(const char* array)
 {
-    g_first = std::make_unique<SharedArray>(SharedArray{array, 2, g_first}).release(); // the chain owns its entries
+    SharedArray* const entry = new (std::nothrow) SharedArray{array, 2, g_first}; // the chain owns its entries
+    if (entry != nullptr)
+        g_first = entry;
+    return entry != nullptr;
 }
 
 /// The first entry takes the place of the one that goes.
@@ -48,16 +52,16 @@ void Drop(SharedArray* entry)
 
 } // namespace
 
-void AddHolder(const char* array)
+bool AddHolder(const char* array)
 {
     if (array == nullptr)
-        return;
+        return true;
     const std::lock_guard lock(g_lock);
     SharedArray* const entry = Find(array);
-    if (entry != nullptr)
-        ++entry->holders;
-    else
-        Enter(array);
+    if (entry == nullptr)
+        return Enter(array);
+    ++entry->holders;
+    return true;
 }
 
 bool RemoveHolder(const char* array)

@@ -73,9 +73,8 @@ StringBuffer& StringBuffer::operator=(const char* text)
 
 StringBuffer& StringBuffer::operator=(const StringBuffer& other)
 {
-    if (m_text == other.m_text)
+    if (m_text == other.m_text || !vorn::AddHolder(other.m_text))
         return *this;
-    vorn::AddHolder(other.m_text);
     vorn::RemoveHolder(m_text);
     m_text = other.m_text;
     return *this;

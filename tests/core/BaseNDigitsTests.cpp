@@ -142,6 +142,15 @@ TEST(EncodeBytes, GivesNothingForOtherBasesOrNoBytes)
     EXPECT_EQ(Encoded("", 16), "");
 }
 
+TEST(EncodeBytes, GivesNothingWhereAStringCouldNotHoldTheDigits)
+{
+    // Only the number of bytes is looked at: 2^28 bytes make 2^31 digits of base 2, 2^29 bytes make 2^32.
+    const unsigned char first = 0;
+    for (const std::size_t size : {std::size_t{1} << 28, std::size_t{1} << 29, std::size_t{INT32_MAX}})
+        EXPECT_EQ(EncodeBytes({&first, size}, 2), "") << size;
+    EXPECT_EQ(EncodeBytes({&first, std::size_t{1} << 29}, 4), "");
+}
+
 TEST(DecodeBytes, InvertsTheBase64Encoder)
 {
     std::string bytes;
