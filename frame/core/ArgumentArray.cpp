@@ -9,16 +9,16 @@
 namespace vorn
 {
 
-void AppendArgument(int& argc, char**& argv, std::string_view argument)
+void AppendArgument(int& argc, char**& argv, std::string_view argument, std::size_t room)
 {
-    auto copy = std::make_unique<char[]>(argument.size() + 1);
+    auto copy = std::make_unique<char[]>(std::max(argument.size() + 1, room));
     argument.copy(copy.get(), argument.size());
     if (argc % kArgumentStep == 0)
     {
-        auto room = std::make_unique<char*[]>(static_cast<std::size_t>(argc) + kArgumentStep);
-        std::copy_n(argv, argc, room.get());
+        auto pointers = std::make_unique<char*[]>(static_cast<std::size_t>(argc) + kArgumentStep);
+        std::copy_n(argv, argc, pointers.get());
         const std::unique_ptr<char*[]> old(argv);
-        argv = room.release();
+        argv = pointers.release();
     }
     argv[argc++] = copy.release();
 }
@@ -28,7 +28,7 @@ void MakeArguments(std::string_view line, const char* program, int& argc, char**
     argc = 0;
     argv = std::make_unique<char*[]>(kArgumentStep).release();
     if (program != nullptr)
-        AppendArgument(argc, argv, program);
+        AppendArgument(argc, argv, program, kProgramRoom);
     ForEachArgument(line,
                     [&](std::string_view argument)
                     {

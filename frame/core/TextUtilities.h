@@ -41,7 +41,7 @@ VORNCOMMON_API void FreeObjects(CPtrArray* objects);
 
 /// Splits a command line at blanks and tabs into newly made arguments. An argument in double quotes may hold them;
 /// there is no way to write a quote inside. With `includeProgram` the first argument is the running program's file
-/// name. Release with CleanupCommandLine(); `argv` has no null at its end.
+/// name, in an array of 261 characters. Release with CleanupCommandLine(); `argv` has no null at its end.
 VORNCOMMON_API void ProcessCommandLine(const char* commandLine, int& argc, char**& argv, bool includeProgram);
 
 /// Releases every argument and the array; null is ignored.

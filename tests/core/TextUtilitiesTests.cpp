@@ -186,6 +186,16 @@ TEST(MakeArguments, CopiesEachArgument)
     EXPECT_EQ(ArgumentsOf("", "p"), (Texts{"p"}));
 }
 
+TEST(MakeArguments, TheProgramsNameHasRoomForTheLongestPath)
+{
+    int argc = 0;
+    char** argv = nullptr;
+    vorn::MakeArguments("a", "p", argc, argv);
+    ASSERT_EQ(argc, 2);
+    EXPECT_EQ(std::count(argv[0] + 1, argv[0] + 261, '\0'), 260) << "zeros behind the name";
+    CleanupCommandLine(argc, argv);
+}
+
 TEST(MakeArguments, OfNothingStillMakesAnArray)
 {
     int argc = 5;
