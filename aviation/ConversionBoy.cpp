@@ -1,21 +1,11 @@
 #include "aviation/ConversionBoy.h"
 
 #include "config/AppRegMgr.h"
+#include "frame/core/StringViews.h"
 
-#include <string>
 #include <type_traits>
 
 static_assert(sizeof(ConversionBoy) == 7 * sizeof(int) && std::is_trivially_copyable_v<ConversionBoy>);
-
-namespace
-{
-
-CString ToCString(const std::string& text)
-{
-    return CString(text.data(), static_cast<int>(text.size()));
-}
-
-} // namespace
 
 ConversionBoy::ConversionBoy()
 {
@@ -51,14 +41,14 @@ double ConversionBoy::Value(double value, UNITTYPE t, int precision, UNIT from, 
 CString ConversionBoy::Str(double value, UNITTYPE t, int precision, UNIT from, UNIT to, double density)
 {
     const double converted = InternalValue(value, t, precision, from, to, density);
-    return ToCString(vorn::DecimalText(converted, precision).append(" ").append(vorn::UnitDisplayName(to)));
+    return vorn::ToCString(vorn::DecimalText(converted, precision).append(" ").append(vorn::UnitDisplayName(to)));
 }
 
 void ConversionBoy::Str(double value, UNITTYPE t, CString& number, CString& unit, int precision, UNIT from, UNIT to,
                         double density)
 {
     const double converted = InternalValue(value, t, precision, from, to, density);
-    number = ToCString(vorn::DecimalText(converted, precision));
+    number = vorn::ToCString(vorn::DecimalText(converted, precision));
     unit = vorn::UnitDisplayName(to);
 }
 

@@ -66,5 +66,5 @@ unsigned long Date::GetNavTextColor()
 
 unsigned long Date::GetTCTextColor()
 {
-    return isLate() ? vorn::kLateColor : GetNavTextColor();
+    return vorn::TerminalTextColor(isLate(), isExpired());
 }

@@ -4,6 +4,7 @@
 #include "config/SettingsSource.h"
 #include "config/core/NumberText.h"
 #include "config/core/SettingsKey.h"
+#include "frame/core/StringViews.h"
 
 #include <cstring>
 
@@ -20,11 +21,6 @@ std::span<const BYTE> NumberBytes(const DWORD& value)
 std::span<const BYTE> TextBytes(const char* text)
 {
     return {reinterpret_cast<const BYTE*>(text), std::strlen(text) + 1};
-}
-
-CString ToCString(const std::string& text)
-{
-    return {text.data(), static_cast<int>(text.size())};
 }
 } // namespace
 
@@ -107,7 +103,7 @@ CString AppRegData::ReadString(SettingsRoot root, const char* section, const cha
         m_source->keys.Query(root, section, key, value);
         if (value.IsThere())
         {
-            return ToCString(vorn::StoredAsText(value.type, value.Bytes()));
+            return vorn::ToCString(vorn::StoredAsText(value.type, value.Bytes()));
         }
         if (const std::string* entry = FindIniEntry(section, key))
         {
@@ -115,7 +111,7 @@ CString AppRegData::ReadString(SettingsRoot root, const char* section, const cha
             {
                 WriteString(root, section, key, entry->c_str());
             }
-            return ToCString(*entry);
+            return vorn::ToCString(*entry);
         }
     }
     return {defaultValue};

@@ -10,7 +10,10 @@
 
 namespace
 {
-constexpr int kShortToken = 15; // characters; no token of the font is longer
+/// Characters of a token that is raised without memory of its own.
+constexpr int kShortToken = 15;
+static_assert(kShortToken >= vorn::kLongestGlyphToken);
+
 constexpr const char* kHost = nullptr;
 } // namespace
 
@@ -59,7 +62,7 @@ CString VornCommonApp::GetVornGlyph(CString token)
     }
     if (token.GetLength() > kShortToken)
     {
-        return m_glyphs[token.MakeUpper()];
+        return m_glyphs[token.MakeUpper()]; // unknown, and remembered
     }
     // Called for every label drawn: raised in place, the caller's text would have to be copied first.
     char raised[kShortToken + 1];

@@ -1,7 +1,8 @@
 #include "aviation/core/UnitConversion.h"
 
+#include "aviation/core/NumberText.h"
+
 #include <algorithm>
-#include <cstdio>
 
 namespace vorn
 {
@@ -10,7 +11,7 @@ namespace
 {
 
 constexpr double kReferenceDensity = 6.0;
-constexpr int kMostDecimals = 1000;
+constexpr int kMostUnitDecimals = 1000;
 
 // The unit that the applications hold a kind of quantity in, and the decimals they show it with.
 struct KindRule
@@ -148,16 +149,7 @@ double InternalValue(const UnitChoices& choices, double value, UNITTYPE kind, in
 
 std::string DecimalText(double value, int precision)
 {
-    const int decimals = std::min(precision, kMostDecimals);
-    char buffer[64] = "";
-    const int length = std::snprintf(buffer, sizeof buffer, "%.*f", decimals, value);
-    if (length < static_cast<int>(sizeof buffer))
-    {
-        return std::string(buffer);
-    }
-    std::string text(static_cast<std::size_t>(length), '\0');
-    std::snprintf(text.data(), text.size() + 1, "%.*f", decimals, value);
-    return text;
+    return FixedText(value, std::clamp(precision, -1, kMostUnitDecimals));
 }
 
 } // namespace vorn

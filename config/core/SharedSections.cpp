@@ -7,11 +7,6 @@
 
 namespace vorn
 {
-void SharedSections::Clear()
-{
-    m_names.clear();
-}
-
 void SharedSections::Add(std::string section)
 {
     m_names.push_back(std::move(section));

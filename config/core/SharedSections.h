@@ -13,9 +13,6 @@ namespace vorn
 class SharedSections
 {
 public:
-    /// Forgets every listed section.
-    void Clear();
-
     /// Lists a section as machine-wide.
     void Add(std::string section);
 

@@ -121,11 +121,3 @@ TEST(SettingsKeyList, OfNothingIsEmpty)
     EXPECT_TRUE(FromValues({}).Names().empty());
     EXPECT_TRUE(FromValues({}).Holds("Anything"));
 }
-
-TEST(SettingsKeyList, ForgetsItsSectionsWhenCleared)
-{
-    SharedSections sections = Listed("Network");
-    EXPECT_FALSE(sections.Holds("Paths"));
-    sections.Clear();
-    EXPECT_TRUE(sections.Holds("Paths"));
-}

@@ -1,4 +1,4 @@
-#include "tests/windows/texts/ImportRedirect.h"
+#include "tests/support/ImportRedirect.h"
 
 #include <cstring>
 

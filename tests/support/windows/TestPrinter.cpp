@@ -1,4 +1,4 @@
-#include "tests/windows/framework_frame/TestPrinter.h"
+#include "tests/support/TestPrinter.h"
 
 #include <winspool.h>
 

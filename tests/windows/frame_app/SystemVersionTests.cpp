@@ -1,4 +1,5 @@
 #include "frame/SystemVersion.h"
+#include "tests/support/ImportRedirect.h"
 
 #include <gtest/gtest.h>
 
@@ -6,10 +7,21 @@
 
 #include <fstream>
 
+using namespace vorn::test;
+
 namespace
 {
 HRESULT g_answer = S_OK;
 DLLVERSIONINFO g_asked;
+
+OSVERSIONINFOA g_system;
+
+BOOL WINAPI AnswerVersion(OSVERSIONINFOA* version)
+{
+    EXPECT_EQ(version->dwOSVersionInfoSize, sizeof *version);
+    *version = g_system;
+    return TRUE;
+}
 
 std::string OwnName()
 {
@@ -81,17 +93,42 @@ TEST(LibraryVersion, IsZeroForAFileThatIsNoLibrary)
 
 TEST(LibraryVersion, LeavesTheLibraryFreed)
 {
-    ASSERT_EQ(GetModuleHandleA("mlang.dll"), nullptr);
-    GetDllVersion("mlang.dll");
-    EXPECT_EQ(GetModuleHandleA("mlang.dll"), nullptr);
+    ASSERT_EQ(GetModuleHandleA("msi.dll"), nullptr);
+    EXPECT_NE(GetDllVersion("msi.dll"), 0u);
+    EXPECT_EQ(GetModuleHandleA("msi.dll"), nullptr);
+    ASSERT_EQ(GetModuleHandleA("dinput.dll"), nullptr);
+    EXPECT_EQ(GetDllVersion("dinput.dll"), 0u) << "a library that does not say";
+    EXPECT_EQ(GetModuleHandleA("dinput.dll"), nullptr);
 }
 
 TEST(SystemVersion, IsThatOfTheSystemsRecord)
 {
-    OSVERSIONINFOA record{};
-    record.dwOSVersionInfoSize = sizeof record;
-    ASSERT_TRUE(GetVersionExA(&record));
-    EXPECT_EQ(IsNT(), record.dwPlatformId == 2);
-    const DWORD version = record.dwMajorVersion * 1000 + record.dwMinorVersion;
-    EXPECT_EQ(IsWindows7OrLater(), version > 6000);
+    const ImportRedirect redirect("VornCommon.dll", "GetVersionExA", reinterpret_cast<const void*>(&AnswerVersion));
+    ASSERT_TRUE(redirect.IsActive());
+    const auto isNT = [](DWORD platform)
+    {
+        g_system = {sizeof g_system, 5, 1, 0, platform, {}};
+        return IsNT();
+    };
+    EXPECT_FALSE(isNT(0));
+    EXPECT_FALSE(isNT(1));
+    EXPECT_TRUE(isNT(2));
+    EXPECT_FALSE(isNT(3));
+    const auto isSeven = [](DWORD major, DWORD minor)
+    {
+        g_system = {sizeof g_system, major, minor, 0, 2, {}};
+        return IsWindows7OrLater();
+    };
+    EXPECT_FALSE(isSeven(4, 10));
+    EXPECT_FALSE(isSeven(5, 2));
+    EXPECT_FALSE(isSeven(6, 0));
+    EXPECT_TRUE(isSeven(6, 1));
+    EXPECT_TRUE(isSeven(6, 2));
+    EXPECT_TRUE(isSeven(7, 0));
+    EXPECT_TRUE(isSeven(10, 0));
+}
+
+TEST(SystemVersion, OfEverySystemThatThisRunsOnIsNT)
+{
+    EXPECT_TRUE(IsNT());
 }

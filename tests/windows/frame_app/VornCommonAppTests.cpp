@@ -1,7 +1,9 @@
 #include "aviation/ConversionBoy.h"
 #include "config/AppRegMgr.h"
 #include "frame/VornCommonApp.h"
+#include "framework/include/afxdlgs.h"
 #include "framework/include/afxwin.h"
+#include "tests/support/TestPrinter.h"
 #include "tests/support/VirtualSlot.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +19,17 @@ class HostApp : public CWinApp, public VornCommonApp
 {
 public:
     explicit HostApp(const char* name) : CWinApp(name)
+    {
+    }
+};
+
+class PlainView : public CView
+{
+public:
+    PlainView() = default;
+
+protected:
+    void OnDraw(CDC*) override
     {
     }
 };
@@ -150,16 +163,18 @@ TEST_F(RegisteredHost, PreparesNoPrintingWithoutAView)
 
 TEST_F(RegisteredHost, LeavesThePreparationOfPrintingToTheView)
 {
-    class PlainView : public CView
-    {
-    public:
-        PlainView() = default;
+    const TestPrinter printer;
+    ASSERT_TRUE(printer.Works());
+    PlainView view;
+    CPrintInfo job;
+    job.m_bDirect = TRUE; // the default printer, without asking
+    EXPECT_TRUE(App().OnPreparePrinting(&view, &job));
+    EXPECT_NE(job.m_pPD->m_pd.hDC, nullptr);
+}
 
-    protected:
-        void OnDraw(CDC*) override
-        {
-        }
-    } view;
+TEST_F(RegisteredHost, PreparesNoPrintingWhereTheViewFails)
+{
+    PlainView view;
     EXPECT_FALSE(App().OnPreparePrinting(&view, nullptr)); // a view prepares nothing without a job
 }
 
@@ -186,6 +201,29 @@ TEST_F(RegisteredHost, DrawsNothingForUnknownTokens)
         EXPECT_STREQ(App().GetVornGlyph(CString('k', 5000)), "");
     }
     EXPECT_STREQ(App().GetVornGlyph("NM"), "\xC0");
+}
+
+TEST_F(RegisteredHost, DrawsEveryTokenOfTheTable)
+{
+    // The table of the font, code by code from B0 and from C0 on.
+    const char* const upper[] = {"NM",  "SM", "KM",   "FT", "M",  "KTS", "MPH",  "KPH", "MPS", "GAL", "L",
+                                 "LBS", "KG", "IN",   "YD", "CM", "MM",  "CRS",  "BRG", "TRK", "DTK", "MSL",
+                                 "AGL", "FL", "/MIN", "<-", "->", "UP",  "DOWN", "ETE", "ETA", "AM",  "PM"};
+    for (std::size_t i = 0; i < std::size(upper); ++i)
+    {
+        EXPECT_EQ(App().GetVornGlyph(upper[i]), CString(static_cast<char>(0xC0 + i))) << upper[i];
+    }
+    EXPECT_EQ(App().GetVornGlyph("deg"), CString('\xB0'));
+    EXPECT_EQ(App().GetVornGlyph("vfrwp"), CString('\xB1'));
+    EXPECT_EQ(App().GetVornGlyph("left"), "l");
+    EXPECT_EQ(App().GetVornGlyph("right"), "r");
+    EXPECT_EQ(App().GetVornGlyph("vorn"), "B");
+    EXPECT_EQ(App().GetVornGlyph("north"), "n");
+    EXPECT_EQ(App().GetVornGlyph("reg"), "R");
+    for (const char c : std::string(":()-.0123456789<>="))
+    {
+        EXPECT_EQ(App().GetVornGlyph(CString(c)), CString(c)) << c;
+    }
 }
 
 TEST_F(RegisteredHost, LeavesTheCallersTokenAlone)

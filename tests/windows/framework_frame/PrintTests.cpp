@@ -2,7 +2,7 @@
 
 #include "framework/dialog/CPrintDialog.h"
 #include "tests/support/DialogDriver.h"
-#include "tests/windows/framework_frame/TestPrinter.h"
+#include "tests/support/TestPrinter.h"
 
 #include <string>
 

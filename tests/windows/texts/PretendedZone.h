@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/windows/texts/ImportRedirect.h"
+#include "tests/support/ImportRedirect.h"
 
 namespace vorn::test
 {
