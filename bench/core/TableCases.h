@@ -1,7 +1,7 @@
 #pragma once
 
+#include "bench/PairedTimer.h"
 #include "bench/core/BenchTable.h"
-#include "bench/windows/PairedTimer.h"
 #include "files/core/CDBFFile.h"
 
 namespace vorn::bench

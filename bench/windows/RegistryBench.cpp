@@ -1,4 +1,4 @@
-#include "bench/windows/PairedTimer.h"
+#include "bench/PairedTimer.h"
 #include "config/Registry.h"
 
 #include <array>

@@ -1,4 +1,4 @@
-#include "bench/windows/PairedTimer.h"
+#include "bench/PairedTimer.h"
 #include "files/core/CFileFindInExtSet.h"
 #include "frame/CriticalSectionLock.h"
 #include "frame/Win32CriticalSection.h"

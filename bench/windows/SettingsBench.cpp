@@ -1,5 +1,5 @@
+#include "bench/PairedTimer.h"
 #include "bench/windows/OldFile.h"
-#include "bench/windows/PairedTimer.h"
 #include "config/AppRegData.h"
 
 #include <windows.h>

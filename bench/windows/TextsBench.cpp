@@ -1,6 +1,6 @@
 #include "aviation/Date.h"
 #include "aviation/Formatting.h"
-#include "bench/windows/PairedTimer.h"
+#include "bench/PairedTimer.h"
 #include "config/AppRegMgr.h"
 #include "config/PathMgr.h"
 #include "frame/VornCommonApp.h"
