@@ -100,17 +100,24 @@ int CDBFFile::Open(const char* name, int mode)
 
 int CDBFFile::Create(const char* name)
 {
-    return NoThrow(0,
-                   [&]
-                   {
-                       const std::vector<char> head = NewHead(*m_state);
-                       m_state->CloseFiles();
-                       m_state->reader.Start();
-                       return name != nullptr && WriteNewTable(name, head) &&
-                                      OpenTable(*m_state, name, CFile::modeReadWrite)
-                                  ? 1
-                                  : 0;
-                   });
+    const bool isMade = NoThrow(false,
+                                [&]
+                                {
+                                    const std::vector<char> head = NewHead(*m_state);
+                                    m_state->CloseFiles();
+                                    m_state->reader.Start();
+                                    return name != nullptr && WriteNewTable(name, head);
+                                });
+    if (!isMade)
+        return 0;
+    const bool isOpen = NoThrow(false,
+                                [&]
+                                {
+                                    return OpenTable(*m_state, name, CFile::modeReadWrite);
+                                });
+    if (!isOpen)
+        Close();
+    return isOpen ? 1 : 0;
 }
 
 void CDBFFile::AddNewField(const char* name, char type, int length)

@@ -18,20 +18,28 @@ std::size_t TextSize(const char* bytes, const TableField& field)
     return vorn::TrimmedLength(bytes, static_cast<std::size_t>(field.size));
 }
 
-// Numbers, memos, fields that do not exist, and texts that need a new block.
+// Numbers, fields that do not exist, and texts that need a new block.
+void AssignText(CString& out, TableState& state, int field)
+{
+    vorn::FieldScratch scratch;
+    const std::string_view text = state.TextOf(field, scratch);
+    const bool isPlain = state.PlainField(field) != nullptr;
+    const std::size_t room = isPlain ? static_cast<std::size_t>(state.Field(field).size) : text.size();
+    vorn::AssignText(out, text.data(), text.size(), room);
+}
+
 [[gnu::noinline]] void AssignOther(CString& out, TableState& state, int field)
 {
-    const bool isAssigned = NoThrow(false,
-                                    [&]
-                                    {
-                                        vorn::FieldScratch scratch;
-                                        const std::string_view text = state.TextOf(field, scratch);
-                                        const bool isPlain = state.PlainField(field) != nullptr;
-                                        const std::size_t room =
-                                            isPlain ? static_cast<std::size_t>(state.Field(field).size) : text.size();
-                                        vorn::AssignText(out, text.data(), text.size(), room);
-                                        return true;
-                                    });
+    const bool isAssigned =
+        NoThrow(false,
+                [&]
+                {
+                    if (state.reader.Record() != nullptr && state.IsField(field) && state.Field(field).type == 'M')
+                        state.ReadMemoOf(state.Field(field), state.reader.Record(), out);
+                    else
+                        AssignText(out, state, field);
+                    return true;
+                });
     if (!isAssigned)
         out.Empty();
 }

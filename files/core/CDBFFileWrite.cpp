@@ -7,7 +7,6 @@
 #include <algorithm>
 
 using vorn::NoThrow;
-using vorn::TableLayout;
 using vorn::TableState;
 
 namespace

@@ -32,7 +32,7 @@ bool ReadHeadFrom(TableFile& file, TableLayout& layout)
     std::copy_n(header, kHeaderSize, head.begin());
     const int rest =
         file.ReadAt(LONGLONG{layout.baseOffset} + kHeaderSize, head.data() + kHeaderSize, length - kHeaderSize);
-    return rest >= 0 && ReadLayout(std::move(head), static_cast<std::size_t>(kHeaderSize + rest), layout);
+    return rest >= 0 && ReadLayout(std::move(head), std::size_t{kHeaderSize} + static_cast<std::size_t>(rest), layout);
 }
 
 int ReadFrom(CFile& file, LONGLONG position, char* bytes, int count)
@@ -109,10 +109,10 @@ void TableState::ForgetTable()
     reader.Start();
 }
 
-void TableState::ReadMemoOf(const TableField& field, CString& text)
+void TableState::ReadMemoOf(const TableField& field, const char* record, CString& text)
 {
     text.Empty();
-    const std::string_view number(reader.Record() + field.start, static_cast<std::size_t>(field.size));
+    const std::string_view number(record + field.start, static_cast<std::size_t>(field.size));
     if (HasMemo())
         ReadMemo(MemoFileSource(memo), MemoBlockNumber(number), key, text);
     else if (layout.baseOffset != 0)
@@ -130,7 +130,7 @@ std::string_view TableState::TextOf(const TableField& field, const char* record,
             return {}; // outside the record
         return {scratch.digits.data(), NumericDigits({bytes, size}, scratch.digits.data())};
     case 'M':
-        ReadMemoOf(field, scratch.memo);
+        ReadMemoOf(field, record, scratch.memo);
         return {scratch.memo.GetString(), static_cast<std::size_t>(scratch.memo.GetLength())};
     default:
         return {bytes, TrimmedLength(bytes, size)};

@@ -67,8 +67,8 @@ struct TableState
     /// No fields, no records.
     void ForgetTable();
 
-    /// The memo whose number stands in a field of the current record.
-    void ReadMemoOf(const TableField& field, CString& text);
+    /// The memo whose number stands in a field of a record.
+    void ReadMemoOf(const TableField& field, const char* record, CString& text);
     /// A field of a record as text, in the record or in `scratch`. The record has kTrimMargin bytes in front.
     std::string_view TextOf(const TableField& field, const char* record, FieldScratch& scratch);
     /// The same of the current record; empty for a field that does not exist.

@@ -290,6 +290,23 @@ TEST_P(TableWrite, WriteRecord_GoesWhereTheFileWasMoved)
     EXPECT_EQ(Records(), " 1st 1 two 2 tri 3 for 4 two 2");
 }
 
+TEST_P(TableWrite, Fp_WhatIsWrittenThroughItIsReadNext)
+{
+    OpenSmall();
+    CFile* file = m_table.FP();
+    ASSERT_EQ(m_table.ReadRecord(0), 1);
+    file->Seek(kSmallHead + kSmallRecord + 1, CFile::begin);
+    file->Write("T", 1);
+    EXPECT_EQ(m_table.ReadRecord(-1), 1);
+    EXPECT_STREQ(m_table.GetFieldValue("A"), "Two");
+    file->SetLength(kSmallHead + 2 * kSmallRecord);
+    EXPECT_EQ(m_table.ReadRecord(-1), 0) << "nothing is left there";
+    file->Close();
+    EXPECT_EQ(m_table.ReadRecord(0), 0);
+    EXPECT_EQ(m_table.WriteRecord(nullptr), 0);
+    EXPECT_EQ(Records(), " one 1 Two 2");
+}
+
 TEST_P(TableWrite, WriteRecord_ToAnotherFileGoesToItsPosition)
 {
     OpenSmall();
