@@ -68,6 +68,7 @@ BOOL CFileFind::FindFile(LPCSTR pstrName, DWORD)
     }
     m_pNextInfo = found.release(); // owned by the search, freed in Close()
     m_strRoot = RootOf(pattern);
+    m_isFolderNamed = !FolderOf(pattern).IsEmpty();
     return TRUE;
 }
 
@@ -123,7 +124,7 @@ CString CFileFind::GetFileURL() const
 
 CString CFileFind::GetRoot() const
 {
-    return m_strRoot;
+    return m_isFolderNamed ? m_strRoot : CString();
 }
 
 ULONGLONG CFileFind::GetLength() const

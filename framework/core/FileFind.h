@@ -34,8 +34,9 @@ class HOSTFRAMEWORK_API CFileFind : public CObject
     CString GetFileTitle() const; ///< "NAME"
     CString GetFilePath() const;  ///< Folder and name.
     CString GetFileURL() const;   ///< The path as a "file://" address.
-    CString GetRoot() const;      ///< Full path of the folder searched, with its last separator.
-    ULONGLONG GetLength() const;  ///< Bytes.
+    /// Full path of the folder searched, with its last separator; empty when the search's path named no folder.
+    CString GetRoot() const;
+    ULONGLONG GetLength() const; ///< Bytes.
 
     /// "." and "..".
     BOOL IsDots() const;
@@ -67,4 +68,7 @@ protected:
     CString m_strRoot;
 
     virtual void CloseContext();
+
+private:
+    bool m_isFolderNamed = false;
 };

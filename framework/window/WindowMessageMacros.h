@@ -196,7 +196,9 @@ inline constexpr UINT AFX_WM_CTLCOLOR = 0x0019;
 #define ON_WM_WININICHANGE() AFX_WM_VOID(WM_WININICHANGE, OnWinIniChange, (LPCTSTR), (call.PointerL<LPCTSTR>()))
 #define ON_WM_SHOWWINDOW()                                                                                             \
     AFX_WM_VOID(WM_SHOWWINDOW, OnShowWindow, (BOOL, UINT), (call.BoolW(), static_cast<UINT>(call.lParam)))
-#define ON_WM_SIZE() AFX_WM_VOID(WM_SIZE, OnSize, (UINT, int, int), (call.UintW(), call.IntLoL(), call.IntHiL()))
+#define ON_WM_SIZE()                                                                                                   \
+    AFX_WM_VOID(WM_SIZE, OnSize, (UINT, int, int),                                                                     \
+                (call.UintW(), static_cast<int>(call.LoWordL()), static_cast<int>(call.HiWordL())))
 #define ON_WM_SIZECLIPBOARD()                                                                                          \
     AFX_WM_VOID(WM_SIZECLIPBOARD, OnSizeClipboard, (CWnd*, HGLOBAL), (call.WndW(), call.PointerL<HGLOBAL>()))
 #define ON_WM_SIZING() AFX_WM_VOID(WM_SIZING, OnSizing, (UINT, LPRECT), (call.UintW(), call.PointerL<LPRECT>()))

@@ -174,6 +174,8 @@ TEST_F(FileWin32, RelativeNamesBecomeFullPaths)
         ASSERT_TRUE(finder.FindFile("relative.*"));
         finder.FindNextFile();
         EXPECT_EQ(finder.GetFilePath().CompareNoCase(m_folder + "relative.txt"), 0);
+        EXPECT_TRUE(finder.GetRoot().IsEmpty()) << "the search named no folder";
+        ASSERT_TRUE(finder.FindFile(".\\relative.*"));
         EXPECT_EQ(finder.GetRoot().CompareNoCase(m_folder), 0);
     }
     SetCurrentDirectory(before);

@@ -279,6 +279,7 @@ LPARAM Words(int low, int high)
 TEST_F(HandlerSignatures, OfSizesAndPositions)
 {
     EXPECT_EQ(Send(WM_SIZE, SIZE_MAXIMIZED, Words(640, 480)), "size 2 640 480");
+    EXPECT_EQ(Send(WM_SIZE, SIZE_RESTORED, Words(40000, 65535)), "size 0 40000 65535") << "sizes have no sign";
     EXPECT_EQ(Send(WM_MOVE, 0, Words(-5, -32768)), "move -5 -32768");
     EXPECT_EQ(Send(WM_SHOWWINDOW, TRUE, SW_PARENTOPENING), "showwindow 1 3");
     MINMAXINFO info = {};
