@@ -11,6 +11,8 @@ namespace vorn
 namespace
 {
 constexpr std::size_t kLargestPiece = 1024;            // blocks
+constexpr std::size_t kLargestBytes = 0x10000;         // to which pieces grow
+constexpr std::size_t kMostBytes = 0x1000000;          // in the first piece
 constexpr std::size_t kPieceStart = 2 * sizeof(void*); // the link, at a size that keeps the blocks aligned
 
 void* Allocate(std::size_t size)
@@ -28,6 +30,10 @@ NodePool::NodePool(std::size_t nodeSize, INT_PTR firstPiece) noexcept
     : m_nodeSize(nodeSize), m_firstPiece(static_cast<std::size_t>(std::clamp<INT_PTR>(firstPiece, 1, kLargestPiece))),
       m_nextPiece(m_firstPiece)
 {
+    if (m_firstPiece > kMostBytes / nodeSize)
+    {
+        m_firstPiece = m_nextPiece = 1; // so large that they can only come one by one
+    }
 }
 
 NodePool::~NodePool()
@@ -90,6 +96,9 @@ void NodePool::AddPiece()
     m_pieces = new (piece) Link{m_pieces};
     m_fresh = piece + kPieceStart;
     m_end = m_fresh + size;
-    m_nextPiece = std::min(2 * m_nextPiece, kLargestPiece);
+    if (2 * size <= kLargestBytes && 2 * m_nextPiece <= kLargestPiece)
+    {
+        m_nextPiece *= 2;
+    }
 }
 } // namespace vorn

@@ -132,13 +132,35 @@ LPSTR CStdioFile::ReadString(LPSTR lpsz, UINT nMax)
     return line;
 }
 
+namespace
+{
+// A piece of a line in a buffer without zeros, so that the last zero is the piece's end: lines may hold zeros.
+template <std::size_t SIZE>
+bool ReadPiece(CStdioFile& file, char (&piece)[SIZE])
+{
+    std::memset(piece, '\n', SIZE);
+    return file.ReadString(piece, SIZE) != nullptr;
+}
+
+template <std::size_t SIZE>
+std::size_t LengthOfPiece(const char (&piece)[SIZE])
+{
+    std::size_t end = SIZE;
+    while (end > 0 && piece[end - 1] != '\0')
+    {
+        --end;
+    }
+    return end > 0 ? end - 1 : 0;
+}
+} // namespace
+
 BOOL CStdioFile::ReadString(CString& rString)
 {
     rString.Empty();
     char piece[256];
-    while (ReadString(piece, sizeof(piece)) != nullptr)
+    while (ReadPiece(*this, piece))
     {
-        const std::size_t length = std::strlen(piece);
+        const std::size_t length = LengthOfPiece(piece);
         const bool isEnd = length > 0 && piece[length - 1] == '\n';
         rString.Append(piece, static_cast<int>(isEnd ? length - 1 : length));
         if (isEnd)

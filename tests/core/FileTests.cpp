@@ -318,6 +318,23 @@ TEST_F(FileTest, FindsEachMatchOnce)
     EXPECT_EQ(names, (std::set<std::string>{"one.dbf", "two.DBF"}));
 }
 
+TEST_F(FileTest, TheRootIsThatOfThePathAndEmptyWithoutFolder)
+{
+    const fs::path before = fs::current_path();
+    const CString path = Make("root.txt", "r");
+    fs::current_path(fs::path(path.GetString()).parent_path());
+    CFileFind finder;
+    EXPECT_TRUE(finder.GetRoot().IsEmpty());
+    const BOOL found = finder.FindFile("root.*");
+    finder.FindNextFile();
+    const CString root = finder.GetRoot();
+    const CString whole = finder.GetFilePath();
+    fs::current_path(before);
+    ASSERT_TRUE(found);
+    EXPECT_TRUE(root.IsEmpty());
+    EXPECT_EQ(whole, path) << "the path of a match is whole all the same";
+}
+
 TEST_F(FileTest, TheLastMatchStaysReadable)
 {
     const CString path = Make("only.txt", "abc");
@@ -500,6 +517,29 @@ TEST_F(FileTest, ReadsLinesOfBothSystems)
         EXPECT_TRUE(file.ReadString(line));
         EXPECT_EQ(line, expected);
     }
+    EXPECT_FALSE(file.ReadString(line));
+}
+
+TEST_F(FileTest, LinesMayHoldZeros)
+{
+    const CString path = PathOf("zeros.txt");
+    const std::string longLine = std::string(254, 'x') + '\0' + std::string(300, 'y');
+    {
+        CStdioFile file(path, CFile::modeCreate | CFile::modeWrite);
+        file.Write("a\0b\n", 4);
+        file.Write("\0\n", 2);
+        file.Write(longLine.data(), static_cast<UINT>(longLine.size()));
+        file.Write("\nend\0", 5);
+    }
+    CStdioFile file(path, CFile::modeRead);
+    CString line;
+    for (const std::string& expected : {std::string("a\0b", 3), std::string("\0", 1), longLine})
+    {
+        EXPECT_TRUE(file.ReadString(line));
+        EXPECT_EQ(std::string(line.GetString(), static_cast<std::size_t>(line.GetLength())), expected);
+    }
+    EXPECT_TRUE(file.ReadString(line));
+    EXPECT_EQ(std::string(line.GetString(), static_cast<std::size_t>(line.GetLength())), std::string("end\0", 4));
     EXPECT_FALSE(file.ReadString(line));
 }
 
