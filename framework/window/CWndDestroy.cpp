@@ -67,7 +67,12 @@ void CWnd::OnNcDestroy()
     }
     if (m_nFlags & kStateModalLoop)
     {
-        EndModalLoop(-1);
+        if (m_nFlags & kStateContinueModal)
+        {
+            EndModalLoop(-1); // else it has its result already
+        }
+        // The window's own messages go with it; a loop that waits inside GetMessage must wake all the same.
+        ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0);
     }
     const HWND window = m_hWnd;
     WNDPROC* super = GetSuperWndProcAddr();

@@ -5,6 +5,7 @@
 #include "framework/window/CCmdUI.h"
 #include "framework/window/MessageLoop.h"
 #include "framework/window/ThreadState.h"
+#include "framework/window/WindowAccess.h"
 
 namespace
 {
@@ -21,13 +22,19 @@ public:
           m_parent(::GetParent(window.m_hWnd)),
           m_showWhenIdle((flags & MLF_SHOWONIDLE) != 0 && !(window.GetStyle() & WS_VISIBLE))
     {
+        AfxWindowAccess::Flags(window) |= kMarks;
         m_state.modal = &m_frame;
     }
     ModalLoop(const ModalLoop&) = delete;
     ModalLoop& operator=(const ModalLoop&) = delete;
+    /// On every way out, WM_QUIT and exceptions included, a living object may run a loop again.
     ~ModalLoop()
     {
         m_state.modal = m_frame.outer;
+        if (m_frame.window)
+        {
+            AfxWindowAccess::Flags(*m_frame.window) &= ~kMarks;
+        }
     }
 
     /// Whether the loop ended by EndModalLoop with the object alive.
@@ -58,6 +65,8 @@ public:
     }
 
 private:
+    static constexpr UINT kMarks = CWnd::kStateModalLoop | CWnd::kStateContinueModal;
+
     bool GoesOn() const
     {
         return m_frame.window && m_frame.window->ContinueModal();
@@ -131,20 +140,9 @@ int CWnd::RunModalLoop(DWORD dwFlags)
     {
         return -1;
     }
-    m_nFlags |= kStateModalLoop | kStateContinueModal;
     m_nModalResult = -1;
-    bool ended = false;
-    {
-        ModalLoop loop(*this, dwFlags);
-        ended = loop.Run();
-    }
     // Without a proper end the object may be gone.
-    if (!ended)
-    {
-        return -1;
-    }
-    m_nFlags &= ~static_cast<UINT>(kStateModalLoop | kStateContinueModal);
-    return m_nModalResult;
+    return ModalLoop(*this, dwFlags).Run() ? m_nModalResult : -1;
 }
 
 BOOL CWnd::ContinueModal()
@@ -193,11 +191,19 @@ bool Exchange(CWnd& window, BOOL save)
 
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
 {
-    const UINT before = m_nFlags & kStateUpdatingData;
+    /// Holds control notifications back for a scope, which an exception of another family may leave.
+    struct Hold
+    {
+        ~Hold()
+        {
+            flags = (flags & ~static_cast<UINT>(kStateUpdatingData)) | before;
+        }
+        UINT& flags;
+        UINT before;
+    };
+    const Hold hold{m_nFlags, m_nFlags & kStateUpdatingData};
     m_nFlags |= kStateUpdatingData;
-    const bool good = Exchange(*this, bSaveAndValidate);
-    m_nFlags = (m_nFlags & ~static_cast<UINT>(kStateUpdatingData)) | before;
-    return good;
+    return Exchange(*this, bSaveAndValidate);
 }
 
 namespace

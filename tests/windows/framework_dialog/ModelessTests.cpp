@@ -58,6 +58,52 @@ TEST_F(ModelessDialog, EndedInOnInitDialogIsNotCreated)
     EXPECT_EQ(dialog.m_postNcDestroyCount, 1);
 }
 
+TEST_F(ModelessDialog, RefusedAtItsFirstMessageIsForgotten)
+{
+    class Refusing : public NotingDialog
+    {
+    public:
+        bool refuses = true;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (refuses && message == WM_NCCREATE)
+                return FALSE;
+            return NotingDialog::WindowProc(message, wParam, lParam);
+        }
+    };
+    Refusing dialog;
+    EXPECT_FALSE(dialog.CreateIndirect(AsTemplate(m_bytes)));
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_EQ(dialog.m_postNcDestroyCount, 1);
+    dialog.refuses = false;
+    EXPECT_TRUE(dialog.CreateIndirect(AsTemplate(m_bytes)));
+    dialog.DestroyWindow();
+}
+
+TEST_F(ModelessDialog, NotificationsComeAgainAfterAForeignExceptionInTheExchange)
+{
+    class Clicked : public NotingDialog
+    {
+    public:
+        int clicks = 0;
+        BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo) override
+        {
+            clicks += id == kButton && code == BN_CLICKED && !handlerInfo;
+            return NotingDialog::OnCmdMsg(id, code, extra, handlerInfo);
+        }
+    };
+    Clicked dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(AsTemplate(m_bytes)));
+    dialog.m_onExchange = [](NotingDialog&, CDataExchange*)
+    {
+        throw 3;
+    };
+    EXPECT_THROW(dialog.UpdateData(TRUE), int);
+    dialog.SendDlgItemMessage(kButton, BM_CLICK);
+    EXPECT_EQ(dialog.clicks, 1);
+    dialog.DestroyWindow();
+}
+
 TEST_F(ModelessDialog, SecondCreateIsRefused)
 {
     CDialog dialog;

@@ -226,6 +226,103 @@ TEST_F(ModalLoops, HandQuitOnWithItsStatus)
     EXPECT_EQ(message.wParam, 44U);
 }
 
+TEST_F(ModalLoops, MayRunAgainAfterQuit)
+{
+    ::PostQuitMessage(1);
+    EXPECT_EQ(modal.RunModalLoop(), -1);
+    MSG message = {};
+    ASSERT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    modal.PostMessage(kEnd, 19);
+    EXPECT_EQ(modal.RunModalLoop(), 19);
+}
+
+TEST_F(ModalLoops, MayRunAgainAfterAnException)
+{
+    class Thrower : public Modal
+    {
+    public:
+        bool throws = true;
+        BOOL PreTranslateMessage(MSG* message) override
+        {
+            if (throws && message->message == WM_APP)
+            {
+                throw 5;
+            }
+            return Modal::PreTranslateMessage(message);
+        }
+    };
+    Thrower thrower;
+    ASSERT_TRUE(CreatePopup(thrower));
+    thrower.PostMessage(WM_APP);
+    EXPECT_THROW(thrower.RunModalLoop(), int);
+    thrower.throws = false;
+    thrower.PostMessage(kEnd, 20);
+    EXPECT_EQ(thrower.RunModalLoop(), 20);
+}
+
+TEST_F(ModalLoops, KeepTheResultWhenTheWindowIsDestroyedAfterTheEnd)
+{
+    class Ender : public Modal
+    {
+    public:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_APP)
+            {
+                EndModalLoop(21);
+                DestroyWindow();
+                return 0;
+            }
+            return Modal::WindowProc(message, wParam, lParam);
+        }
+    };
+    Ender ender;
+    ASSERT_TRUE(CreatePopup(ender));
+    ender.PostMessage(WM_APP);
+    EXPECT_EQ(ender.RunModalLoop(), 21);
+    EXPECT_EQ(ender.m_hWnd, nullptr);
+}
+
+namespace
+{
+
+/// Waits until the loop of another thread is idle, then has its window closed by a sent message.
+DWORD WINAPI CloseByMessage(LPVOID window)
+{
+    ::SendMessage(static_cast<HWND>(window), WM_CLOSE, 0, 0);
+    return 0;
+}
+
+} // namespace
+
+TEST_F(ModalLoops, EndWhenAMessageSentByAnotherThreadDestroysTheWindow)
+{
+    class Starter : public Modal
+    {
+    public:
+        HANDLE closer = nullptr;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_KICKIDLE && !closer)
+            {
+                closer = ::CreateThread(nullptr, 0, CloseByMessage, m_hWnd, 0, nullptr);
+                return FALSE; // the loop goes on to wait for messages
+            }
+            return Modal::WindowProc(message, wParam, lParam);
+        }
+    };
+    Starter starter;
+    ASSERT_TRUE(CreatePopup(starter));
+    // A loop that does not wake is ended after a while, with another result.
+    const UINT_PTR timer = ::SetTimer(modal.m_hWnd, 1, 5000, nullptr);
+    const DWORD began = ::GetTickCount();
+    EXPECT_EQ(starter.RunModalLoop(), -1);
+    EXPECT_LT(::GetTickCount() - began, 4000U) << "the loop must not wait for an unrelated message";
+    ::KillTimer(modal.m_hWnd, timer);
+    ::WaitForSingleObject(starter.closer, INFINITE);
+    ::CloseHandle(starter.closer);
+}
+
 TEST_F(ModalLoops, EndWhenTheirWindowIsDestroyed)
 {
     modal.PostMessage(WM_CLOSE);
