@@ -103,6 +103,21 @@ BOOL CWinThread::ProcessMessageFilter(int, LPMSG)
     return FALSE;
 }
 
+namespace
+{
+
+/// Whether the way from a window up its parents and owners comes by another window.
+bool LeadsTo(HWND window, HWND other)
+{
+    while (window && window != other)
+    {
+        window = ::GetParent(window);
+    }
+    return window != nullptr;
+}
+
+} // namespace
+
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
 {
     if (!pMsg->hwnd && DispatchThreadMessage(pMsg))
@@ -111,13 +126,13 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
     }
     CWnd* mainWindow = GetMainWnd();
     const HWND main = mainWindow->GetSafeHwnd();
+    const bool walkEndsThere = LeadsTo(pMsg->hwnd, main);
     if (CWnd::WalkPreTranslateTree(main, pMsg))
     {
         return TRUE;
     }
     // Messages of other top windows (modeless dialogs) may be the main window's accelerators.
-    if (main && pMsg->hwnd && CWnd::FromHandlePermanent(main) == mainWindow && pMsg->hwnd != main &&
-        !::IsChild(main, pMsg->hwnd))
+    if (main && pMsg->hwnd && !walkEndsThere && CWnd::FromHandlePermanent(main) == mainWindow)
     {
         return mainWindow->PreTranslateMessage(pMsg);
     }

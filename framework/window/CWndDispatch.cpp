@@ -44,20 +44,17 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
 {
     const UINT id = LOWORD(wParam);
     const auto control = reinterpret_cast<HWND>(lParam);
-    if (id == 0)
-    {
-        return FALSE;
-    }
     if (!control)
     {
         // A menu or accelerator may be out of date: a command that is disabled now is not carried out.
-        return vorn::IsCommandEnabled(*this, id) ? OnCmdMsg(id, CN_COMMAND, nullptr, nullptr) : TRUE;
+        return id != 0 && (!vorn::IsCommandEnabled(*this, id) || OnCmdMsg(id, CN_COMMAND, nullptr, nullptr));
     }
     if (m_nFlags & kStateUpdatingData)
     {
         return TRUE;
     }
-    return ReflectLastMsg(control) || OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr);
+    // A control hears its own notifications whatever its number; number 0 is nobody's in a map of commands.
+    return ReflectLastMsg(control) || (id != 0 && OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr));
 }
 
 BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult)

@@ -1,5 +1,6 @@
 #include "framework/window/CWnd.h"
 
+#include "framework/controls/ControlMessage.h"
 #include "framework/window/ModuleState.h"
 #include "framework/window/ThreadState.h"
 
@@ -25,6 +26,7 @@ HWND ToolTipWindow(vorn::ThreadState& state)
 {
     if (!::IsWindow(state.toolTip))
     {
+        vorn::EnsureCommonControls();
         state.toolTip = ::CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0, 0, 0,
                                          nullptr, nullptr, AfxGetInstanceHandle(), nullptr);
     }

@@ -66,6 +66,11 @@ bool MatchesCode(const AFX_MSGMAP_ENTRY& entry, UINT message, UINT code)
 
 const AFX_MSGMAP_ENTRY* FindMessageEntry(const AFX_MSGMAP* map, UINT message)
 {
+    // The variable of a registered message may get its number after such a message went by.
+    if (message >= AFX_REGISTERED_MESSAGE)
+    {
+        return Search(map, message);
+    }
     // An empty slot is all zero, which reads as "WM_NULL: no entry"; message numbers are
     // kept plus one, so that it matches no message.
     auto& slot = SlotOf(*map->pCache, message);

@@ -21,12 +21,8 @@ ThreadState& CurrentThreadState()
     auto* state = static_cast<ThreadState*>(TlsGetValue(ThreadSlot()));
     if (!state)
     {
-        auto made = std::make_unique<ThreadState>();
-        state = made.get();
-        if (TlsSetValue(ThreadSlot(), state))
-        {
-            made.release(); // the thread slot owns it; ReleaseThreadState ends it
-        }
+        state = std::make_unique<ThreadState>().release(); // the thread slot owns it; ReleaseThreadState ends it
+        TlsSetValue(ThreadSlot(), state);
     }
     SetLastError(lastError);
     return *state;

@@ -119,6 +119,37 @@ TEST(MessageMap, FindsRegisteredMessagesByTheirNumberAtRunTime)
     EXPECT_EQ(window.events, Events{"base registered"}) << "an unregistered number takes no message";
 }
 
+namespace
+{
+
+UINT lateNumber = 0; // registered after the class's first messages
+
+class LateListener : public CWnd
+{
+protected:
+    afx_msg LRESULT OnLate(WPARAM, LPARAM)
+    {
+        return 77;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(LateListener, CWnd)
+ON_REGISTERED_MESSAGE(lateNumber, &LateListener::OnLate)
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST(MessageMap, HearsARegisteredMessageWhoseNumberCameLate)
+{
+    LateListener window;
+    ASSERT_TRUE(CreatePopup(window));
+    const UINT number = ::RegisterWindowMessage("VornTestLateNumber");
+    EXPECT_EQ(window.SendMessage(number), 0);
+    lateNumber = number;
+    EXPECT_EQ(window.SendMessage(number), 77);
+}
+
 TEST(MessageMap, WorksInClassTemplates)
 {
     Templated<short> window;

@@ -321,6 +321,19 @@ TEST_F(Reflection, OfKeysAndScrollingReachesTheControl)
               (Events{"control char 107 2", "control key 40 3", "control hscroll 4 12", "control vscroll 1 0"}));
 }
 
+TEST_F(Reflection, ReachesAControlOfNumberZeroToo)
+{
+    const auto send = [this](UINT code)
+    {
+        events.clear();
+        return parent.SendMessage(WM_COMMAND, MAKEWPARAM(0, code), Handle());
+    };
+    EXPECT_EQ(send(kTaken), 1);
+    EXPECT_EQ(events, Events{"control taken"});
+    EXPECT_EQ(send(kParentOnly), 0) << "no map of the parent speaks of number 0";
+    EXPECT_EQ(events, Events());
+}
+
 TEST_F(Reflection, OfParentNotificationsNamesCreationAndEndOnly)
 {
     parent.SendMessage(WM_PARENTNOTIFY, MAKEWPARAM(WM_DESTROY, kControl), Handle());

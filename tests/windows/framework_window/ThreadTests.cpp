@@ -153,6 +153,55 @@ public:
 
 } // namespace
 
+namespace
+{
+
+class AskedWindow : public CWnd
+{
+public:
+    int asked = 0;
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        asked += message->message == WM_APP;
+        return CWnd::PreTranslateMessage(message);
+    }
+};
+
+/// How often the main window is asked before a message of @p window is dispatched.
+int TimesAsked(CWinThread& thread, AskedWindow& main, const CWnd& window)
+{
+    main.asked = 0;
+    MSG message = {};
+    message.hwnd = window.m_hWnd;
+    message.message = WM_APP;
+    EXPECT_FALSE(thread.PreTranslateMessage(&message));
+    return main.asked;
+}
+
+} // namespace
+
+TEST(Threads, AskTheMainWindowOnceAboutEachMessage)
+{
+    CWinApp app("App");
+    AskedWindow main;
+    CWnd child;
+    CWnd owned;
+    CWnd ownedChild;
+    CWnd other;
+    ASSERT_TRUE(CreatePopup(main));
+    ASSERT_TRUE(CreateChild(child, main));
+    ASSERT_TRUE(CreatePopup(owned, main.m_hWnd));
+    ASSERT_TRUE(CreateChild(ownedChild, owned));
+    ASSERT_TRUE(CreatePopup(other));
+    app.m_pMainWnd = &main;
+    EXPECT_EQ(TimesAsked(app, main, main), 1);
+    EXPECT_EQ(TimesAsked(app, main, child), 1);
+    EXPECT_EQ(TimesAsked(app, main, owned), 1) << "on the way up the owners";
+    EXPECT_EQ(TimesAsked(app, main, ownedChild), 1);
+    EXPECT_EQ(TimesAsked(app, main, other), 1) << "last, for its accelerators";
+    app.m_pMainWnd = nullptr;
+}
+
 TEST(Threads, CountIdleStepsUntilNobodyWantsMore)
 {
     MSG message;
