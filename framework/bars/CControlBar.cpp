@@ -19,6 +19,7 @@ CControlBar::CControlBar() = default;
 
 CControlBar::~CControlBar()
 {
+    m_bAutoDelete = FALSE; // the end of the window must not end the object once more
     CControlBar::DestroyWindow();
     if (m_pDockSite)
         m_pDockSite->RemoveControlBar(this);

@@ -60,6 +60,7 @@ CStatusBar::CStatusBar() = default;
 
 CStatusBar::~CStatusBar()
 {
+    m_bAutoDelete = FALSE; // the end of the window must not end the object once more
     CControlBar::DestroyWindow();
 }
 

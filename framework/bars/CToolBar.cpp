@@ -45,6 +45,7 @@ CToolBar::CToolBar() = default;
 
 CToolBar::~CToolBar()
 {
+    m_bAutoDelete = FALSE; // the end of the window must not end the object once more
     CControlBar::DestroyWindow();
 }
 

@@ -5,6 +5,7 @@
 #include "framework/window/CWinApp.h"
 #include "framework/window/ModuleState.h"
 #include <algorithm>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CDocument, CCmdTarget)
 
@@ -106,7 +107,8 @@ BOOL CDocument::SaveModified()
 
 void CDocument::OnCloseDocument()
 {
-    // The last frame to go may end the document: nothing of it is used after the loop's steps.
+    // The last view to go must not end the document in the middle.
+    const BOOL autoDelete = std::exchange(m_bAutoDelete, FALSE);
     std::vector<HWND> frames;
     for (const CView* view : m_views)
         if (CFrameWnd* frame = view->GetParentFrame())
@@ -114,6 +116,10 @@ void CDocument::OnCloseDocument()
     for (HWND window : frames)
         if (CWnd* frame = CWnd::FromHandlePermanent(window))
             frame->DestroyWindow();
+    m_bAutoDelete = autoDelete;
+    DeleteContents();
+    if (autoDelete)
+        delete this; // whoever made it left that to the document
 }
 
 void CDocument::OnChangedViewList()

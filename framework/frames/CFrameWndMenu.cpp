@@ -77,7 +77,7 @@ void CFrameWnd::UpdateMenuItems(CMenu& menu)
         const UINT count = menu.GetMenuItemCount();
         if (count < state.m_nIndexMax)
         {
-            state.m_nIndex -= std::min(state.m_nIndex, state.m_nIndexMax - count);
+            state.m_nIndex -= state.m_nIndexMax - count; // one before the first wraps round and comes back with ++
             while (state.m_nIndex < count && menu.GetMenuItemID(static_cast<int>(state.m_nIndex)) == state.m_nID)
                 ++state.m_nIndex;
         }

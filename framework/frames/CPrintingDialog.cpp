@@ -1,7 +1,6 @@
 #include "framework/frames/CPrintingDialog.h"
 #include "framework/frames/FrameResources.h"
-#include "framework/window/CWinApp.h"
-#include "framework/window/CWinThread.h"
+#include "framework/window/MessageLoop.h"
 
 namespace vorn
 {
@@ -53,8 +52,12 @@ BOOL CALLBACK CPrintingDialog::AbortProc(HDC, int)
     MSG message;
     while (!cancelled && ::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
     {
-        if (!AfxPumpMessage())
-            return FALSE;
+        if (!PumpMessage())
+        {
+            // The program ends: the job with it, and the message loops outside shall hear of it too.
+            cancelled = true;
+            ::PostQuitMessage(static_cast<int>(LastPumpedMessage().wParam));
+        }
     }
     return !cancelled;
 }

@@ -148,6 +148,19 @@ TEST_F(FrameBars, MadeWithNewEndWithTheirWindowWhenAsked)
     EXPECT_EQ("~bar ~frame", AllNotes());
 }
 
+TEST_F(FrameBars, MadeToEndWithTheirWindowMayBeDeletedBefore)
+{
+    TestFrame* frame = ShowFrame();
+    auto* bar = new CStatusBar;
+    bar->m_bAutoDelete = TRUE;
+    ASSERT_TRUE(bar->Create(frame));
+    const HWND window = bar->m_hWnd;
+    delete bar;
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(nullptr, frame->GetControlBar(AFX_IDW_STATUS_BAR));
+    frame->DestroyWindow();
+}
+
 TEST_F(FrameBars, OutliveTheirFrame)
 {
     TestBar bar(20);

@@ -165,6 +165,41 @@ TEST_F(FrameCommands, HandlersMayChangeTheMenuWhileItIsUpdated)
     frame->DestroyWindow();
 }
 
+namespace
+{
+/// A frame whose handler takes its own item out of the menu.
+class ShrinkingFrame : public TestFrame
+{
+protected:
+    afx_msg void OnUpdateView(CCmdUI* cmdUI)
+    {
+        if (cmdUI->m_pMenu)
+            cmdUI->m_pMenu->DeleteMenu(cmdUI->m_nID, MF_BYCOMMAND);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ShrinkingFrame, TestFrame)
+ON_UPDATE_COMMAND_UI(ID_TEST_VIEW, &ShrinkingFrame::OnUpdateView)
+END_MESSAGE_MAP()
+} // namespace
+
+TEST_F(FrameCommands, FirstItemMayGoWithoutTheNextBeingMissed)
+{
+    auto* frame = new ShrinkingFrame;
+    ASSERT_TRUE(frame->LoadFrame(IDR_TEST_FRAME));
+    CMenu popup;
+    popup.CreatePopupMenu();
+    popup.AppendMenu(MF_STRING, ID_TEST_VIEW, "goes");
+    popup.AppendMenu(MF_STRING, ID_TEST_NOBODY, "next");
+    popup.AppendMenu(MF_STRING, ID_TEST_NOBODY + 100, "last");
+    frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup.m_hMenu), 0);
+    ASSERT_EQ(2U, popup.GetMenuItemCount());
+    EXPECT_TRUE(popup.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED) << "nobody handles it";
+    EXPECT_TRUE(popup.GetMenuState(1, MF_BYPOSITION) & MF_GRAYED);
+    frame->DestroyWindow();
+}
+
 TEST_F(FrameCommands, HelpTextOfAnItemStandsInTheStatusBar)
 {
     TestFrame* frame = LoadedFrame();

@@ -59,6 +59,7 @@ struct Job
     bool useDialog = false; ///< prepare by DoPreparePrinting
     HDC dc = nullptr;       ///< else this context; the job deletes it
     UINT cancelAtPage = 0;  ///< press the progress dialog's button while this page is printed
+    UINT quitAtPage = 0;    ///< end the program while this page is printed
     bool direct = false;    ///< answered: whether the job was a direct one
     bool prepared = false;  ///< answered
     CRect drawn;            ///< answered: the printable area
@@ -128,6 +129,8 @@ protected:
             if (info->m_nCurPage == job.cancelAtPage)
                 progress->PostMessage(WM_COMMAND, IDCANCEL);
         }
+        if (info->m_nCurPage == job.quitAtPage)
+            ::PostQuitMessage(31);
         dc->Rectangle(100, 100, 200, 200);
     }
 
@@ -340,6 +343,18 @@ TEST_F(PrintingOnPaper, CancelButtonEndsTheJobWithoutMessage)
     TheJob().cancelAtPage = 2;
     Print();
     EXPECT_EQ("prepare begin page1 page2 end", AllNotes());
+    EXPECT_TRUE(frame->IsWindowEnabled());
+}
+
+TEST_F(PrintingOnPaper, EndOfTheProgramEndsTheJobAndIsHandedOn)
+{
+    TheJob().maxPage = 50;
+    TheJob().quitAtPage = 2;
+    Print();
+    EXPECT_EQ("prepare begin page1 page2 end", AllNotes());
+    MSG message{};
+    ASSERT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(31U, message.wParam);
     EXPECT_TRUE(frame->IsWindowEnabled());
 }
 

@@ -126,8 +126,30 @@ TEST_F(Document, LivesAsLongAsAViewShowsIt)
     EXPECT_EQ(1U, document->GetViews().size());
     Notes().clear();
     document->OnCloseDocument();
-    EXPECT_EQ("deactivate ~view ~document ~frame", AllNotes());
+    EXPECT_EQ("deactivate ~view ~frame ~document", AllNotes());
     (void)second;
+}
+
+TEST_F(Document, ClosedWithoutViewsEmptiesAndDeletesItself)
+{
+    class Emptied : public TestDocument
+    {
+    public:
+        void DeleteContents() override
+        {
+            Notes().emplace_back("empty");
+        }
+    };
+    (new Emptied)->OnCloseDocument();
+    EXPECT_EQ("empty ~document", AllNotes());
+    Notes().clear();
+    Emptied kept;
+    kept.m_bAutoDelete = FALSE;
+    TestFrame* frame = ShowFrameWithView(&kept);
+    kept.OnCloseDocument();
+    EXPECT_EQ("deactivate ~view ~frame empty", AllNotes());
+    EXPECT_FALSE(kept.m_bAutoDelete);
+    (void)frame;
 }
 
 TEST_F(Document, OnTheStackLeavesItsViewsBehind)
