@@ -31,8 +31,11 @@ CDC::CDC() = default;
 
 CDC::~CDC()
 {
-    if (m_hDC)
-        ::DeleteDC(Detach());
+    // A context given by SetOutputDC() is its giver's.
+    const bool isOwned = m_hDC && vorn::DeviceContextOwners().Find(m_hDC) == this;
+    HDC dc = Detach();
+    if (isOwned)
+        ::DeleteDC(dc);
 }
 
 CDC::operator HDC() const
@@ -89,6 +92,9 @@ void CDC::SetAttribDC(HDC dc)
 
 void CDC::SetOutputDC(HDC dc)
 {
+    // The record of an attached context must not outlive what it says.
+    if (m_hDC)
+        vorn::DeviceContextOwners().Remove(m_hDC, this);
     m_hDC = dc;
 }
 
@@ -99,7 +105,7 @@ void CDC::ReleaseAttribDC()
 
 void CDC::ReleaseOutputDC()
 {
-    m_hDC = nullptr;
+    CDC::SetOutputDC(nullptr);
 }
 
 BOOL CDC::CreateDC(LPCSTR driverName, LPCSTR deviceName, LPCSTR output, const void* initData)

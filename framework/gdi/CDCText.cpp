@@ -51,8 +51,22 @@ int CDC::DrawText(LPCSTR text, int length, LPRECT rect, UINT format)
     return ::DrawText(m_hDC, TextOf(text), LengthOf(text, length), rect, format);
 }
 
+namespace
+{
+/// A text's copy for calls that may put "..." into the buffer, with room for it.
+CString CopyToModify(const CString& text)
+{
+    CString copy = text;
+    constexpr int kEllipsisRoom = 4;
+    copy.GetBuffer(text.GetLength() + kEllipsisRoom);
+    return copy;
+}
+} // namespace
+
 int CDC::DrawText(const CString& text, LPRECT rect, UINT format)
 {
+    if (format & DT_MODIFYSTRING)
+        return DrawText(CopyToModify(text).GetBuffer(), text.GetLength(), rect, format);
     return DrawText(text, text.GetLength(), rect, format);
 }
 
@@ -63,11 +77,7 @@ int CDC::DrawTextEx(LPSTR text, int length, LPRECT rect, UINT format, LPDRAWTEXT
 
 int CDC::DrawTextEx(const CString& text, LPRECT rect, UINT format, LPDRAWTEXTPARAMS parameters)
 {
-    // The system may put "..." into the buffer: it gets a copy with room for it.
-    CString copy = text;
-    constexpr int kEllipsisRoom = 4;
-    char* buffer = copy.GetBuffer(text.GetLength() + kEllipsisRoom);
-    return DrawTextEx(buffer, text.GetLength(), rect, format, parameters);
+    return DrawTextEx(CopyToModify(text).GetBuffer(), text.GetLength(), rect, format, parameters);
 }
 
 BOOL CDC::GrayString(CBrush* brush, BOOL(CALLBACK* output)(HDC, LPARAM, int), LPARAM data, int length, int x, int y,

@@ -54,6 +54,34 @@ bool ThrowsResourceException(CWnd* window)
 }
 } // namespace
 
+TEST(DeviceContext, LeavesAnOutputThatIsNotItsOwnAlone)
+{
+    HDC foreign = ::CreateCompatibleDC(nullptr);
+    {
+        CDC dc;
+        dc.SetOutputDC(foreign);
+        EXPECT_EQ(foreign, dc.GetSafeHdc());
+    }
+    EXPECT_TRUE(IsAlive(foreign));
+    ::DeleteDC(foreign);
+}
+
+TEST(DeviceContext, IsForgottenWhenItsOutputIsReleased)
+{
+    HDC handle = ::CreateCompatibleDC(nullptr);
+    CDC released;
+    ASSERT_TRUE(released.Attach(handle));
+    released.ReleaseOutputDC();
+    EXPECT_NE(&released, CDC::FromHandle(handle));
+    CDC exchanged;
+    ASSERT_TRUE(exchanged.Attach(handle));
+    HDC other = ::CreateCompatibleDC(nullptr);
+    exchanged.SetOutputDC(other);
+    EXPECT_NE(&exchanged, CDC::FromHandle(handle));
+    ::DeleteDC(handle);
+    ::DeleteDC(other);
+}
+
 TEST(DeviceContext, DeletesWhatItCreated)
 {
     HDC handle = nullptr;

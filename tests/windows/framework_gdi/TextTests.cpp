@@ -96,6 +96,17 @@ TEST(Text, DrawTextExShortensWithoutTouchingTheString)
     EXPECT_STREQ("A text that is much too long", text);
 }
 
+TEST(Text, DrawTextShortensWithoutTouchingTheString)
+{
+    Canvas canvas(30, 30);
+    const CString text("A text that is much too long");
+    const CString other = text;
+    CRect rect(0, 0, 30, 30);
+    EXPECT_GT(canvas.dc.DrawText(text, &rect, DT_END_ELLIPSIS | DT_MODIFYSTRING | DT_SINGLELINE), 0);
+    EXPECT_STREQ("A text that is much too long", text);
+    EXPECT_STREQ("A text that is much too long", other);
+}
+
 TEST(Text, TabsAdvanceToTheirStops)
 {
     Canvas canvas(200, 30);
