@@ -122,7 +122,8 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
     if (!lpszValue)
     {
         // Deleting what is not there is no failure.
-        const LSTATUS status = ::RegDeleteValue(OpenSection(*this, lpszSection).Get(), lpszEntry);
+        const vorn::RegistryKey section = OpenSection(*this, lpszSection);
+        const LSTATUS status = section ? ::RegDeleteValue(section.Get(), lpszEntry) : ERROR_FILE_NOT_FOUND;
         return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
     }
     const vorn::RegistryKey key(GetSectionKey(lpszSection));

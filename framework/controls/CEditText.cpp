@@ -18,9 +18,18 @@ void CEdit::GetSel(int& start, int& end) const
     Ask(*this, EM_GETSEL, vorn::AsWParam(&start), &end);
 }
 
+namespace
+{
+/// A position out of a word: all ones stand for -1.
+int PositionOf(WORD word)
+{
+    return word == 0xFFFF ? -1 : word;
+}
+} // namespace
+
 void CEdit::SetSel(DWORD selection, BOOL noScroll)
 {
-    SetSel(static_cast<short>(LOWORD(selection)), static_cast<short>(HIWORD(selection)), noScroll);
+    SetSel(PositionOf(LOWORD(selection)), PositionOf(HIWORD(selection)), noScroll);
 }
 
 void CEdit::SetSel(int start, int end, BOOL noScroll)

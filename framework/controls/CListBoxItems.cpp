@@ -57,7 +57,7 @@ int CListBox::GetCaretIndex() const
 
 int CListBox::SetCaretIndex(int index, BOOL scroll)
 {
-    return Ask(*this, LB_SETCARETINDEX, static_cast<WPARAM>(index), MAKELPARAM(!scroll, 0));
+    return Ask(*this, LB_SETCARETINDEX, static_cast<WPARAM>(index), MAKELPARAM(scroll, 0));
 }
 
 DWORD_PTR CListBox::GetItemData(int index) const

@@ -3,6 +3,7 @@
 #include "framework/core/FileSelection.h"
 #include "framework/dialog/CommonDialogRun.h"
 
+#include <cstring>
 #include <string>
 
 IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
@@ -12,6 +13,13 @@ namespace
 CString AsString(std::string_view text)
 {
     return CString(text.data(), static_cast<int>(text.size()));
+}
+
+/// The chosen names. Where only one could be chosen, the rest of the buffer means nothing.
+vorn::FileSelection SelectionOf(const OPENFILENAMEA& record)
+{
+    const bool several = (record.Flags & OFN_ALLOWMULTISELECT) != 0;
+    return vorn::FileSelection({record.lpstrFile, several ? record.nMaxFile : std::strlen(record.lpstrFile)});
 }
 
 std::string_view AsView(const CString& text)
@@ -95,13 +103,13 @@ BOOL CFileDialog::GetReadOnlyPref() const
 
 POSITION CFileDialog::GetStartPosition() const
 {
-    return reinterpret_cast<POSITION>(vorn::FileSelection({m_ofn.lpstrFile, m_ofn.nMaxFile}).First());
+    return reinterpret_cast<POSITION>(SelectionOf(m_ofn).First());
 }
 
 CString CFileDialog::GetNextPathName(POSITION& position) const
 {
     std::size_t at = reinterpret_cast<std::size_t>(position);
-    const std::string path = vorn::FileSelection({m_ofn.lpstrFile, m_ofn.nMaxFile}).Next(at);
+    const std::string path = SelectionOf(m_ofn).Next(at);
     position = reinterpret_cast<POSITION>(at);
     return AsString(path);
 }

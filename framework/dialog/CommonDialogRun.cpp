@@ -43,7 +43,11 @@ UINT_PTR CALLBACK CommonDialogHook(HWND window, UINT message, WPARAM, LPARAM)
     {
         error->ReportError();
         error->Delete();
-        return 0;
     }
+    catch (...)
+    {
+        // Whatever it was must not pass through the system's dialog.
+    }
+    return 0;
 }
 } // namespace vorn

@@ -157,6 +157,17 @@ TEST_F(Registry, ForgetsEntriesAndSections)
     EXPECT_EQ(app.GetProfileInt("Section", "Other", 3), 3U);
 }
 
+TEST_F(Registry, DeletesWhatIsNotThereWithoutFailingOrMakingKeys)
+{
+    EXPECT_TRUE(app.WriteProfileString("Nowhere", "entry", nullptr));
+    HKEY section = nullptr;
+    EXPECT_NE(
+        ::RegOpenKeyEx(HKEY_CURRENT_USER, "Software\\VornTestCompany\\Test Product\\Nowhere", 0, KEY_READ, &section),
+        ERROR_SUCCESS);
+    ASSERT_TRUE(app.WriteProfileInt("Section", "other", 1));
+    EXPECT_TRUE(app.WriteProfileString("Section", "entry", nullptr));
+}
+
 TEST_F(Registry, NeverDeletesTheWholeProductForAnEmptySection)
 {
     app.WriteProfileInt("Section", "Number", 5);

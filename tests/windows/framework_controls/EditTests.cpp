@@ -47,6 +47,26 @@ TEST_F(EditTest, PackedSelectionKnowsMinusOne)
     EXPECT_EQ(m_edit.GetSel(), static_cast<DWORD>(MAKELONG(0, 3)));
 }
 
+TEST_F(EditTest, PackedSelectionReachesFarIntoLongTexts)
+{
+    Make(ES_MULTILINE, "");
+    m_edit.SendMessage(EM_SETLIMITTEXT, 100000);
+    std::string text;
+    while (text.size() < 60000)
+        text += "a line\r\n";
+    m_edit.SetWindowText(text.c_str());
+    m_edit.SetSel(static_cast<DWORD>(MAKELONG(40000, 50000)));
+    int start = -1;
+    int end = -1;
+    m_edit.GetSel(start, end);
+    EXPECT_EQ(start, 40000);
+    EXPECT_EQ(end, 50000);
+    m_edit.SetSel(m_edit.GetSel());
+    m_edit.GetSel(start, end);
+    EXPECT_EQ(start, 40000);
+    EXPECT_EQ(end, 50000);
+}
+
 TEST_F(EditTest, ReplacementWithoutUndoCannotBeUndone)
 {
     Make(ES_AUTOHSCROLL, "abc");

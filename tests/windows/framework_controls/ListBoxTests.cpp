@@ -125,6 +125,33 @@ TEST_F(ListBoxTest, SeveralItemsAreSelected)
     EXPECT_EQ(m_list.GetCaretIndex(), 2);
 }
 
+namespace
+{
+/// Notes how the system is asked to scroll to the caret.
+class CaretList : public CListBox
+{
+public:
+    LPARAM asked = -1;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == LB_SETCARETINDEX)
+            asked = lParam;
+        return CListBox::WindowProc(message, wParam, lParam);
+    }
+};
+} // namespace
+
+TEST_F(ListBoxTest, CaretIsScrolledPartlyIntoViewUnlessTold)
+{
+    CaretList list;
+    ASSERT_TRUE(list.Create(WS_CHILD | LBS_MULTIPLESEL, m_rect, &m_host, kId + 1));
+    list.AddString("one");
+    list.SetCaretIndex(0);
+    EXPECT_EQ(list.asked, MAKELPARAM(TRUE, 0)) << "at least a part";
+    list.SetCaretIndex(0, FALSE);
+    EXPECT_EQ(list.asked, MAKELPARAM(FALSE, 0)) << "the whole item";
+}
+
 TEST_F(ListBoxTest, ItemsLieBelowEachOther)
 {
     Make(LBS_NOINTEGRALHEIGHT);

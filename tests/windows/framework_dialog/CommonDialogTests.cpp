@@ -85,6 +85,20 @@ TEST(ColorDialog, DerivedClassSeesInitialisationAndOk)
     EXPECT_EQ(dialog.m_oks, 1);
 }
 
+TEST(ColorDialog, ForeignExceptionOfTheInitialisationStaysInside)
+{
+    class Thrower : public CColorDialog
+    {
+    public:
+        BOOL OnInitDialog() override
+        {
+            throw 4;
+        }
+    };
+    Thrower dialog;
+    EXPECT_EQ(Press(dialog, IDOK), IDOK);
+}
+
 TEST(FontDialog, RecordIsPrepared)
 {
     LOGFONTA font{};

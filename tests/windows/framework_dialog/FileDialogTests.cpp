@@ -78,12 +78,21 @@ TEST(FileDialog, PartsOfTheChosenPath)
 
 TEST(FileDialog, SeveralFilesAreWalked)
 {
-    CFileDialog dialog(TRUE);
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT);
     const char chosen[] = "C:\\data\0a.dbf\0b.dbf\0";
     std::memcpy(dialog.m_ofn.lpstrFile, chosen, sizeof(chosen));
     POSITION position = dialog.GetStartPosition();
     EXPECT_EQ(dialog.GetNextPathName(position), "C:\\data\\a.dbf");
     EXPECT_EQ(dialog.GetNextPathName(position), "C:\\data\\b.dbf");
+    EXPECT_EQ(position, nullptr);
+}
+
+TEST(FileDialog, SingleFileIsWalkedAloneWhateverFollowsItInTheBuffer)
+{
+    CFileDialog dialog(TRUE, nullptr, "C:\\data\\a long first name.dbf");
+    ::lstrcpyA(dialog.m_ofn.lpstrFile, "C:\\b.dbf");
+    POSITION position = dialog.GetStartPosition();
+    EXPECT_EQ(dialog.GetNextPathName(position), "C:\\b.dbf");
     EXPECT_EQ(position, nullptr);
 }
 
