@@ -1,5 +1,7 @@
 #include "config/core/NumberText.h"
 
+#include "frame/core/Trim.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -12,11 +14,6 @@ constexpr std::int64_t kCeiling = std::int64_t{1} << 33; // beyond every 32-bit 
 bool IsDigit(char c)
 {
     return c >= '0' && c <= '9';
-}
-
-bool IsBlank(char c)
-{
-    return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
 /// Digits at the start of `text`, held at kCeiling once they pass it.
@@ -44,7 +41,7 @@ int Saturated(std::int64_t value)
 
 int LeadingNumber(std::string_view text)
 {
-    const auto first = std::find_if_not(text.begin(), text.end(), IsBlank);
+    const auto first = std::find_if_not(text.begin(), text.end(), IsSpace);
     text.remove_prefix(static_cast<std::size_t>(first - text.begin()));
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+'))

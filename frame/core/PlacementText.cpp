@@ -1,5 +1,7 @@
 #include "frame/core/PlacementText.h"
 
+#include "frame/core/Trim.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <limits>
@@ -10,11 +12,6 @@ namespace
 {
 constexpr std::int64_t kTopOnScreen = 50;
 constexpr std::int64_t kBeyond = std::int64_t{1} << 33; // more than any 32-bit number
-
-bool IsBlank(char c)
-{
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
 
 bool IsDigit(char c)
 {
@@ -64,7 +61,7 @@ private:
     {
         SkipComma();
         m_rest.remove_prefix(
-            static_cast<std::size_t>(std::find_if_not(m_rest.begin(), m_rest.end(), IsBlank) - m_rest.begin()));
+            static_cast<std::size_t>(std::find_if_not(m_rest.begin(), m_rest.end(), IsSpace) - m_rest.begin()));
         Number number;
         number.negative = m_rest.starts_with('-');
         if (number.negative || m_rest.starts_with('+'))

@@ -1,6 +1,6 @@
 #include "frame/core/Respell.h"
 
-#include "frame/core/LetterCase.h"
+#include "framework/core/AsciiText.h"
 
 #include <algorithm>
 #include <array>
@@ -36,7 +36,7 @@ std::string Respell(std::string_view text, int (*chance)())
     result.reserve(text.size() * kLongestSpelling);
     for (const char c : text)
     {
-        const char lower = ToLower(c);
+        const char lower = ToLowerAscii(c);
         const std::string_view spelling = RespellingOf(lower);
         if (!spelling.empty() && chance() != 0)
             result += spelling;
