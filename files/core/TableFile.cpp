@@ -7,6 +7,7 @@ namespace vorn
 {
 bool TableFile::OpenTable(const char* name, UINT flags)
 {
+    Forget();
     m_position = 0;
     return NoThrow(false,
                    [&]
@@ -47,14 +48,46 @@ int TableFile::ReadAt(LONGLONG position, char* bytes, int count)
     return got;
 }
 
+// Nothing is replaced behind the end: what a failed write leaves there is cut off.
+bool TableFile::Append(std::span<const char> bytes)
+{
+    const bool isWritten = NoThrow(false,
+                                   [&]
+                                   {
+                                       CFile::Write(bytes.data(), static_cast<UINT>(bytes.size()));
+                                       return true;
+                                   });
+    if (isWritten)
+    {
+        m_position += static_cast<LONGLONG>(bytes.size());
+        m_end = m_position;
+        return true;
+    }
+    NoThrow(false,
+            [this]
+            {
+                CFile::SetLength(static_cast<ULONGLONG>(m_end));
+                return true;
+            });
+    Forget();
+    return false;
+}
+
 bool TableFile::WriteAt(LONGLONG position, std::span<const char> bytes)
 {
     if (!IsOpen() || position < 0)
         return false;
+    if (position == m_position && position == m_end)
+        return Append(bytes);
     const unsigned touches = m_touches;
     const bool isWritten = WriteGuarded(*this, static_cast<ULONGLONG>(position), bytes);
     m_touches = touches;
-    m_position = isWritten ? position + static_cast<LONGLONG>(bytes.size()) : kUnknown;
+    Forget();
+    if (isWritten)
+    {
+        m_position = position + static_cast<LONGLONG>(bytes.size());
+        m_end = Length();
+    }
     return isWritten;
 }
 

@@ -50,10 +50,17 @@ private:
     void Touch()
     {
         ++m_touches;
-        m_position = kUnknown;
+        Forget();
     }
+    void Forget()
+    {
+        m_position = kUnknown;
+        m_end = kUnknown;
+    }
+    bool Append(std::span<const char> bytes);
 
     LONGLONG m_position = kUnknown;
+    LONGLONG m_end = kUnknown; ///< The file's length, once records were written behind it.
     unsigned m_touches = 0;
 };
 } // namespace vorn

@@ -96,6 +96,22 @@ TEST_F(TableCost, Query_ReadsAsSequentialReadingDoes)
     EXPECT_EQ(Steps(FileStep::Seek, 200, query), 0);
 }
 
+TEST_F(TableCost, AppendingRecords_TakesOneWriteEach)
+{
+    for (const FileStep kind : {FileStep::Write, FileStep::Seek, FileStep::Length})
+    {
+        CDBFFile table(100);
+        ASSERT_EQ(table.Open(m_path.c_str(), CFile::modeReadWrite), 1);
+        table.SetFieldValue("KEY", "K");
+        table.FP()->SeekToEnd();
+        vorn::test::BrokenFiles files;
+        files.FailAt(std::numeric_limits<int>::max(), kind);
+        for (int i = 0; i < 100; ++i)
+            EXPECT_EQ(table.WriteRecord(nullptr), 1);
+        EXPECT_LE(files.Steps(), kind == FileStep::Write ? 100 : 2) << "only the first has to look where it stands";
+    }
+}
+
 TEST_F(TableCost, SortedSearch_TakesOneSeekAndOneReadAProbe)
 {
     for (const int ahead : {0, 500})
