@@ -427,5 +427,5 @@ BOOL PageView::OnPreparePrinting(CPrintInfo* info)
 void PageView::OnPrint(CDC* dc, CPrintInfo* info)
 {
     const Theme paper(dc->GetDeviceCaps(LOGPIXELSY));
-    m_pages[m_current]->Paint(*dc, info->m_rectDraw, paper);
+    m_pages[m_current]->Print(*dc, info->m_rectDraw, paper);
 }

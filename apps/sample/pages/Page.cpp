@@ -1,5 +1,10 @@
 #include "apps/sample/pages/Page.h"
 
+void Page::Print(CDC& dc, const CRect& area, const Theme& theme) const
+{
+    Paint(dc, area, theme);
+}
+
 void Page::Activate(CWnd&, bool)
 {
 }

@@ -27,6 +27,9 @@ public:
     /// Paints the page. `area` is HeightFor(area.Width()) high, or higher.
     virtual void Paint(CDC& dc, const CRect& area, const Theme& theme) const = 0;
 
+    /// Prints the page into `area` of a sheet of paper. Here as on the screen, without controls.
+    virtual void Print(CDC& dc, const CRect& area, const Theme& theme) const;
+
     /// What the page shows, as lines of text in code page 1252.
     virtual std::string Summary() const = 0;
 

@@ -3,6 +3,7 @@
 #include "apps/sample/model/Usage.h"
 #include "apps/sample/pages/TableControls.h"
 #include "apps/sample/resource.h"
+#include "apps/sample/ui/TableCard.h"
 
 #include <algorithm>
 
@@ -132,21 +133,35 @@ std::string TablePage::Note() const
     return note.GetString();
 }
 
-std::string TablePage::Summary() const
+// The rows from the selected one on.
+vorn::ReportTable TablePage::Report(int rows) const
 {
-    auto& table = const_cast<vorn::DataTable&>(m_table); // reading moves its current record
-    vorn::ReportTable report{FileNameOf(table.Path()), Note(), {{"Record", vorn::Align::Right}}, {}};
-    for (const vorn::FieldFacts& field : table.Fields())
+    vorn::ReportTable report{FileNameOf(m_table.Path()), Note(), {{"Record", vorn::Align::Right}}, {}};
+    for (const vorn::FieldFacts& field : m_table.Fields())
         report.columns.push_back({field.name, field.type == 'N' ? vorn::Align::Right : vorn::Align::Left});
     const int first = std::max(0, m_view != nullptr ? m_list.SelectedRow() : m_firstRow);
-    for (int row = first; row < std::min(first + kSummaryRows, table.RowCount()); ++row)
+    for (int row = first; row < std::min(first + rows, m_table.RowCount()); ++row)
     {
-        std::vector<std::string> cells = {std::to_string(table.RecordOf(row) + 1)};
-        if (const vorn::TableRow* const values = table.Row(row))
+        std::vector<std::string> cells = {std::to_string(m_table.RecordOf(row) + 1)};
+        if (const vorn::TableRow* const values = m_table.Row(row))
             cells.insert(cells.end(), values->begin(), values->end());
         report.AddRow(std::move(cells));
     }
-    return vorn::ToText(report) + m_words + '\n';
+    return report;
+}
+
+std::string TablePage::Summary() const
+{
+    return vorn::ToText(Report(kSummaryRows)) + m_words + '\n';
+}
+
+// As many rows as the sheet takes.
+void TablePage::Print(CDC& dc, const CRect& area, const Theme& theme) const
+{
+    const int one = TableCard(Report(1), theme).Height() - TableCard(Report(0), theme).Height();
+    const int room = area.Height() - TableCard(Report(0), theme).Height();
+    const vorn::ReportTable report = Report(m_table.RowCount() > 0 ? std::max(0, room / std::max(1, one)) : 0);
+    TableCard(report, theme).Draw(dc, area);
 }
 
 void TablePage::Activate(CWnd& view, bool active)

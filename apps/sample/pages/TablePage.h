@@ -19,6 +19,7 @@ public:
     void Refresh() override;
     int HeightFor(int width, const Theme& theme) const override;
     void Paint(CDC& dc, const CRect& area, const Theme& theme) const override;
+    void Print(CDC& dc, const CRect& area, const Theme& theme) const override;
     std::string Summary() const override;
     std::string TakeOptions(const StartOptions& options) override;
     bool FillsWindow() const override;
@@ -68,6 +69,7 @@ private:
     void ShowMemo();
     void ShowState();
     std::string Note() const;
+    vorn::ReportTable Report(int rows) const;
 
     void AskForTable();
     void FindAsTyped();
@@ -82,7 +84,7 @@ private:
     void Say(const std::string& words, Notice::News news);
     void Refuse(const std::string& words, vorn::TableResult result);
 
-    vorn::DataTable m_table;
+    mutable vorn::DataTable m_table; // reading moves its current record
     const Theme* m_theme = nullptr;
     CWnd* m_view = nullptr; // null before the controls exist
     int m_firstRow = 0;     // to select when the list comes up; -1 when the row asked for is not there

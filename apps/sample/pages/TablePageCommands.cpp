@@ -145,8 +145,7 @@ bool TablePage::ShowFound(std::optional<int> row, double milliseconds)
 std::string TablePage::NotFound() const
 {
     const std::string words = "No record has " + (m_terms.value.empty() ? "an empty field" : m_terms.value) + " there.";
-    auto& table = const_cast<vorn::DataTable&>(m_table); // reading moves its current record
-    if (m_terms.method == vorn::SearchMethod::Linear || table.IsSortedBy(m_terms.field))
+    if (m_terms.method == vorn::SearchMethod::Linear || m_table.IsSortedBy(m_terms.field))
         return words;
     return "The binary search found nothing, but the table is not sorted by this field. Try the linear one.";
 }
