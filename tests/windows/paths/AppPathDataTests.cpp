@@ -1,6 +1,7 @@
 #include "config/AppPathData.h"
 
 #include "config/AppRegMgr.h"
+#include "tests/support/ImportRedirect.h"
 #include "tests/support/VirtualSlot.h"
 #include "tests/windows/paths/PathSettings.h"
 
@@ -40,6 +41,14 @@ protected:
         return std::string(record.GetProfilePath(key, standard, "Paths"));
     }
 };
+
+std::vector<HANDLE> g_closed; ///< searches that the library ended
+
+BOOL WINAPI NoteFindClose(HANDLE search)
+{
+    g_closed.push_back(search);
+    return FindClose(search);
+}
 
 /// Counts what goes through the virtual operations.
 class CountingRecord : public AppPathData
@@ -346,6 +355,47 @@ TEST_F(PathRecord, CopiesAreDeep)
     AppPathData& same = record;
     record = same;
     EXPECT_EQ(Instance(record, DP_DATA), "Q:\\other");
+}
+
+TEST_F(PathRecord, CopiesHaveEveryField)
+{
+    Set("Home Path", "Q:\\Fam\\Vornwald\\Planner\\");
+    AppPathData record(PCV_LEGACY, kApp);
+    Set("Home Path", "Q:\\Elsewhere\\");
+    AppPathData constructed(record);
+    AppPathData assigned(PCV_VISTA, "Viewer");
+    assigned = record;
+    // Known folders are worked out once: the other layout is filled from the fields that were copied.
+    record.SetPathCfgVer(PCV_VISTA, kApp);
+    for (AppPathData* copy : {&constructed, &assigned})
+    {
+        EXPECT_EQ(copy->GetPathCfgVer(), PCV_LEGACY);
+        EXPECT_EQ(copy->GetApplication(), kApp);
+        EXPECT_EQ(copy->GetPathConfig(PCV_VISTA), nullptr);
+        copy->SetPathCfgVer(PCV_VISTA, kApp);
+        for (int path = 0; path < DP_COUNT; ++path)
+        {
+            EXPECT_NE(Instance(*copy, path), "") << path;
+            EXPECT_EQ(Instance(*copy, path), Instance(record, path)) << path;
+        }
+    }
+}
+
+TEST_F(PathRecord, EndsTheSearchForTheMarkerWhetherItBeganOrNot)
+{
+    Set("Home Path", Folder());
+    const ImportRedirect redirect("VornCommon.dll", "FindClose", reinterpret_cast<const void*>(&NoteFindClose));
+    ASSERT_TRUE(redirect.IsActive());
+    // Airport diagrams make a search too; the marker's is the first.
+    g_closed.clear();
+    AppPathData absent(PCV_AUTO, kApp);
+    ASSERT_FALSE(g_closed.empty());
+    EXPECT_EQ(g_closed.front(), INVALID_HANDLE_VALUE);
+    Scratch().Write("Vista.app", "");
+    g_closed.clear();
+    AppPathData present(PCV_AUTO, kApp);
+    ASSERT_FALSE(g_closed.empty());
+    EXPECT_NE(g_closed.front(), INVALID_HANDLE_VALUE);
 }
 
 TEST_F(PathRecord, FillingGoesThroughTheVirtualOperations)
