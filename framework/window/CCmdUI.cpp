@@ -132,7 +132,10 @@ BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
     }
     m_bEnableChanged = FALSE;
     const BOOL answered = pTarget->OnCmdMsg(m_nID, CN_UPDATE_COMMAND_UI, this, nullptr);
-    if (bDisableIfNoHndler && !m_bEnableChanged)
+    // A handler may have taken its item out of the menu: what stands there now is another one.
+    const bool hasItem =
+        !m_pMenu || m_pSubMenu || ::GetMenuItemID(m_pMenu->m_hMenu, static_cast<int>(m_nIndex)) == m_nID;
+    if (bDisableIfNoHndler && !m_bEnableChanged && hasItem)
     {
         AFX_CMDHANDLERINFO info = {};
         Enable(pTarget->OnCmdMsg(m_nID, CN_COMMAND, this, &info));

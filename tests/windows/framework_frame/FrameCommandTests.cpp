@@ -176,11 +176,17 @@ protected:
         if (cmdUI->m_pMenu)
             cmdUI->m_pMenu->DeleteMenu(cmdUI->m_nID, MF_BYCOMMAND);
     }
+    afx_msg void OnUpdateNobody(CCmdUI* cmdUI)
+    {
+        cmdUI->Enable(TRUE);
+        cmdUI->SetCheck();
+    }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(ShrinkingFrame, TestFrame)
 ON_UPDATE_COMMAND_UI(ID_TEST_VIEW, &ShrinkingFrame::OnUpdateView)
+ON_UPDATE_COMMAND_UI(ID_TEST_NOBODY, &ShrinkingFrame::OnUpdateNobody)
 END_MESSAGE_MAP()
 } // namespace
 
@@ -195,8 +201,24 @@ TEST_F(FrameCommands, FirstItemMayGoWithoutTheNextBeingMissed)
     popup.AppendMenu(MF_STRING, ID_TEST_NOBODY + 100, "last");
     frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(popup.m_hMenu), 0);
     ASSERT_EQ(2U, popup.GetMenuItemCount());
-    EXPECT_TRUE(popup.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED) << "nobody handles it";
-    EXPECT_TRUE(popup.GetMenuState(1, MF_BYPOSITION) & MF_GRAYED);
+    EXPECT_TRUE(popup.GetMenuState(0, MF_BYPOSITION) & MF_CHECKED);
+    EXPECT_TRUE(popup.GetMenuState(1, MF_BYPOSITION) & MF_GRAYED) << "nobody handles it";
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameCommands, ItemThatWentLeavesItsNeighbourEnabled)
+{
+    auto* frame = new ShrinkingFrame;
+    ASSERT_TRUE(frame->LoadFrame(IDR_TEST_FRAME));
+    CMenu popup;
+    popup.CreatePopupMenu();
+    popup.AppendMenu(MF_STRING, ID_TEST_VIEW, "goes");
+    popup.AppendMenu(MF_STRING, ID_APP_EXIT, "the application's");
+    CCmdUI state;
+    state.m_pMenu = &popup;
+    state.m_nID = ID_TEST_VIEW;
+    state.DoUpdate(frame, TRUE);
+    EXPECT_FALSE(popup.GetMenuState(ID_APP_EXIT, MF_BYCOMMAND) & MF_GRAYED);
     frame->DestroyWindow();
 }
 
