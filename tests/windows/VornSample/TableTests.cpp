@@ -447,6 +447,30 @@ TEST_F(SampleTables, SayThatATableIsOpenElsewhereAndCannotBeChanged)
     EXPECT_EQ(m_folder.Read("aids.dbf"), before);
 }
 
+TEST_F(SampleTables, StayAsTheyWereWhenPackingCannotReplaceThem)
+{
+    Start(m_table, 4);
+    Press(VK_DELETE);
+    AnswerBox(IDYES);
+    EXPECT_TRUE(NoticeBecomes("Deleted: record 1.")) << Notice();
+    const std::string before = m_folder.Read("aids.dbf");
+    const HANDLE reader = CreateFileA(m_table.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                      OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(reader, INVALID_HANDLE_VALUE);
+    PostMessageA(m_window, WM_COMMAND, kPackCommand, 0);
+    AnswerBox(IDYES);
+    EXPECT_TRUE(NoticeBecomes("The table was not packed. The change could not be written; the table is as it was."))
+        << Notice();
+    AnswerBox(IDOK);
+    EXPECT_EQ(m_folder.Read("aids.dbf"), before);
+    CloseHandle(reader);
+    PostMessageA(m_window, WM_COMMAND, kPackCommand, 0);
+    AnswerBox(IDYES);
+    EXPECT_TRUE(NoticeBecomes("Packed")) << Notice();
+    End();
+    EXPECT_EQ(m_folder.Read("aids.dbf").size(), kHead + 3 * kRecord);
+}
+
 TEST_F(SampleTables, SayThatATableCannotBeOpened)
 {
     const HANDLE writer =
