@@ -34,7 +34,7 @@ target_link_options(HostFramework INTERFACE
     "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:LINKER:-u,_WinMain@16>")
 
 vorn_library(TarnUtil TARNUTIL_BUILD family/TarnUtil)
-target_link_libraries(TarnUtil PUBLIC HostFramework)
+target_link_libraries(TarnUtil PUBLIC HostFramework PRIVATE $<BUILD_INTERFACE:vorn_geodesics>)
 
 vorn_library(TarnComm TARNCOMM_BUILD family/TarnComm)
 target_link_libraries(TarnComm PUBLIC TarnUtil)

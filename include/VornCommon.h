@@ -15,6 +15,7 @@
 #include <prsht.h>
 
 #include "family/TarnUtil/core/FixCase.h"
+#include "family/TarnUtil/core/LatLon.h"
 #include "family/TarnUtil/core/SynchObject.h"
 #include "family/TarnUtil/core/TarnObject.h"
 #include "family/TarnUtil/core/Units.h"
@@ -24,6 +25,10 @@
 #include "aviation/ConversionBoy.h"
 #include "aviation/Date.h"
 #include "aviation/Formatting.h"
+#include "aviation/core/ColorText.h"
+#include "aviation/core/DistributePoints.h"
+#include "aviation/core/Morse.h"
+#include "aviation/core/SmoothLine.h"
 #include "config/AppRegData.h"
 #include "config/AppRegMgr.h"
 #include "config/DefinedPathSetting.h"

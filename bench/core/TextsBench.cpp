@@ -9,11 +9,9 @@
 #include "frame/core/Split.h"
 #include "frame/core/StringSort.h"
 
+#include <GeographicLib/DMS.hpp>
 #include <benchmark/benchmark.h>
 
-#ifdef VORN_HAVE_GEOGRAPHICLIB
-#include <GeographicLib/DMS.hpp>
-#endif
 #ifndef _WIN32
 #include <fnmatch.h>
 #endif
@@ -88,7 +86,6 @@ void PositionPrintf(benchmark::State& state)
 #pragma GCC diagnostic pop
 BENCHMARK(PositionPrintf)->Name("Position/printf")->Arg(0)->Arg(1);
 
-#ifdef VORN_HAVE_GEOGRAPHICLIB
 void PositionGeographicLib(benchmark::State& state)
 {
     const std::vector<double> values = Coordinates();
@@ -99,7 +96,6 @@ void PositionGeographicLib(benchmark::State& state)
             GeographicLib::DMS::Encode(values[i++ % values.size()], trailing, 1, GeographicLib::DMS::LATITUDE));
 }
 BENCHMARK(PositionGeographicLib)->Name("Position/GeographicLib")->Arg(0)->Arg(1);
-#endif
 
 void Duration(benchmark::State& state)
 {

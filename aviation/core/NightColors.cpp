@@ -1,0 +1,34 @@
+#include "aviation/core/NightColors.h"
+
+namespace vorn
+{
+
+BYTE LowByteOf(double value)
+{
+    constexpr double kLimit = 9223372036854775808.0; // 2^63: from there on whole numbers are multiples of 2048
+    return value > -kLimit && value < kLimit ? static_cast<BYTE>(static_cast<long long>(value) & 0xFF) : BYTE{0};
+}
+
+COLORREF Dimmed(COLORREF color, const NightScales& scales)
+{
+    BYTE red = RedOf(color);
+    BYTE green = GreenOf(color);
+    BYTE blue = BlueOf(color);
+    Dim(red, green, blue, scales);
+    return PaletteColor(red, green, blue);
+}
+
+void Dim(BYTE& red, BYTE& green, BYTE& blue, const NightScales& scales)
+{
+    red = LowByteOf(red * scales.red);
+    green = LowByteOf(green * scales.green);
+    blue = LowByteOf(blue * scales.blue);
+}
+
+COLORREF Undimmed(COLORREF color, const NightScales& scales)
+{
+    return PaletteColor(LowByteOf(RedOf(color) / scales.red), LowByteOf(GreenOf(color) / scales.green),
+                        LowByteOf(BlueOf(color) / scales.blue));
+}
+
+} // namespace vorn
