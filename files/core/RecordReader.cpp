@@ -34,6 +34,34 @@ void RecordReader::SetReadAhead(int records)
     m_left = 0; // the block itself holds the current record and goes with the next read
 }
 
+bool RecordReader::Find(int index)
+{
+    if (index < 0)
+        index = Following();
+    while (index >= 0 && Take(index))
+    {
+        if (*m_record != '*')
+            return true;
+        index = Following();
+    }
+    return false;
+}
+
+bool RecordReader::Take(int index)
+{
+    m_current = index;
+    m_isCurrent = false;
+    if ((m_left == 0 || static_cast<unsigned>(index) != m_next || IsTouched()) && !Fill(index))
+        return false;
+    m_record = m_ahead;
+    m_ahead += m_layout.recordLength;
+    --m_left;
+    m_next = static_cast<unsigned>(index) + 1;
+    m_isCurrent = true;
+    m_key.Apply(m_record, static_cast<std::size_t>(m_layout.recordLength));
+    return true;
+}
+
 bool RecordReader::ReadOne(int index)
 {
     m_onlyOne = true;

@@ -25,17 +25,7 @@ public:
     /// Makes a record current, or the next live one when it is deleted; -1 reads on. False when there is none.
     bool Read(int index)
     {
-        if (index < 0 && (index = Following()) < 0)
-            return false;
-        while (Take(index))
-        {
-            if (*m_record != '*')
-                return true;
-            index = Following();
-            if (index < 0)
-                return false;
-        }
-        return false;
+        return (index < 0 && Step()) || Find(index);
     }
     /// The same, fetching no more than the one record at first.
     bool ReadOne(int index);
@@ -80,25 +70,26 @@ private:
             return m_current + 1;
         m_current = m_layout.records;
         m_isCurrent = false;
+        m_left = 0; // what lies ahead no longer follows the current one
         return -1;
     }
 
-    bool Take(int index)
+    // Most reads: the next record lies ahead in the block, is live and not coded. The current one is then the one
+    // before, so only what differs is stored. False, with nothing changed, for any other.
+    bool Step()
     {
-        m_current = index;
-        m_isCurrent = false;
-        if ((m_left == 0 || static_cast<unsigned>(index) != m_next || IsTouched()) && !Fill(index))
+        char* record = m_ahead;
+        if (m_left == 0 || m_current >= m_layout.records - 1 || IsTouched() || m_key.IsSet() || *record == '*')
             return false;
-        m_record = m_ahead;
-        m_ahead += m_layout.recordLength;
+        m_record = record;
+        m_ahead = record + m_layout.recordLength;
         --m_left;
-        m_next = static_cast<unsigned>(index) + 1;
-        m_isCurrent = true;
-        if (m_key.IsSet())
-            m_key.Apply(m_record, static_cast<std::size_t>(m_layout.recordLength));
+        m_next = static_cast<unsigned>(++m_current) + 1;
         return true;
     }
 
+    bool Find(int index);
+    bool Take(int index);
     bool Fill(int index);
     int ReadBlock(int index);
     bool MakeBlock();

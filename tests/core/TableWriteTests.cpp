@@ -430,6 +430,20 @@ TEST_P(TableWrite, WriteNumRecords_MovesNeitherTheCurrentRecordNorThePlace)
     EXPECT_EQ(Bytes(), Small().StateCount(3).Bytes());
 }
 
+TEST_P(TableWrite, WriteNumRecords_AfterTheEndLetsReadingGoOnBehindIt)
+{
+    m_table.Close();
+    ASSERT_EQ(m_table.Open(m_folder.Write("t.dbf", Small().StateCount(2).Bytes()).c_str(), CFile::modeReadWrite), 1);
+    while (m_table.ReadRecord(-1) == 1)
+    {
+    }
+    EXPECT_EQ(m_table.CurRecIndex(), 2);
+    EXPECT_EQ(m_table.WriteNumRecords(nullptr, 4), 1);
+    EXPECT_EQ(m_table.ReadRecord(-1), 1);
+    EXPECT_EQ(m_table.CurRecIndex(), 3);
+    EXPECT_STREQ(m_table.GetFieldValue("A"), "for");
+}
+
 TEST_P(TableWrite, Writers_WithoutATableWriteNothing)
 {
     CFile other(m_folder.File("o.bin").c_str(), CFile::modeCreate | CFile::modeReadWrite);
