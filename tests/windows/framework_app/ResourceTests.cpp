@@ -1,3 +1,4 @@
+#include "tests/support/ScratchFolder.h"
 #include "tests/windows/framework_app/extension/Extension.h"
 
 #include <gtest/gtest.h>
@@ -186,4 +187,25 @@ TEST(ExtensionLibraries, GiveBaseClassesWithMessageMaps)
     EXPECT_EQ(window.SendMessage(kSharedMessage, 1), 100);
     EXPECT_EQ(window.hostCalls, 2);
     EXPECT_EQ(window.extensionCalls, 2);
+}
+
+TEST(ExtensionLibraries, LeaveTheChainWhenTheyAreUnloaded)
+{
+    // A second copy, which nothing holds in memory.
+    char path[MAX_PATH] = {};
+    ::GetModuleFileName(ExtensionModule(), path, MAX_PATH);
+    const vorn::test::ScratchFolder folder;
+    const std::string copy = folder.File("second_extension.dll");
+    ASSERT_TRUE(::CopyFile(path, copy.c_str(), FALSE));
+    const HMODULE second = ::LoadLibrary(copy.c_str());
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(AfxFindStringResourceHandle(1000), second) << "the newest comes first";
+    AfxSetResourceHandle(second);
+    ASSERT_TRUE(::FreeLibrary(second));
+    EXPECT_EQ(::GetModuleHandle("second_extension.dll"), nullptr);
+    EXPECT_EQ(AfxFindStringResourceHandle(1000), ExtensionModule());
+    EXPECT_EQ(AfxGetResourceHandle(), AfxGetInstanceHandle()) << "a module that went is nobody's choice";
+    ExtensionWindow window;
+    ASSERT_TRUE(window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
+    EXPECT_EQ(window.SendMessage(kExtensionMessage, 5), 6);
 }
