@@ -22,6 +22,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
 {
     m_bAutoDelete = FALSE; // usually a static object
     m_nThreadID = ::GetCurrentThreadId();
+    m_hThread = ::GetCurrentThread(); // stands for the thread without being a handle that must be closed
     vorn::CurrentThreadState().thread = this;
     vorn::SetApp(this);
 }

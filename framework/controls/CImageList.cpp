@@ -106,7 +106,10 @@ CImageList::operator HIMAGELIST() const
 
 HIMAGELIST CImageList::GetSafeHandle() const
 {
-    return m_hImageList;
+    // Callers may ask through a null pointer; the detour keeps the compiler from assuming that they do not.
+    const CImageList* volatile self = this;
+    const CImageList* list = self;
+    return list ? list->m_hImageList : nullptr;
 }
 
 CImageList* CImageList::FromHandle(HIMAGELIST list)

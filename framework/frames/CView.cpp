@@ -19,6 +19,10 @@ CView::CView() = default;
 
 CView::~CView()
 {
+    // A view that is deleted with its window alive runs no OnDestroy().
+    CFrameWnd* frame = GetParentFrame();
+    if (frame && frame->GetActiveView() == this)
+        frame->SetActiveView(nullptr, FALSE);
     if (m_pDocument)
         m_pDocument->RemoveView(this);
 }

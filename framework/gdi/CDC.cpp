@@ -45,7 +45,10 @@ CDC::operator HDC() const
 
 HDC CDC::GetSafeHdc() const
 {
-    return m_hDC;
+    // Callers may ask through a null pointer; the detour keeps the compiler from assuming that they do not.
+    const CDC* volatile self = this;
+    const CDC* dc = self;
+    return dc ? dc->m_hDC : nullptr;
 }
 
 CWnd* CDC::GetWindow() const

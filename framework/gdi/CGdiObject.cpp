@@ -13,7 +13,10 @@ CGdiObject::~CGdiObject()
 
 HGDIOBJ CGdiObject::GetSafeHandle() const
 {
-    return m_hObject;
+    // Callers may ask through a null pointer; the detour keeps the compiler from assuming that they do not.
+    const CGdiObject* volatile self = this;
+    const CGdiObject* object = self;
+    return object ? object->m_hObject : nullptr;
 }
 
 CGdiObject::operator HGDIOBJ() const

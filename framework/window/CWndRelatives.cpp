@@ -85,7 +85,8 @@ BOOL CWnd::IsFrameWnd() const
 
 CWnd* CWnd::GetSafeOwner(CWnd* pParent, HWND* pTopLevel)
 {
-    HWND window = pParent->GetSafeHwnd();
+    // Asked first: after a call through the pointer the compiler takes it for one that is not null.
+    HWND window = pParent ? pParent->m_hWnd : nullptr;
     if (!window)
     {
         window = AfxGetMainWnd()->GetSafeHwnd();

@@ -40,6 +40,17 @@ TEST(AppObject, HasItsNameWithoutAnyStartUp)
     EXPECT_EQ(AfxGetThread(), &app);
 }
 
+TEST(AppObject, StandsForTheMainThread)
+{
+    CWinApp app("Host");
+    EXPECT_EQ(app.m_nThreadID, ::GetCurrentThreadId());
+    EXPECT_EQ(app.GetThreadPriority(), THREAD_PRIORITY_NORMAL);
+    EXPECT_TRUE(app.SetThreadPriority(THREAD_PRIORITY_ABOVE_NORMAL));
+    EXPECT_EQ(::GetThreadPriority(::GetCurrentThread()), THREAD_PRIORITY_ABOVE_NORMAL);
+    EXPECT_TRUE(app.SetThreadPriority(THREAD_PRIORITY_NORMAL));
+    EXPECT_FALSE(app.CreateThread()) << "its thread runs";
+}
+
 TEST(AppObject, WithoutNameIsCalledLikeTheProgram)
 {
     const CWinApp app;

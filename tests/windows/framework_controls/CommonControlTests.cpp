@@ -349,6 +349,12 @@ TEST_F(ListControlTest, NotificationIsReflected)
     EXPECT_EQ(list.m_inserted, 1);
 }
 
+TEST(ImageListTest, AnswersForANullPointer)
+{
+    const CImageList* const volatile none = nullptr; // the compiler must not see it
+    EXPECT_EQ(none->GetSafeHandle(), nullptr);
+}
+
 TEST(ImageListTest, OwnsItsHandle)
 {
     HIMAGELIST handle = nullptr;

@@ -90,6 +90,19 @@ TEST_F(View, ThatGoesIsNoLongerActive)
     frame->DestroyWindow();
 }
 
+TEST_F(View, DeletedWithALivingWindowIsNoLongerActive)
+{
+    TestFrame* frame = ShowFrameWithView();
+    TestView* view = ViewOf(*frame);
+    ASSERT_EQ(view, frame->GetActiveView());
+    const HWND window = view->m_hWnd;
+    delete view;
+    EXPECT_EQ(nullptr, frame->GetActiveView());
+    EXPECT_FALSE(::IsWindow(window));
+    frame->SendMessage(WM_COMMAND, ID_TEST_VIEW);
+    frame->DestroyWindow();
+}
+
 TEST_F(View, GetsItsFirstContentByInitialUpdate)
 {
     TestFrame* frame = ShowFrameWithView();

@@ -82,6 +82,15 @@ TEST(DeviceContext, IsForgottenWhenItsOutputIsReleased)
     ::DeleteDC(other);
 }
 
+TEST(DeviceContext, AnswersForANullPointer)
+{
+    // Volatile: the compiler must not see that the pointers are null.
+    const CDC* const volatile none = nullptr;
+    EXPECT_EQ(nullptr, none->GetSafeHdc());
+    const CGdiObject* const volatile object = nullptr;
+    EXPECT_EQ(nullptr, object->GetSafeHandle());
+}
+
 TEST(DeviceContext, DeletesWhatItCreated)
 {
     HDC handle = nullptr;

@@ -301,6 +301,12 @@ TEST_F(Wrappers, ChooseASafeOwner)
     ASSERT_TRUE(CreatePopup(owned, window.m_hWnd));
     EXPECT_EQ(CWnd::GetSafeOwner(&owned, &top), &owned);
     EXPECT_EQ(top, window.m_hWnd) << "and the top of the owners is disabled meanwhile";
+    window.ShowWindow(SW_SHOW);
+    owned.ShowWindow(SW_SHOW);
+    owned.SetActiveWindow();
+    ASSERT_EQ(::GetLastActivePopup(window.m_hWnd), owned.m_hWnd);
+    EXPECT_EQ(CWnd::GetSafeOwner(nullptr, &top), &owned) << "without parent the popup that was active last owns";
+    EXPECT_EQ(CWnd::GetSafeOwner(&window, &top), &window);
     app.m_pMainWnd = nullptr;
 }
 
