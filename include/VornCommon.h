@@ -14,6 +14,7 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include "family/TarnUtil/core/ColorMap.h"
 #include "family/TarnUtil/core/FixCase.h"
 #include "family/TarnUtil/core/LatLon.h"
 #include "family/TarnUtil/core/SynchObject.h"

@@ -1,0 +1,131 @@
+#include "files/core/PaletteCells.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <vector>
+
+namespace
+{
+
+/// Answers a colour's red, and remembers what it was asked.
+class Asked
+{
+public:
+    BYTE operator()(BYTE red, BYTE green, BYTE blue)
+    {
+        m_colors.push_back(red << 16 | green << 8 | blue);
+        return red;
+    }
+    const std::vector<int>& Colors() const
+    {
+        return m_colors;
+    }
+
+private:
+    std::vector<int> m_colors;
+};
+
+} // namespace
+
+TEST(PaletteCells, TheFirstColourOfACellDecidesForAll)
+{
+    vorn::PaletteCells cells(16);
+    Asked asked;
+    EXPECT_EQ(cells.IndexOf(3, 0, 0, asked), 3);
+    EXPECT_EQ(cells.IndexOf(15, 15, 15, asked), 3);
+    EXPECT_EQ(cells.IndexOf(0, 0, 0, asked), 3);
+    EXPECT_EQ(cells.IndexOf(16, 15, 15, asked), 16);
+    EXPECT_EQ(asked.Colors(), (std::vector<int>{0x030000, 0x100F0F}));
+}
+
+TEST(PaletteCells, TheColourItselfIsAskedNotTheCellsMiddle)
+{
+    vorn::PaletteCells cells(8);
+    Asked asked;
+    cells.IndexOf(33, 70, 250, asked);
+    EXPECT_EQ(asked.Colors(), std::vector<int>{0x2146FA});
+}
+
+TEST(PaletteCells, TheAnswer255IsAskedAgainEveryTime)
+{
+    vorn::PaletteCells cells(1);
+    Asked asked;
+    EXPECT_EQ(cells.IndexOf(255, 1, 2, asked), 255);
+    EXPECT_EQ(cells.IndexOf(255, 3, 4, asked), 255);
+    EXPECT_EQ(cells.IndexOf(254, 5, 6, asked), 254);
+    EXPECT_EQ(cells.IndexOf(255, 7, 8, asked), 254);
+    EXPECT_EQ(asked.Colors().size(), 3U);
+}
+
+TEST(PaletteCells, ResetForgetsEveryAnswer)
+{
+    vorn::PaletteCells cells(32);
+    Asked asked;
+    for (int round = 0; round < 3; ++round)
+    {
+        cells.IndexOf(0, 0, 0, asked);
+        cells.IndexOf(200, 200, 200, asked);
+        cells.IndexOf(200, 200, 200, asked);
+        cells.Reset();
+    }
+    EXPECT_EQ(asked.Colors().size(), 6U);
+}
+
+TEST(PaletteCells, RedIsOutermost)
+{
+    const vorn::PaletteCells cells(16);
+    EXPECT_EQ(cells.CellOf(0, 0, 0), 0U);
+    EXPECT_EQ(cells.CellOf(0, 0, 16), 1U);
+    EXPECT_EQ(cells.CellOf(0, 16, 0), 16U);
+    EXPECT_EQ(cells.CellOf(16, 0, 0), 256U);
+    EXPECT_EQ(cells.CellOf(255, 255, 255), 4095U);
+}
+
+TEST(PaletteCells, EveryColourHasACellWhateverTheResolution)
+{
+    for (const int resolution : {1, 2, 3, 5, 8, 16, 32, 64, 85, 100, 127, 128, 129})
+    {
+        const vorn::PaletteCells cells(resolution);
+        ASSERT_EQ(cells.Resolution(), resolution);
+        const int step = 256 / resolution;
+        for (int value = 0; value < 256; ++value)
+        {
+            const BYTE channel = static_cast<BYTE>(value);
+            const std::size_t wanted =
+                static_cast<std::size_t>(value / step < resolution ? value / step : resolution - 1);
+            const std::size_t side = static_cast<std::size_t>(resolution);
+            ASSERT_EQ(cells.CellOf(0, 0, channel), wanted) << resolution << ' ' << value;
+            ASSERT_EQ(cells.CellOf(0, channel, 0), wanted * side);
+            ASSERT_EQ(cells.CellOf(channel, 0, 0), wanted * side * side);
+        }
+        ASSERT_EQ(cells.CellOf(255, 255, 255),
+                  static_cast<std::size_t>(resolution) * static_cast<std::size_t>(resolution * resolution) - 1);
+    }
+}
+
+TEST(PaletteCells, ResolutionsAreClamped)
+{
+    EXPECT_EQ(vorn::PaletteCells(0).Resolution(), 1);
+    EXPECT_EQ(vorn::PaletteCells(-5).Resolution(), 1);
+    EXPECT_EQ(vorn::PaletteCells(INT_MIN).Resolution(), 1);
+    vorn::PaletteCells finest(INT_MAX);
+    EXPECT_EQ(finest.Resolution(), 256);
+    Asked asked;
+    EXPECT_EQ(finest.IndexOf(254, 255, 255, asked), 254);
+    EXPECT_EQ(finest.IndexOf(253, 255, 255, asked), 253);
+    EXPECT_EQ(finest.IndexOf(254, 255, 255, asked), 254);
+    EXPECT_EQ(asked.Colors().size(), 2U);
+}
+
+TEST(PaletteCells, ASearchRunsOnceACell)
+{
+    vorn::PaletteCells cells(4);
+    Asked asked;
+    for (int color = 0; color < 1 << 15; ++color)
+    {
+        cells.IndexOf(static_cast<BYTE>((color >> 10) * 8), static_cast<BYTE>((color >> 5 & 31) * 8),
+                      static_cast<BYTE>((color & 31) * 8), asked);
+    }
+    EXPECT_EQ(asked.Colors().size(), 64U);
+}
