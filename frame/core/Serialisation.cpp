@@ -27,7 +27,7 @@ bool WithoutExceptions(Transfer&& transfer)
 bool Read(Fields& fields, CString& text)
 {
     text.Empty();
-    const bool read = WithoutExceptions(
+    return WithoutExceptions(
         [&]
         {
             return fields.ReadText(
@@ -36,9 +36,6 @@ bool Read(Fields& fields, CString& text)
                     return text.GetBufferSetLength(length);
                 });
         });
-    if (!read)
-        text.Empty();
-    return read;
 }
 
 bool Write(Fields& fields, const CString& text)

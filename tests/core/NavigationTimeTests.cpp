@@ -131,6 +131,10 @@ TEST(MomentOfJulian, AsksForTheSeasonOfTheUnshiftedTime)
     // off again.
     EXPECT_EQ(MomentOfJulian(2460492.5f, Eastern(ZoneState::Daylight), kThisYear, EasternClock()),
               kSummer2024 - 12 * 3600);
+    // 2024-03-10 06:00 UTC and 2024-11-03 06:00 UTC, read as local: four hours after the one change and four after the
+    // other. Before the shift they stand on the far side of it, behind it they would not.
+    EXPECT_EQ(MomentOfJulian(2460379.75f, Eastern(ZoneState::Daylight), kThisYear, EasternClock()), 1710050400);
+    EXPECT_EQ(MomentOfJulian(2460617.75f, Eastern(ZoneState::Daylight), kThisYear, EasternClock()), 1730613600);
     // The summer of another year: the runtime knows daylight time, the season of this year does not hold, an hour is
     // lost.
     EXPECT_EQ(MomentOfJulian(2460127.0f, Eastern(ZoneState::Daylight), kThisYear, EasternClock()), kSummer2023 - 3600);

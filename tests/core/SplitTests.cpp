@@ -84,6 +84,17 @@ TEST(SplitText, KeepsEveryCharacterAtAnyLength)
     }
 }
 
+TEST(SplitText, MakesAnyNumberOfPieces)
+{
+    std::string text = "0";
+    for (int i = 1; i < 5000; ++i)
+        text += ',' + std::to_string(i);
+    const Pieces pieces = Split(text, ",");
+    ASSERT_EQ(pieces.size(), 5000U);
+    EXPECT_EQ(pieces[1024], "1024");
+    EXPECT_EQ(pieces.back(), "4999");
+}
+
 TEST(SplitText, TextsWithAWholeLengthAroundTheFixedBufferSplitAlike)
 {
     for (std::size_t length = 1022; length <= 1026; ++length)

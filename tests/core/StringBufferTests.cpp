@@ -1,5 +1,7 @@
 #include "frame/core/StringBuffer.h"
 
+#include "frame/core/SharedArrays.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -196,8 +198,27 @@ TEST(StringBuffer, ATextAssignedToOneHolderLeavesTheArrayToTheOther)
         StringBuffer second(0L);
         second = first;
         second = "text";
+        EXPECT_TRUE(vorn::RemoveHolder(static_cast<char*>(first))) << "one holder is left, who will release it";
     }
     EXPECT_EQ(Text(first), "abc");
+}
+
+TEST(StringBuffer, HoldersOfOtherArraysAreCountedApart)
+{
+    StringBuffer pair("pair");
+    StringBuffer secondOfPair(0L);
+    secondOfPair = pair;
+    StringBuffer three("three");
+    StringBuffer secondOfThree(0L);
+    StringBuffer thirdOfThree(0L);
+    secondOfThree = three;
+    thirdOfThree = three;
+    secondOfPair.Resize(1);
+    EXPECT_TRUE(vorn::RemoveHolder(static_cast<char*>(pair))) << "one holder is left";
+    secondOfThree.Resize(1);
+    thirdOfThree.Resize(1);
+    EXPECT_TRUE(vorn::RemoveHolder(static_cast<char*>(three)));
+    EXPECT_EQ(Text(three), "three");
 }
 
 TEST(StringBuffer, AppendsTexts)
