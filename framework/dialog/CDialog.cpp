@@ -93,7 +93,8 @@ bool CDialog::CreateFrom(const LoadedDialogTemplate& dialogTemplate, HWND owner)
     m_ended = false;
     const vorn::ModalOwner* const modalOwner = m_modalOwner;
     const vorn::DialogCreation created = vorn::CreateDialogWindow(*this, dialogTemplate, owner);
-    if (!created.window)
+    // A dialog that was destroyed in its initialisation may have taken its object along: only the map tells.
+    if (!created.window || FromHandlePermanent(created.window) != this)
     {
         if (!created.bound)
             PostNcDestroy();

@@ -69,6 +69,42 @@ TEST(ModalTrouble, ExceptionOfAHandlerIsReportedAndTheDialogGoesOn)
     EXPECT_EQ(g_app.m_messages.size(), 1u);
 }
 
+TEST(ModalTrouble, DestroyedInOnInitDialogGivesTheOwnerBack)
+{
+    OwnerWindow owner;
+    NotingDialog dialog(&owner);
+    dialog.m_onInit = [](NotingDialog& self)
+    {
+        self.DestroyWindow();
+        return FALSE;
+    };
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_EQ(dialog.m_postNcDestroyCount, 1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    dialog.m_onInit = [](NotingDialog& self)
+    {
+        self.EndDialog(7);
+        self.DestroyWindow();
+        return FALSE;
+    };
+    EXPECT_EQ(dialog.DoModal(), 7) << "it had its result before";
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalTrouble, DeletedInOnInitDialogGivesTheOwnerBack)
+{
+    OwnerWindow owner;
+    auto* dialog = new NotingDialog(&owner);
+    dialog->m_onInit = [](NotingDialog& self)
+    {
+        delete &self;
+        return FALSE;
+    };
+    EXPECT_EQ(dialog->DoModal(), -1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
 TEST(ModalTrouble, RunsInAThreadOfAnotherMaking)
 {
     INT_PTR result = 0;

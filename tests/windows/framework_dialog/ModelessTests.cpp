@@ -104,6 +104,25 @@ TEST_F(ModelessDialog, NotificationsComeAgainAfterAForeignExceptionInTheExchange
     dialog.DestroyWindow();
 }
 
+TEST_F(ModelessDialog, DestroyedOrDeletedInOnInitDialogIsNotCreated)
+{
+    NotingDialog dialog;
+    dialog.m_onInit = [](NotingDialog& self)
+    {
+        self.DestroyWindow();
+        return TRUE;
+    };
+    EXPECT_FALSE(dialog.CreateIndirect(AsTemplate(m_bytes)));
+    EXPECT_EQ(dialog.m_postNcDestroyCount, 1);
+    auto* deleted = new NotingDialog;
+    deleted->m_onInit = [](NotingDialog& self)
+    {
+        delete &self;
+        return TRUE;
+    };
+    EXPECT_FALSE(deleted->CreateIndirect(AsTemplate(m_bytes)));
+}
+
 TEST_F(ModelessDialog, SecondCreateIsRefused)
 {
     CDialog dialog;
