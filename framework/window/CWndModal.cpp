@@ -87,7 +87,10 @@ private:
     {
         m_showWhenIdle = false;
         m_frame.window->ShowWindow(SW_SHOWNORMAL);
-        m_frame.window->UpdateWindow();
+        if (m_frame.window) // unless its handlers ended it
+        {
+            m_frame.window->UpdateWindow();
+        }
     }
 
     void ShowIfAsked()
@@ -107,7 +110,7 @@ private:
             {
                 Show();
             }
-            m_idle = KickIdle();
+            m_idle = GoesOn() && KickIdle();
         }
         vorn::FreeTemporaryObjects();
     }

@@ -367,6 +367,26 @@ TEST_F(ModalLoops, EndWhenTheirObjectIsDeleted)
     EXPECT_EQ(object, nullptr);
 }
 
+TEST_F(ModalLoops, EndWhenTheObjectIsDeletedAsItIsShown)
+{
+    class EndsWhenShown : public Modal
+    {
+    public:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_SHOWWINDOW && wParam)
+            {
+                delete this;
+                return 0;
+            }
+            return Modal::WindowProc(message, wParam, lParam);
+        }
+    };
+    auto* window = new EndsWhenShown;
+    ASSERT_TRUE(CreatePopup(*window));
+    EXPECT_EQ(window->RunModalLoop(MLF_SHOWONIDLE), -1);
+}
+
 TEST_F(ModalLoops, RefuseToRunWithoutWindowOrTwice)
 {
     Modal none;
