@@ -1,12 +1,25 @@
 #include "aviation/core/NightColors.h"
 
+#include <cmath>
+
 namespace vorn
 {
 
-BYTE LowByteOf(double value)
+namespace
+{
+
+BYTE LowByteOfLarge(double value)
 {
     constexpr double kLimit = 9223372036854775808.0; // 2^63: from there on whole numbers are multiples of 2048
-    return value > -kLimit && value < kLimit ? static_cast<BYTE>(static_cast<long long>(value) & 0xFF) : BYTE{0};
+    return std::abs(value) < kLimit ? static_cast<BYTE>(static_cast<long long>(value) & 0xFF) : BYTE{0};
+}
+
+} // namespace
+
+BYTE LowByteOf(double value)
+{
+    constexpr double kLimit = 2147483648.0; // 2^31: up to there the conversion is one instruction on 32 bits
+    return std::abs(value) < kLimit ? static_cast<BYTE>(static_cast<int>(value) & 0xFF) : LowByteOfLarge(value);
 }
 
 COLORREF Dimmed(COLORREF color, const NightScales& scales)

@@ -70,6 +70,10 @@ TEST(NightColors, TheLowByteOfAnyNumber)
     EXPECT_EQ(vorn::LowByteOf(256), 0);
     EXPECT_EQ(vorn::LowByteOf(-0.9), 0);
     EXPECT_EQ(vorn::LowByteOf(-1), 255);
+    EXPECT_EQ(vorn::LowByteOf(2147483647.5), 255);
+    EXPECT_EQ(vorn::LowByteOf(2147483649.5), 1);
+    EXPECT_EQ(vorn::LowByteOf(-2147483648.5), 0);
+    EXPECT_EQ(vorn::LowByteOf(-2147483649.5), 255);
     EXPECT_EQ(vorn::LowByteOf(9007199254740994.0), 2);
     EXPECT_EQ(vorn::LowByteOf(9223372036854774784.0), 0);
     EXPECT_EQ(vorn::LowByteOf(1e300), 0);
