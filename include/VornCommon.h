@@ -21,6 +21,7 @@
 #include "family/TarnUtil/core/TarnObject.h"
 #include "family/TarnUtil/core/Units.h"
 #include "family/VornChart/VornChartApp.h"
+#include "family/VornChart/core/ColorContext.h"
 #include "family/VornChart/core/VornLog.h"
 
 #include "aviation/ConversionBoy.h"
