@@ -125,6 +125,20 @@ TEST_F(EasternTime, DaylightSavingOfASystemTimeIsTheDates)
     EXPECT_FALSE(IsDST(&when)) << "the season of this year only";
 }
 
+TEST_F(EasternTime, DaylightSavingOfASystemTimeEndsToTheSecond)
+{
+    SYSTEMTIME when{};
+    ASSERT_TRUE(Date::GetDSTEnd().GetAsSystemTime(when));
+    EXPECT_EQ(when.wMonth, 11);
+    EXPECT_EQ(when.wHour, 2);
+    EXPECT_TRUE(IsDST(&when));
+    when.wSecond = 1;
+    EXPECT_FALSE(IsDST(&when));
+    when.wSecond = 0;
+    when.wMinute = 1;
+    EXPECT_FALSE(IsDST(&when));
+}
+
 TEST_F(EasternTime, DaylightSavingOfImpossibleTimesIsThatOfTimeZero)
 {
     EXPECT_FALSE(IsDST(nullptr));
