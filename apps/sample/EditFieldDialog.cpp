@@ -21,7 +21,7 @@ BOOL EditFieldDialog::OnInitDialog()
 {
     CDialog::OnInitDialog();
     CString caption;
-    caption.Format("Edit record %d", m_table.RecordOf(m_row) + 1);
+    caption.Format("Edit record %d", m_table.RecordOf(m_row));
     SetWindowText(caption);
     auto& fields = static_cast<CComboBox&>(*GetDlgItem(IDC_EDIT_FIELD));
     for (const vorn::FieldFacts& field : m_table.Fields())

@@ -142,7 +142,7 @@ vorn::ReportTable TablePage::Report(int rows) const
     const int first = std::max(0, m_view != nullptr ? m_list.SelectedRow() : m_firstRow);
     for (int row = first; row < std::min(first + rows, m_table.RowCount()); ++row)
     {
-        std::vector<std::string> cells = {std::to_string(m_table.RecordOf(row) + 1)};
+        std::vector<std::string> cells = {std::to_string(m_table.RecordOf(row))};
         if (const vorn::TableRow* const values = m_table.Row(row))
             cells.insert(cells.end(), values->begin(), values->end());
         report.AddRow(std::move(cells));

@@ -30,7 +30,7 @@ private:
 
 std::string RecordText(int record)
 {
-    return "record " + std::to_string(record + 1);
+    return "record " + std::to_string(record);
 }
 
 } // namespace
@@ -134,8 +134,8 @@ bool TablePage::ShowFound(std::optional<int> row, double milliseconds)
         m_list.Select(*row);
     const bool binary = m_terms.method == vorn::SearchMethod::Binary;
     CString words;
-    words.Format("Found in record %d by %s search in %.2f ms.", m_table.RecordOf(*row) + 1,
-                 binary ? "binary" : "linear", milliseconds);
+    words.Format("Found in record %d by %s search in %.2f ms.", m_table.RecordOf(*row), binary ? "binary" : "linear",
+                 milliseconds);
     if (binary && !m_table.IsSortedBy(m_terms.field))
         words += " The table is not sorted by this field, so others may have been missed.";
     Say(words.GetString(), Notice::News::Good);

@@ -189,6 +189,6 @@ void TablePage::Paint(CDC& dc, const CRect& area, const Theme& theme) const
         return;
     const std::string& memo = m_table.Fields()[static_cast<std::size_t>(m_table.MemoField())].name;
     const int record = m_table.RecordOf(m_list.SelectedRow());
-    DrawWords(dc, places.memoTitle, record < 0 ? memo : memo + " of record " + std::to_string(record + 1), theme.bold,
+    DrawWords(dc, places.memoTitle, record < 0 ? memo : memo + " of record " + std::to_string(record), theme.bold,
               theme.text);
 }

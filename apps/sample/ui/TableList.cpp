@@ -142,7 +142,7 @@ BOOL TableList::OnDisplayInfo(NMHDR* header, LRESULT* result)
     const vorn::TableRow* const cells = m_table.Row(item.iItem);
     const std::size_t field = static_cast<std::size_t>(item.iSubItem) - 1;
     if (item.iSubItem == 0)
-        lstrcpyn(item.pszText, std::to_string(m_table.RecordOf(item.iItem) + 1).c_str(), item.cchTextMax);
+        lstrcpyn(item.pszText, std::to_string(m_table.RecordOf(item.iItem)).c_str(), item.cchTextMax);
     else if (cells != nullptr && field < cells->size())
         lstrcpyn(item.pszText, (*cells)[field].c_str(), item.cchTextMax);
     return TRUE;

@@ -265,7 +265,7 @@ TEST_F(SampleTables, ShowItsOwnAidsWithoutBeingAsked)
     EXPECT_NE(Output().find("navaids.dbf - 156 records with 10 fields, 87 bytes each\n"), std::string::npos)
         << Output();
     EXPECT_EQ(Run("--find IDENT=SEA --summary"), 0u);
-    EXPECT_NE(Output().find("     124  SEA    Seattle       VORTAC     116800  47.43540  -122.31000      354  17.6  "),
+    EXPECT_NE(Output().find("     123  SEA    Seattle       VORTAC     116800  47.43540  -122.31000      354  17.6  "),
               std::string::npos)
         << Output();
     EXPECT_NE(Output().find("  On the field of Seattle-Tacoma International (KSEA); its longest runway is 16L/34R, "),
@@ -312,10 +312,10 @@ TEST_F(SampleTables, FindValuesByBothSearchesAndTheNextByF3)
         Choose(Control(kMethod), method);
         SetText(Control(kValue), "BOI");
         PostMessageA(Control(kFind), BM_CLICK, 0, 0);
-        EXPECT_TRUE(NoticeBecomes("Found in record 2 by " + how)) << Notice();
+        EXPECT_TRUE(NoticeBecomes("Found in record 1 by " + how)) << Notice();
         EXPECT_EQ(SelectedRow(), 1);
         Press(VK_F3);
-        EXPECT_TRUE(NoticeBecomes("Found in record 3 by " + how)) << Notice();
+        EXPECT_TRUE(NoticeBecomes("Found in record 2 by " + how)) << Notice();
         EXPECT_EQ(SelectedRow(), 2);
         Press(VK_F3);
         EXPECT_TRUE(NoticeBecomes("No other record")) << Notice();
@@ -359,7 +359,7 @@ TEST_F(SampleTables, WriteAnEditedFieldAndRefuseWhatIsTooLong)
     Press(VK_RETURN);
     const HWND dialog = m_sample->Dialog();
     ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(TextOf(dialog), "Edit record 1");
+    EXPECT_EQ(TextOf(dialog), "Edit record 0");
     EXPECT_EQ(TextOf(GetDlgItem(dialog, kEditValue)), "ALW");
     Choose(GetDlgItem(dialog, kEditField), 1);
     EXPECT_EQ(TextOf(GetDlgItem(dialog, kEditValue)), "Walla");
@@ -370,7 +370,7 @@ TEST_F(SampleTables, WriteAnEditedFieldAndRefuseWhatIsTooLong)
     EXPECT_EQ(TextOf(GetDlgItem(dialog, kEditHint)), "10 of 10 characters");
     EXPECT_TRUE(IsWindowEnabled(GetDlgItem(dialog, IDOK)));
     Click(dialog, IDOK);
-    EXPECT_TRUE(NoticeBecomes("Written: NAME of record 1.")) << Notice();
+    EXPECT_TRUE(NoticeBecomes("Written: NAME of record 0.")) << Notice();
     End();
     std::string expected = before;
     expected.replace(kHead + 5, 10, "WallaWalla");
@@ -382,11 +382,11 @@ TEST_F(SampleTables, DeleteWhenTheUserSaysYesAndPack)
     Start(m_table, 4);
     Press(VK_DOWN);
     Press(VK_DELETE);
-    EXPECT_EQ(AnswerBox(IDNO), "Delete record 2, BOI?\n\nIt stays in the file until the table is packed.");
+    EXPECT_EQ(AnswerBox(IDNO), "Delete record 1, BOI?\n\nIt stays in the file until the table is packed.");
     EXPECT_EQ(Rows(), 4);
     Press(VK_DELETE);
     AnswerBox(IDYES);
-    EXPECT_TRUE(NoticeBecomes("Deleted: record 2.")) << Notice();
+    EXPECT_TRUE(NoticeBecomes("Deleted: record 1.")) << Notice();
     EXPECT_EQ(Rows(), 3);
     EXPECT_EQ(m_folder.Read("aids.dbf")[kHead + kRecord], '*');
     PostMessageA(m_window, WM_COMMAND, kPackCommand, 0);
@@ -404,7 +404,7 @@ TEST_F(SampleTables, CountTheirUse)
     Start(m_table, 4);
     SetText(Control(kValue), "SEA");
     PostMessageA(Control(kFind), BM_CLICK, 0, 0);
-    EXPECT_TRUE(NoticeBecomes("Found in record 4"));
+    EXPECT_TRUE(NoticeBecomes("Found in record 3"));
     Press(VK_DELETE);
     AnswerBox(IDYES);
     EXPECT_TRUE(NoticeBecomes("Deleted"));
@@ -452,7 +452,7 @@ TEST_F(SampleTables, StayAsTheyWereWhenPackingCannotReplaceThem)
     Start(m_table, 4);
     Press(VK_DELETE);
     AnswerBox(IDYES);
-    EXPECT_TRUE(NoticeBecomes("Deleted: record 1.")) << Notice();
+    EXPECT_TRUE(NoticeBecomes("Deleted: record 0.")) << Notice();
     const std::string before = m_folder.Read("aids.dbf");
     const HANDLE reader = CreateFileA(m_table.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                       OPEN_EXISTING, 0, nullptr);
@@ -594,7 +594,7 @@ TEST_F(SampleTables, PaintPagesOfTwoHundredThousandRecordsAsFastAsThoseOfAShortT
         Choose(Control(kMethod), method);
         PostMessageA(Control(kFind), BM_CLICK, 0, 0);
         const std::string how = method == 0 ? "linear" : "binary";
-        EXPECT_TRUE(NoticeBecomes("Found in record 200000 by " + how)) << Notice();
+        EXPECT_TRUE(NoticeBecomes("Found in record 199999 by " + how)) << Notice();
         std::printf("%s\n", Notice().c_str());
     }
     std::printf("%.0f ms from the start to the list, %.1f ms a page; %.1f ms a page of few records\n", start.count(),
