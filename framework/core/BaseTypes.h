@@ -80,6 +80,37 @@ struct SYSTEMTIME
     WORD wMilliseconds;
 };
 
+/// One entry of a bitmap's colour table.
+struct RGBQUAD
+{
+    BYTE rgbBlue;
+    BYTE rgbGreen;
+    BYTE rgbRed;
+    BYTE rgbReserved;
+};
+
+/// The head of a device-independent bitmap; a negative height means that the first row is the top one.
+struct BITMAPINFOHEADER
+{
+    DWORD biSize;
+    LONG biWidth;
+    LONG biHeight;
+    WORD biPlanes;
+    WORD biBitCount;
+    DWORD biCompression;
+    DWORD biSizeImage;
+    LONG biXPelsPerMeter;
+    LONG biYPelsPerMeter;
+    DWORD biClrUsed;
+    DWORD biClrImportant;
+};
+
+inline constexpr DWORD BI_RGB = 0;
+inline constexpr DWORD BI_RLE8 = 1;
+inline constexpr DWORD BI_BITFIELDS = 3;
+inline constexpr int DIB_RGB_COLORS = 0;
+inline constexpr int DIB_PAL_COLORS = 1;
+
 inline constexpr BOOL TRUE = 1;
 inline constexpr BOOL FALSE = 0;
 inline constexpr HRESULT E_FAIL = static_cast<HRESULT>(0x80004005);

@@ -10,4 +10,6 @@ TEST(BaseTypes, HaveTheSystemsWidths)
     EXPECT_EQ(sizeof(LONG), 4u);
     EXPECT_EQ(sizeof(POINT), 8u);
     EXPECT_EQ(sizeof(RECT), 16u);
+    EXPECT_EQ(sizeof(RGBQUAD), 4u);
+    EXPECT_EQ(sizeof(BITMAPINFOHEADER), 40u);
 }

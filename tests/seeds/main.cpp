@@ -1,3 +1,4 @@
+#include "tests/seeds/PictureSeeds.h"
 #include "tests/seeds/TableSeeds.h"
 
 #include <cstdio>
@@ -36,7 +37,9 @@ int main(int argc, char** argv)
         return 2;
     }
     int differing = 0;
-    for (const auto& [name, bytes] : vorn::test::TableSeeds())
+    std::map<std::string, std::string> seeds = vorn::test::TableSeeds();
+    seeds.merge(vorn::test::PictureSeeds());
+    for (const auto& [name, bytes] : seeds)
     {
         const fs::path path = fs::path(argv[2]) / name;
         if (write)

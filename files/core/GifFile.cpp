@@ -1,0 +1,96 @@
+#include "files/core/GifFile.h"
+#include "files/core/GifBlocks.h"
+#include "files/core/GifCodes.h"
+
+#include <cstring>
+#include <utility>
+
+namespace vorn
+{
+namespace
+{
+/// One of the four passes over an interlaced picture.
+struct Pass
+{
+    int first;
+    int step;
+};
+
+constexpr Pass kPasses[] = {{0, 8}, {4, 8}, {2, 4}, {1, 2}};
+
+bool CanDecode(const GifImage& image)
+{
+    return image.width >= 1 && image.height >= 1 && image.codeSize >= kLeastGifCodeSize &&
+           image.codeSize <= kMostGifCodeSize && BytesPerScan(image.width, 8) * image.height <= kMaxDecodedBytes;
+}
+
+std::span<unsigned char> PixelSpan(unsigned char* pixels, const GifImage& image)
+{
+    return {pixels, static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height)};
+}
+
+/// Moves rows without gaps to where the bitmap has them, in place: the last first.
+void SpreadRows(const ImageCanvas& canvas)
+{
+    const auto width = static_cast<std::size_t>(canvas.width);
+    const auto stride = static_cast<std::size_t>(canvas.stride);
+    if (width == stride)
+        return;
+    for (auto y = static_cast<std::size_t>(canvas.height); y-- > 0;)
+    {
+        std::memmove(canvas.bits + y * stride, canvas.bits + y * width, width);
+        std::memset(canvas.bits + y * stride + width, 0, stride - width);
+    }
+}
+
+void DecodePlain(GifImage& image, const ImageCanvas& canvas)
+{
+    DecodeGifCodes(image.data, image.codeSize, PixelSpan(canvas.bits, image));
+    SpreadRows(canvas);
+}
+
+bool DecodeInterlaced(GifImage& image, const ImageCanvas& canvas)
+{
+    const auto width = static_cast<std::size_t>(canvas.width);
+    const ImageBlock rows(width * static_cast<std::size_t>(canvas.height), kGifSlack);
+    const unsigned char* from = rows.Bytes().data();
+    if (from == nullptr)
+        return false;
+    DecodeGifCodes(image.data, image.codeSize, PixelSpan(rows.Bytes().data(), image));
+    for (const Pass& pass : kPasses)
+        for (int y = pass.first; y < canvas.height; y += pass.step, from += width)
+            std::memcpy(canvas.Row(y), from, width);
+    return true;
+}
+
+PackedImage NewImage(const GifImage& image)
+{
+    PackedImage made = PackedImage::Make(image.width, -image.height, 8, DIB_RGB_COLORS, kGifSlack);
+    for (std::size_t i = 0; !made.IsEmpty() && i + 2 < image.table.size(); i += 3)
+        made.SetTableColor(static_cast<int>(i / 3), {image.table[i], image.table[i + 1], image.table[i + 2]});
+    return made;
+}
+
+PackedImage Decode(GifImage& image)
+{
+    PackedImage made = CanDecode(image) ? NewImage(image) : PackedImage();
+    if (made.IsEmpty())
+        return made;
+    const ImageCanvas canvas = made.Canvas();
+    if (!image.isInterlaced)
+        DecodePlain(image, canvas);
+    else if (!DecodeInterlaced(image, canvas))
+        return {};
+    return made;
+}
+} // namespace
+
+PackedImage DecodeGif(std::span<const unsigned char> file, int index, int& transparent)
+{
+    GifBlocks blocks(file);
+    GifImage image;
+    PackedImage made = blocks.Find(index, image) ? Decode(image) : PackedImage();
+    transparent = made.IsEmpty() ? -1 : blocks.Transparent();
+    return made;
+}
+} // namespace vorn
