@@ -198,14 +198,14 @@ TEST(BmpFile, RefusesImpossibleFields)
                 parts.headerSize = size;
             }))
             << size;
-    for (const long size : {0L, 53L, 69L, 71L, 0xFFFFFFFFL})
+    for (const unsigned long size : {0UL, 53UL, 69UL, 71UL, 0xFFFFFFFFUL})
         EXPECT_TRUE(refuses(
             [&](BmpParts& parts)
             {
                 parts.sizeField = size;
             }))
             << size;
-    for (const long offset : {1L, 53L, 55L, 71L, 0xFFFFFFFFL})
+    for (const unsigned long offset : {1UL, 53UL, 55UL, 71UL, 0xFFFFFFFFUL})
         EXPECT_TRUE(refuses(
             [&](BmpParts& parts)
             {

@@ -26,10 +26,10 @@ char TableFlags(std::size_t bytes)
 
 std::string BmpParts::Bytes() const
 {
-    const long offset = 54 + static_cast<long>(behindHeader.size());
-    const long size = offset + static_cast<long>(pixels.size());
-    std::string bytes = "BM" + Number(sizeField < 0 ? size : sizeField, 4) + Number(0, 4) +
-                        Number(offsetField < 0 ? offset : offsetField, 4);
+    const auto offset = static_cast<unsigned long>(54 + behindHeader.size());
+    const auto size = static_cast<unsigned long>(offset + pixels.size());
+    std::string bytes =
+        "BM" + LittleEndian(sizeField.value_or(size), 4) + Number(0, 4) + LittleEndian(offsetField.value_or(offset), 4);
     bytes += LittleEndian(headerSize, 4) + Number(width, 4) + Number(height, 4) + Number(1, 2) + Number(depth, 2);
     bytes += LittleEndian(compression, 4) + std::string(12, '\0') + LittleEndian(usedColors, 4) + Number(0, 4);
     return bytes + behindHeader + pixels;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -19,8 +20,8 @@ struct BmpParts
     unsigned long usedColors = 0;
     std::string behindHeader; ///< Table, masks, gap.
     std::string pixels;
-    long sizeField = -1; ///< Below 0: the true one.
-    long offsetField = -1;
+    std::optional<unsigned long> sizeField; ///< In place of the true one.
+    std::optional<unsigned long> offsetField;
 
     std::string Bytes() const;
 };

@@ -1,0 +1,143 @@
+#include "files/core/ImageResize.h"
+#include "files/core/ImageConvert.h"
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace vorn
+{
+namespace
+{
+/// How much of one source pixel, or which one alone.
+struct Share
+{
+    int source;
+    std::uint32_t weight;
+};
+
+constexpr std::uint32_t kWhole = 1U << 16;
+
+/// The shares that make each pixel of one axis; they sum to kWhole.
+class Shares
+{
+public:
+    Shares(int sourceSize, int size)
+    {
+        m_begin.reserve(static_cast<std::size_t>(size) + 1);
+        for (int i = 0; i < size; ++i)
+        {
+            m_begin.push_back(m_shares.size());
+            if (size < sourceSize)
+                AddCovered(i, sourceSize, size);
+            else
+                m_shares.push_back(
+                    {static_cast<int>((2 * std::int64_t{i} + 1) * sourceSize / (2 * std::int64_t{size})), kWhole});
+        }
+        m_begin.push_back(m_shares.size());
+    }
+
+    std::span<const Share> Of(int pixel) const
+    {
+        const auto i = static_cast<std::size_t>(pixel);
+        return std::span(m_shares).subspan(m_begin[i], m_begin[i + 1] - m_begin[i]);
+    }
+
+private:
+    // In parts of which a source pixel has `size` and a pixel `sourceSize`. Rounded sums leave no rest.
+    void AddCovered(int pixel, std::int64_t sourceSize, std::int64_t size)
+    {
+        const std::int64_t begin = pixel * sourceSize;
+        const std::int64_t end = begin + sourceSize;
+        std::int64_t weightBefore = 0;
+        for (std::int64_t source = begin / size; source * size < end; ++source)
+        {
+            const std::int64_t covered = std::min((source + 1) * size, end) - begin;
+            const std::int64_t weight = covered * kWhole / sourceSize;
+            m_shares.push_back({static_cast<int>(source), static_cast<std::uint32_t>(weight - weightBefore)});
+            weightBefore = weight;
+        }
+    }
+
+    std::vector<Share> m_shares;
+    std::vector<std::size_t> m_begin;
+};
+
+/// Rows of 8 bits and 8 more behind the point.
+using FineRow = std::vector<std::uint32_t>;
+
+void MixRows(const ImageView& source, std::span<const Share> shares, FineRow& row)
+{
+    std::ranges::fill(row, 0U);
+    for (const Share& share : shares)
+    {
+        const unsigned char* from = source.Row(share.source);
+        for (std::size_t i = 0; i < row.size(); ++i)
+            row[i] += share.weight * from[i];
+    }
+    for (std::uint32_t& value : row)
+        value = (value + 128) >> 8;
+}
+
+template <std::size_t Channels>
+void MixColumns(const FineRow& row, const Shares& columns, int width, unsigned char* to)
+{
+    constexpr std::uint32_t kHalf = 1U << 23;
+    for (int x = 0; x < width; ++x)
+    {
+        std::uint32_t sums[Channels];
+        std::fill_n(sums, Channels, kHalf);
+        for (const Share& share : columns.Of(x))
+            for (std::size_t i = 0; i < Channels; ++i)
+                sums[i] += share.weight * row[static_cast<std::size_t>(share.source) * Channels + i];
+        for (const std::uint32_t sum : sums)
+            *to++ = static_cast<unsigned char>(sum >> 24);
+    }
+}
+
+bool IsSameAsBefore(const Shares& rows, int y)
+{
+    return y > 0 && rows.Of(y).size() == 1 && rows.Of(y - 1).size() == 1 &&
+           rows.Of(y).front().source == rows.Of(y - 1).front().source;
+}
+
+void Resample(const ImageView& source, const ImageCanvas& target)
+{
+    const Shares columns(source.width, target.width);
+    const Shares rows(source.height, target.height);
+    FineRow row(static_cast<std::size_t>(source.width) * static_cast<std::size_t>(source.depth / 8));
+    for (int y = 0; y < target.height; ++y)
+    {
+        if (IsSameAsBefore(rows, y))
+        {
+            std::memcpy(target.Row(y), target.Row(y - 1), static_cast<std::size_t>(target.stride));
+            continue;
+        }
+        MixRows(source, rows.Of(y), row);
+        if (source.depth == 32)
+            MixColumns<4>(row, columns, target.width, target.Row(y));
+        else
+            MixColumns<3>(row, columns, target.width, target.Row(y));
+    }
+}
+
+bool IsPlain(const ImageView& image)
+{
+    return image.depth >= 24 && !image.isMasked;
+}
+} // namespace
+
+PackedImage BoxResize(const ImageView& source, int width, int height)
+{
+    if (width < 1 || height < 1 || !source.hasRows || source.height < 1)
+        return {};
+    const PackedImage converted = IsPlain(source) ? PackedImage() : ToPlainChannels(source);
+    const ImageView plain = IsPlain(source) ? source : converted.View();
+    if (!plain.hasRows)
+        return {};
+    PackedImage made = PackedImage::Make(width, -height, plain.depth);
+    if (!made.IsEmpty())
+        Resample(plain, made.Canvas());
+    return made;
+}
+} // namespace vorn
