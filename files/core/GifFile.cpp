@@ -29,14 +29,14 @@ std::span<unsigned char> PixelSpan(unsigned char* pixels, const GifImage& image)
     return {pixels, static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height)};
 }
 
-/// Moves rows without gaps to where the bitmap has them, in place: the last first.
-void SpreadRows(const ImageCanvas& canvas)
+/// Moves rows without gaps, `count` pixels in all, to where the bitmap has them, in place: the last first.
+void SpreadRows(const ImageCanvas& canvas, std::size_t count)
 {
     const auto width = static_cast<std::size_t>(canvas.width);
     const auto stride = static_cast<std::size_t>(canvas.stride);
     if (width == stride)
         return;
-    for (auto y = static_cast<std::size_t>(canvas.height); y-- > 0;)
+    for (std::size_t y = (count + width - 1) / width; y-- > 0;)
     {
         std::memmove(canvas.bits + y * stride, canvas.bits + y * width, width);
         std::memset(canvas.bits + y * stride + width, 0, stride - width);
@@ -45,8 +45,7 @@ void SpreadRows(const ImageCanvas& canvas)
 
 void DecodePlain(GifImage& image, const ImageCanvas& canvas)
 {
-    DecodeGifCodes(image.data, image.codeSize, PixelSpan(canvas.bits, image));
-    SpreadRows(canvas);
+    SpreadRows(canvas, DecodeGifCodes(image.data, image.codeSize, PixelSpan(canvas.bits, image)));
 }
 
 bool DecodeInterlaced(GifImage& image, const ImageCanvas& canvas)
@@ -56,9 +55,10 @@ bool DecodeInterlaced(GifImage& image, const ImageCanvas& canvas)
     const unsigned char* from = rows.Bytes().data();
     if (from == nullptr)
         return false;
-    DecodeGifCodes(image.data, image.codeSize, PixelSpan(rows.Bytes().data(), image));
+    const auto pixels = PixelSpan(rows.Bytes().data(), image);
+    const unsigned char* end = from + DecodeGifCodes(image.data, image.codeSize, pixels);
     for (const Pass& pass : kPasses)
-        for (int y = pass.first; y < canvas.height; y += pass.step, from += width)
+        for (int y = pass.first; y < canvas.height && from < end; y += pass.step, from += width)
             std::memcpy(canvas.Row(y), from, width);
     return true;
 }

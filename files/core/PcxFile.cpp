@@ -132,7 +132,7 @@ void ReadRows(const PcxHeader& pcx, PcxRuns runs, unsigned char* rows)
     std::unique_ptr<unsigned char[]> planes;
     if (pcx.planes == 4)
         planes = std::make_unique<unsigned char[]>(stride);
-    for (std::size_t row = static_cast<std::size_t>(pcx.height); row-- > 0;)
+    for (std::size_t row = static_cast<std::size_t>(pcx.height); row-- > 0 && !runs.IsOver();)
     {
         unsigned char* to = rows + row * stride;
         runs.Fill({planes ? planes.get() : to, stride});

@@ -19,6 +19,12 @@ public:
     /// Fills `line`, with zeros where the data have ended. What a run has left over goes to the next line.
     void Fill(std::span<unsigned char> line);
 
+    /// Whether only zeros are left.
+    bool IsOver() const
+    {
+        return m_runLeft == 0 && m_data.empty();
+    }
+
 private:
     std::size_t TakeRun(std::span<unsigned char> line);
     std::size_t TakeLiterals(std::span<unsigned char> line);
