@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-// Layout of program files: Microsoft Portable Executable and Common Object File Format Specification.
+// Layout of program files: "PE Format" in the public documentation of Windows (Portable Executable and COFF).
 
 namespace vorn
 {
