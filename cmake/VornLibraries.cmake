@@ -49,6 +49,7 @@ target_link_libraries(VornCommon PUBLIC HostFramework TarnUtil TarnComm VornChar
 # only when every module shares them. They come without their debug information, which is ten times
 # as large as they are and makes them slow to load.
 set(VORN_RUNTIME_DLLS "")
+file(MAKE_DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 foreach(dll libgcc_s_dw2-1.dll libstdc++-6.dll libwinpthread-1.dll)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
                     OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
