@@ -39,6 +39,11 @@ ColorContext* ColorContext::Instance()
     return &instance;
 }
 
+int ColorContext::GetCurrentState() const
+{
+    return m_state;
+}
+
 void ColorContext::SetCurrentState(int state)
 {
     if (state >= COLORSTATE_DAY && state <= COLORSTATE_DUSK)

@@ -41,10 +41,7 @@ public:
     static ColorContext* Instance();
 
     /// A ColorState.
-    int GetCurrentState() const
-    {
-        return m_state;
-    }
+    int GetCurrentState() const;
     /// Puts another state in force; a number that is no ColorState changes nothing.
     void SetCurrentState(int state);
 
