@@ -26,11 +26,8 @@
 
 #include "aviation/ConversionBoy.h"
 #include "aviation/Date.h"
+#include "aviation/Drawing.h"
 #include "aviation/Formatting.h"
-#include "aviation/core/ColorText.h"
-#include "aviation/core/DistributePoints.h"
-#include "aviation/core/Morse.h"
-#include "aviation/core/SmoothLine.h"
 #include "config/AppRegData.h"
 #include "config/AppRegMgr.h"
 #include "config/DefinedPathSetting.h"
@@ -56,3 +53,5 @@
 #include "frame/core/Serialisation.h"
 #include "frame/core/StringBuffer.h"
 #include "frame/core/TextUtilities.h"
+#include "toolkit/ManagedObjects.h"
+#include "toolkit/ResMgr.h"
