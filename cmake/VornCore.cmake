@@ -10,4 +10,4 @@ list(FILTER core_sources INCLUDE REGEX "/core/[^/]+\\.cpp$")
 
 add_library(vorn_core STATIC ${core_sources})
 target_compile_definitions(vorn_core PUBLIC VORN_CORE_STATIC)
-target_link_libraries(vorn_core PUBLIC vorn_flags PRIVATE vorn_geodesics)
+target_link_libraries(vorn_core PUBLIC vorn_flags PRIVATE vorn_geodesics vorn_images)

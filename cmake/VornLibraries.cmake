@@ -43,7 +43,7 @@ vorn_library(VornChart VORNCHART_BUILD family/VornChart)
 target_link_libraries(VornChart PUBLIC TarnUtil)
 
 vorn_library(VornCommon VORNCOMMON_BUILD frame config aviation files toolkit resources)
-target_link_libraries(VornCommon PUBLIC HostFramework TarnUtil TarnComm VornChart)
+target_link_libraries(VornCommon PUBLIC HostFramework TarnUtil TarnComm VornChart PRIVATE $<BUILD_INTERFACE:vorn_images>)
 
 # The compiler's runtime DLLs stand beside the programs: exceptions and RTTI cross modules
 # only when every module shares them. They come without their debug information, which is ten times
