@@ -22,6 +22,7 @@
 #include "family/TarnUtil/core/Units.h"
 #include "family/VornChart/VornChartApp.h"
 #include "family/VornChart/core/ColorContext.h"
+#include "family/VornChart/core/Image.h"
 #include "family/VornChart/core/VornLog.h"
 
 #include "aviation/ConversionBoy.h"
@@ -35,6 +36,9 @@
 #include "config/PathMgr.h"
 #include "config/Registry.h"
 #include "files/BrowseForDirectory.h"
+#include "files/DIB.h"
+#include "files/PaletteMapper.h"
+#include "files/TerrainColorMap.h"
 #include "files/core/CDBFFile.h"
 #include "files/core/CFileFindInExtSet.h"
 #include "files/core/FileExists.h"

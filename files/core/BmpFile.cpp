@@ -95,10 +95,15 @@ std::array<unsigned char, kBmpHeadSize> BmpHead(const BITMAPINFOHEADER& header)
     return head;
 }
 
+bool CanWriteBmp(const ImageView& view)
+{
+    return view.depth == kWritableDepth && view.hasRows;
+}
+
 std::vector<unsigned char> EncodeBmp(const PackedImage& image)
 {
     const ImageView view = image.View();
-    if (view.depth != kWritableDepth || !view.hasRows)
+    if (!CanWriteBmp(view))
         return {};
     const auto head = BmpHead(image.Header());
     std::vector<unsigned char> file(head.begin(), head.end());

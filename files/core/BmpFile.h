@@ -35,6 +35,9 @@ PackedImage DecodeBmp(std::span<const unsigned char> file);
 /// The 54 bytes before the rows of a 24-bit bitmap: no table, no gap, the rows in their order.
 std::array<unsigned char, kBmpHeadSize> BmpHead(const BITMAPINFOHEADER& header);
 
-/// The whole file of an image of 24 bits; empty for any other.
+/// Whether a file can be made of these rows: 24 bits.
+bool CanWriteBmp(const ImageView& view);
+
+/// The whole file of such an image; empty for any other.
 std::vector<unsigned char> EncodeBmp(const PackedImage& image);
 } // namespace vorn

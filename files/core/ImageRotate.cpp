@@ -125,7 +125,10 @@ private:
 /// The source's header, table and masks with another size and no pixels.
 PackedImage SameKind(const ImageView& source, int width, int height)
 {
-    PackedImage made = PackedImage::Make(width, source.isTopDown ? -height : height, source.depth);
+    const int signedHeight = source.isTopDown ? -height : height;
+    if (source.isMasked)
+        return PackedImage::MakeMasked(width, signedHeight, source.depth, source.masks);
+    PackedImage made = PackedImage::Make(width, signedHeight, source.depth);
     for (std::size_t i = 0; i < source.table.size() && i < made.View().table.size(); ++i)
         made.SetTableColor(static_cast<int>(i), ColorOfStored(source, static_cast<DWORD>(i)));
     return made;

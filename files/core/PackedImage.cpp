@@ -33,13 +33,49 @@ void CountUp(unsigned char* indices, std::int64_t entries)
 
 bool CanBeMade(int width, int height, int depth)
 {
-    return width >= 1 && IsSupportedDepth(depth) && height != std::numeric_limits<int>::min();
+    if (width < 1 || !IsSupportedDepth(depth) || height == std::numeric_limits<int>::min())
+        return false;
+    const std::int64_t rows = std::abs(height);
+    return rows == 0 || BytesPerScan(width, depth) <= kMaxPixelBytes / rows;
+}
+
+std::int64_t PixelBytes(int width, int height, int depth)
+{
+    return BytesPerScan(width, depth) * std::abs(height);
+}
+
+/// Header, `between` bytes, then as many as are asked for.
+ImageBlock NewBlock(const BITMAPINFOHEADER& header, std::int64_t between, std::int64_t pixels, std::size_t slack = 0)
+{
+    ImageBlock block(static_cast<std::size_t>(kBitmapHeaderSize + between + pixels), slack);
+    if (!block.Bytes().empty())
+        std::memcpy(block.Bytes().data(), &header, sizeof header);
+    return block;
+}
+
+ImageBlock NewBlockWithTable(const BITMAPINFOHEADER& header, int usage, std::int64_t pixels, std::size_t slack = 0)
+{
+    ImageBlock block = NewBlock(header, TableBytes(header, usage), pixels, slack);
+    if (!block.Bytes().empty() && usage == DIB_PAL_COLORS)
+        CountUp(block.Bytes().data() + kBitmapHeaderSize, TableEntries(header));
+    return block;
+}
+
+std::size_t BehindTable(const BITMAPINFOHEADER& header, int usage)
+{
+    return static_cast<std::size_t>(kBitmapHeaderSize + TableBytes(header, usage));
 }
 } // namespace
 
 ImageBlock::ImageBlock(std::size_t size, std::size_t slack)
     : m_bytes(static_cast<unsigned char*>(std::calloc(size + slack, 1))), m_size(m_bytes ? size : 0)
 {
+}
+
+unsigned char* ImageBlock::Release()
+{
+    m_size = 0;
+    return m_bytes.release();
 }
 
 PackedImage::PackedImage(ImageBlock block, std::size_t bitsOffset, int usage)
@@ -52,18 +88,28 @@ PackedImage PackedImage::Make(int width, int height, int depth, int usage, std::
     if (!CanBeMade(width, height, depth))
         return {};
     const BITMAPINFOHEADER header = NewHeader(width, height, depth);
-    const std::int64_t stride = BytesPerScan(width, depth);
-    const int rows = RowsOf(header);
-    if (rows != 0 && stride > kMaxPixelBytes / rows)
+    return PackedImage(NewBlockWithTable(header, usage, PixelBytes(width, height, depth), slack),
+                       BehindTable(header, usage), usage);
+}
+
+PackedImage PackedImage::MakeMasked(int width, int height, int depth, const ColorMasks& masks)
+{
+    if (!CanBeMade(width, height, depth) || (depth != 16 && depth != 32))
         return {};
-    const std::int64_t bitsOffset = kBitmapHeaderSize + TableBytes(header, usage);
-    ImageBlock block(static_cast<std::size_t>(bitsOffset + stride * rows), slack);
-    if (block.Bytes().empty())
+    BITMAPINFOHEADER header = NewHeader(width, height, depth);
+    header.biCompression = BI_BITFIELDS;
+    ImageBlock block = NewBlock(header, sizeof masks, PixelBytes(width, height, depth));
+    if (!block.Bytes().empty())
+        std::memcpy(block.Bytes().data() + kBitmapHeaderSize, &masks, sizeof masks);
+    return PackedImage(std::move(block), kBitmapHeaderSize + sizeof masks);
+}
+
+PackedImage PackedImage::MakeHead(int width, int height, int depth, int usage)
+{
+    if (!CanBeMade(width, height, depth))
         return {};
-    std::memcpy(block.Bytes().data(), &header, sizeof header);
-    if (usage == DIB_PAL_COLORS)
-        CountUp(block.Bytes().data() + kBitmapHeaderSize, TableEntries(header));
-    return PackedImage(std::move(block), static_cast<std::size_t>(bitsOffset), usage);
+    const BITMAPINFOHEADER header = NewHeader(width, height, depth);
+    return PackedImage(NewBlockWithTable(header, usage, 0), BehindTable(header, usage), usage);
 }
 
 ImageFormat PackedImage::Format() const
@@ -105,5 +151,10 @@ PackedImage PackedImage::Clone() const
         return {};
     std::ranges::copy(m_block.Bytes(), block.Bytes().begin());
     return PackedImage(std::move(block), m_bitsOffset, m_usage);
+}
+
+ImageBlock PackedImage::TakeBlock()
+{
+    return std::exchange(m_block, ImageBlock());
 }
 } // namespace vorn

@@ -21,6 +21,8 @@ public:
     {
         return {m_bytes.get(), m_size};
     }
+    /// Gives the bytes up to the caller, who frees them with std::free.
+    unsigned char* Release();
 
 private:
     struct Free
@@ -48,6 +50,13 @@ public:
     /// (DIB_PAL_COLORS) counts 0, 1, 2, ... Empty for a width below 1, a depth that is none, a height without a
     /// positive form, pixels of more than 1 GiB, or without memory.
     static PackedImage Make(int width, int height, int depth, int usage = DIB_RGB_COLORS, std::size_t slack = 0);
+
+    /// The same with masks for the channels, which stand behind the header; 16 or 32 bits.
+    static PackedImage MakeMasked(int width, int height, int depth, const ColorMasks& masks);
+
+    /// Header and table of such an image, without its rows: those are to be elsewhere, and nothing here may look for
+    /// them.
+    static PackedImage MakeHead(int width, int height, int depth, int usage);
 
     bool IsEmpty() const
     {
@@ -82,6 +91,9 @@ public:
 
     /// The same bytes in a block of its own; empty without memory.
     PackedImage Clone() const;
+
+    /// Gives up the block. The image is empty then.
+    ImageBlock TakeBlock();
 
 private:
     ImageFormat Format() const;
