@@ -1,8 +1,8 @@
 #include "files/core/ImageConvert.h"
 #include "files/core/ImagePixels.h"
+#include "files/core/RowConverter.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <vector>
 
@@ -21,62 +21,6 @@ int SignedHeight(const ImageFormat& format)
 {
     return format.isTopDown ? -format.height : format.height;
 }
-
-void PutThreeBytes(unsigned char* to, DWORD packed)
-{
-    std::memcpy(to, &packed, 3);
-}
-
-/// Rows of one depth to rows of 24 bits.
-class RowConverter
-{
-public:
-    explicit RowConverter(const ImageView& source) : m_source(source)
-    {
-        for (unsigned i = 0; source.depth <= 8 && i < m_colors.size(); ++i)
-            m_colors[i] = Packed(ColorOfStored(source, i));
-    }
-
-    void Convert(const unsigned char* from, unsigned char* to) const
-    {
-        if (m_source.depth == kTrueColor)
-            std::memcpy(to, from, static_cast<std::size_t>(m_source.width) * 3);
-        else if (m_source.depth == 8)
-            ConvertBytes(from, to);
-        else if (m_source.depth < 8)
-            Each(from, to,
-                 [this](DWORD stored)
-                 {
-                     return m_colors[stored];
-                 });
-        else
-            Each(from, to,
-                 [this](DWORD stored)
-                 {
-                     return Packed(ColorOfStored(m_source, stored));
-                 });
-    }
-
-private:
-    template <class Color>
-    void Each(const unsigned char* from, unsigned char* to, Color color) const
-    {
-        for (int x = 0; x < m_source.width; ++x, to += 3)
-            PutThreeBytes(to, color(StoredPixel(from, x, m_source.depth)));
-    }
-
-    // Four bytes a store: the next pixel takes the last of them, and the last pixel stores three.
-    void ConvertBytes(const unsigned char* from, unsigned char* to) const
-    {
-        const unsigned char* last = from + m_source.width - 1;
-        for (; from < last; ++from, to += 3)
-            std::memcpy(to, &m_colors[*from], 4);
-        PutThreeBytes(to, m_colors[*from]);
-    }
-
-    const ImageView& m_source;
-    std::array<DWORD, 256> m_colors{};
-};
 
 /// Pixels of a source in the target's terms, where the depths differ.
 class ColorTranslator

@@ -1,0 +1,67 @@
+#include "files/core/RowConverter.h"
+#include "files/core/ImagePixels.h"
+
+#include <cstring>
+
+namespace vorn
+{
+namespace
+{
+DWORD Packed(Rgb color)
+{
+    return DWORD{color.blue} | DWORD{color.green} << 8 | DWORD{color.red} << 16;
+}
+
+void PutThreeBytes(unsigned char* to, DWORD packed)
+{
+    std::memcpy(to, &packed, 3);
+}
+} // namespace
+
+RowConverter::RowConverter(const ImageView& source) : m_source(source)
+{
+    for (unsigned i = 0; source.depth <= 8 && i < m_colors.size(); ++i)
+        m_colors[i] = Packed(ColorOfStored(source, i));
+}
+
+void RowConverter::Convert(const unsigned char* from, unsigned char* to) const
+{
+    if (m_source.depth == 24)
+        std::memcpy(to, from, static_cast<std::size_t>(m_source.width) * 3);
+    else if (m_source.depth == 8)
+        ConvertBytes(from, to);
+    else if (m_source.depth < 8)
+        ConvertBits(from, to);
+    else if (m_source.depth == 32 && !m_source.isMasked)
+        ConvertChannels(from, to);
+    else
+        ConvertWords(from, to);
+}
+
+void RowConverter::ConvertBits(const unsigned char* from, unsigned char* to) const
+{
+    for (int x = 0; x < m_source.width; ++x, to += 3)
+        PutThreeBytes(to, m_colors[StoredPixel(from, x, m_source.depth)]);
+}
+
+// Four bytes a store: the next pixel takes the last of them, and the last pixel stores three.
+void RowConverter::ConvertBytes(const unsigned char* from, unsigned char* to) const
+{
+    const unsigned char* last = from + m_source.width - 1;
+    for (; from < last; ++from, to += 3)
+        std::memcpy(to, &m_colors[*from], 4);
+    PutThreeBytes(to, m_colors[*from]);
+}
+
+void RowConverter::ConvertChannels(const unsigned char* from, unsigned char* to) const
+{
+    for (int x = 0; x < m_source.width; ++x, from += 4, to += 3)
+        std::memcpy(to, from, 3);
+}
+
+void RowConverter::ConvertWords(const unsigned char* from, unsigned char* to) const
+{
+    for (int x = 0; x < m_source.width; ++x, to += 3)
+        PutThreeBytes(to, Packed(ColorOfStored(m_source, StoredPixel(from, x, m_source.depth))));
+}
+} // namespace vorn
