@@ -3,7 +3,7 @@
 declare -A packages=(
     [build]="cmake ninja-build g++ g++-mingw-w64-i686-posix nasm dpkg-dev ccache ca-certificates libgtest-dev libbenchmark-dev libgeographiclib-dev libpng-dev libjpeg62-turbo-dev zlib1g-dev"
     [wine]="wine wine32:i386 xvfb fonts-dejavu-core"
-    [check]="git python3 clang clang-format clang-tidy libclang-rt-14-dev shellcheck"
+    [check]="git python3 hunspell hunspell-en-us clang clang-format clang-tidy libclang-rt-14-dev shellcheck"
     [oracle]="gdal-bin shapelib libdbd-xbase-perl geographiclib-tools imagemagick netpbm giflib-tools libpng-tools libjpeg-turbo-progs" # about 45 MB to fetch
     [count]="valgrind"
     [docs]="doxygen graphviz"
