@@ -59,3 +59,4 @@
 #include "frame/core/TextUtilities.h"
 #include "toolkit/ManagedObjects.h"
 #include "toolkit/ResMgr.h"
+#include "toolkit/textlayout/TextLayout.h"
