@@ -19,7 +19,7 @@ struct ProjectionRecord
 class VORNCHART_API ProjectionLib
 {
 public:
-    ProjectionLib() = default;
+    ProjectionLib();
     ProjectionLib(const ProjectionLib&) = delete;
     ProjectionLib& operator=(const ProjectionLib&) = delete;
 

@@ -20,9 +20,9 @@ public:
     /// How many parameters a text may have.
     static constexpr int kMaxParams = 64;
 
-    ViewDefinition() = default;
-    ViewDefinition(const ViewDefinition&) = default;
-    ViewDefinition& operator=(const ViewDefinition&) = default;
+    ViewDefinition();
+    ViewDefinition(const ViewDefinition&);
+    ViewDefinition& operator=(const ViewDefinition&);
     virtual ~ViewDefinition();
 
     /// Takes the view from its text; the projection may be one that is not there now. False, and no change, for null
