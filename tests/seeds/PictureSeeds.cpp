@@ -1,5 +1,6 @@
 #include "tests/seeds/PictureSeeds.h"
 #include "tests/support/PictureBytes.h"
+#include "tests/support/PictureFiles.h"
 #include "tests/support/TableBytes.h"
 
 namespace vorn::test
@@ -92,6 +93,78 @@ void AddGif(Seeds& seeds)
     seeds["gif/one-bit"] = GifParts().Image(9, 1, 1, SubBlocks(PlainCodes(std::string("\1\0\1\1\0", 5), 1))).Bytes();
 }
 
+/// Rows of so many bytes with the filters in turn.
+std::string FilteredRows(int rows, std::size_t size)
+{
+    std::string bytes;
+    for (int row = 0; row < rows; ++row)
+    {
+        bytes += static_cast<char>(row % 5) + Counted(size, 37 + row);
+    }
+    return bytes;
+}
+
+PngParts Png(int bits, int colorType, std::size_t rowSize)
+{
+    PngParts parts;
+    parts.width = 5;
+    parts.height = 6;
+    parts.bits = bits;
+    parts.colorType = colorType;
+    parts.rows = FilteredRows(6, rowSize);
+    return parts;
+}
+
+void AddPng(Seeds& seeds)
+{
+    seeds["png/grey-1"] = Png(1, 0, 1).Bytes();
+    seeds["png/grey-2"] = Png(2, 0, 2).Bytes();
+    seeds["png/grey-16"] = Png(16, 0, 10).Bytes();
+    seeds["png/rgb"] = Png(8, 2, 15).Bytes();
+    seeds["png/rgba-16"] = Png(16, 6, 40).Bytes();
+    seeds["png/grey-alpha"] = Png(8, 4, 10).Bytes();
+    PngParts palette = Png(4, 3, 3);
+    palette.palette = Counted(48, 5);
+    palette.transparency = Counted(9, 28);
+    palette.extra = PngChunk("gAMA", std::string("\0\0\xB1\x8F", 4));
+    seeds["png/palette"] = palette.Bytes();
+    PngParts key = Png(8, 2, 15);
+    key.transparency = std::string("\0\1\0\2\0\3", 6);
+    seeds["png/rgb-key"] = key.Bytes();
+    PngParts interlaced = Png(8, 0, 1);
+    interlaced.isInterlaced = true;
+    // Five by six: passes of 1 x 1, 1 x 1, 2 x 1, 1 x 2, 3 x 1, 2 x 3 and 5 x 3 pixels.
+    interlaced.rows = FilteredRows(2, 1) + FilteredRows(1, 2) + FilteredRows(2, 1) + FilteredRows(1, 3) +
+                      FilteredRows(3, 2) + FilteredRows(3, 5);
+    seeds["png/interlaced"] = interlaced.Bytes();
+}
+
+JpegParts Jpeg(std::size_t components, int adobeTransform)
+{
+    JpegParts parts;
+    parts.width = 13;
+    parts.height = 11;
+    parts.adobeTransform = adobeTransform;
+    parts.values.clear();
+    for (std::size_t i = 0; i < components; ++i)
+    {
+        const int first = static_cast<int>(i) * 17;
+        parts.values.push_back({first, 250 - first, 128, first + 60});
+    }
+    return parts;
+}
+
+void AddJpeg(Seeds& seeds)
+{
+    seeds["jpeg/grey"] = Jpeg(1, -1).Bytes();
+    seeds["jpeg/colors"] = Jpeg(3, -1).Bytes();
+    seeds["jpeg/rgb"] = Jpeg(3, 0).Bytes();
+    seeds["jpeg/inks"] = Jpeg(4, 2).Bytes();
+    JpegParts progressive = Jpeg(3, 1);
+    progressive.isProgressive = true;
+    seeds["jpeg/progressive"] = progressive.Bytes();
+}
+
 } // namespace
 
 std::map<std::string, std::string> PictureSeeds()
@@ -100,6 +173,8 @@ std::map<std::string, std::string> PictureSeeds()
     AddBitmaps(seeds);
     AddPcx(seeds);
     AddGif(seeds);
+    AddPng(seeds);
+    AddJpeg(seeds);
     return seeds;
 }
 
