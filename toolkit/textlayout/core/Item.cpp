@@ -7,6 +7,17 @@
 namespace TextLayout
 {
 
+namespace
+{
+/// Puts what a node itself has in the place of what was measured.
+void OwnSize(const Item& node, CSize& size)
+{
+    int own = 0;
+    size.cx = node.Get("width", own) ? own : size.cx;
+    size.cy = node.Get("height", own) ? own : size.cy;
+}
+} // namespace
+
 Item::Item() = default;
 
 Item::~Item() = default;
@@ -113,6 +124,7 @@ bool Item::Measure(Item& child, CDC* dc, CSize& size, int& smallest)
         return false;
     }
     smallest = std::min(smallest, fontHeight);
+    OwnSize(child, size);
     return true;
 }
 
@@ -152,19 +164,16 @@ bool Item::GetSpace(LPCSTR sizeKey, LPCSTR maxKey, int& space) const
 
 bool Item::SizeOf(Item& child, CDC* dc, CSize& size)
 {
-    int width = 0;
-    int height = 0;
-    const bool hasWidth = child.Get("width", width);
-    const bool hasHeight = child.Get("height", height);
+    int fontHeight = 0;
     if (child.m_hasComputed)
     {
         size = child.m_computed;
     }
-    else if (int fontHeight = 0; (!hasWidth || !hasHeight) && !child.CalcSize(dc, size, fontHeight))
+    else if ((!child.Has("width") || !child.Has("height")) && !child.CalcSize(dc, size, fontHeight))
     {
         return false;
     }
-    size = CSize(hasWidth ? width : size.cx, hasHeight ? height : size.cy);
+    OwnSize(child, size);
     return true;
 }
 
