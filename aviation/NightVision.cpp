@@ -8,25 +8,29 @@ namespace
 
 constexpr int kHost = 0;
 
-const vorn::NightScales& Scales()
+CString Stored(const char* section, const char* key, const char* otherwise)
 {
-    static vorn::NightScaleCache cache;
-    return cache.Get(
-        [](const char* section, const char* key, const char* otherwise)
-        {
-            return AppRegMgr::Instance()->ReadVornString(section, key, otherwise, kHost);
-        },
-        [](const char* section, const char* key, const CString& text)
-        {
-            AppRegMgr::Instance()->WriteVornString(section, key, text, kHost);
-        });
+    return AppRegMgr::Instance()->ReadVornString(section, key, otherwise, kHost);
+}
+
+void Store(const char* section, const char* key, const CString& text)
+{
+    AppRegMgr::Instance()->WriteVornString(section, key, text, kHost);
+}
+
+constinit vorn::NightScaleCache cache;
+
+const vorn::NightTables& Tables()
+{
+    cache.Get(Stored, Store);
+    return cache.Tables();
 }
 
 } // namespace
 
 void GetNVScales(double& red, double& green, double& blue)
 {
-    const vorn::NightScales& scales = Scales();
+    const vorn::NightScales& scales = cache.Get(Stored, Store);
     red = scales.red;
     green = scales.green;
     blue = scales.blue;
@@ -34,17 +38,17 @@ void GetNVScales(double& red, double& green, double& blue)
 
 COLORREF MakeNightVision(COLORREF c)
 {
-    return vorn::Dimmed(c, Scales());
+    return Tables().Dimmed(c);
 }
 
 void MakeNightVision(BYTE& red, BYTE& green, BYTE& blue)
 {
-    vorn::Dim(red, green, blue, Scales());
+    Tables().Dim(red, green, blue);
 }
 
 COLORREF MakeNormalColor(COLORREF c)
 {
-    return vorn::Undimmed(c, Scales());
+    return Tables().Undimmed(c);
 }
 
 bool IsNightVision()

@@ -1,6 +1,6 @@
 #include "toolkit/ManagedObjects.h"
 
-#include "toolkit/FontDescription.h"
+#include "toolkit/ResourceKeys.h"
 
 namespace
 {
@@ -74,7 +74,7 @@ LONG ManagedBrush::GetHatch() const
 }
 
 ManagedFont::ManagedFont(const LOGFONTA& description)
-    : m_description(vorn::Normalised(description)), m_handle(::CreateFontIndirectA(&m_description))
+    : m_description(vorn::FontKey(description).Description()), m_handle(::CreateFontIndirectA(&m_description))
 {
 }
 

@@ -44,4 +44,18 @@ COLORREF Undimmed(COLORREF color, const NightScales& scales)
                         LowByteOf(BlueOf(color) / scales.blue));
 }
 
+NightTables::NightTables(const NightScales& scales)
+{
+    for (std::size_t i = 0; i < 256; ++i)
+    {
+        const auto value = static_cast<BYTE>(i);
+        m_dimmed.red[i] = m_dimmed.green[i] = m_dimmed.blue[i] = value;
+        vorn::Dim(m_dimmed.red[i], m_dimmed.green[i], m_dimmed.blue[i], scales);
+        const COLORREF undimmed = vorn::Undimmed(PaletteColor(value, value, value), scales);
+        m_undimmed.red[i] = RedOf(undimmed);
+        m_undimmed.green[i] = GreenOf(undimmed);
+        m_undimmed.blue[i] = BlueOf(undimmed);
+    }
+}
+
 } // namespace vorn

@@ -2,6 +2,8 @@
 
 #include "framework/core/BaseTypes.h"
 
+#include <array>
+
 /// @file
 /// Colours for the eye that is used to the dark: each component by a scale of its own.
 
@@ -48,5 +50,46 @@ COLORREF Dimmed(COLORREF color, const NightScales& scales);
 void Dim(BYTE& red, BYTE& green, BYTE& blue, const NightScales& scales);
 /// Each component divided by its scale, cut and masked likewise (255 / 0.4 gives 125); 0 where the scale is 0.
 COLORREF Undimmed(COLORREF color, const NightScales& scales);
+
+/// What the scales make of each of a component's 256 values: the three above for the time of a look-up.
+class NightTables
+{
+public:
+    /// Everything black.
+    NightTables() = default;
+    explicit NightTables(const NightScales& scales);
+
+    COLORREF Dimmed(COLORREF color) const
+    {
+        return Looked(m_dimmed, color);
+    }
+    void Dim(BYTE& red, BYTE& green, BYTE& blue) const
+    {
+        red = m_dimmed.red[red];
+        green = m_dimmed.green[green];
+        blue = m_dimmed.blue[blue];
+    }
+    COLORREF Undimmed(COLORREF color) const
+    {
+        return Looked(m_undimmed, color);
+    }
+
+private:
+    using Bytes = std::array<BYTE, 256>;
+    struct Tables
+    {
+        Bytes red{};
+        Bytes green{};
+        Bytes blue{};
+    };
+
+    static COLORREF Looked(const Tables& tables, COLORREF color)
+    {
+        return PaletteColor(tables.red[RedOf(color)], tables.green[GreenOf(color)], tables.blue[BlueOf(color)]);
+    }
+
+    Tables m_dimmed;
+    Tables m_undimmed;
+};
 
 } // namespace vorn

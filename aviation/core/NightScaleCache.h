@@ -40,12 +40,20 @@ public:
             write(kSection, kGreenKey, green);
             write(kSection, kBlueKey, blue);
             m_scales = {NightScaleOf(red), NightScaleOf(green), NightScaleOf(blue)};
+            m_tables = NightTables(m_scales);
         }
         return m_scales;
     }
 
+    /// What the scales that Get() gave last make of colours.
+    const NightTables& Tables() const
+    {
+        return m_tables;
+    }
+
 private:
     NightScales m_scales = {-1, -1, -1};
+    NightTables m_tables;
 };
 
 } // namespace vorn

@@ -122,12 +122,12 @@ BENCHMARK(DistributeRouteByLines)->Name("Drawing/the same by GeographicLib's lin
 
 void Dim(benchmark::State& state)
 {
-    const vorn::NightScales scales = {0.4, 0.5, 0.6};
+    const vorn::NightTables tables({0.4, 0.5, 0.6});
     COLORREF color = 0x00C86432;
     for (auto _ : state)
     {
         benchmark::DoNotOptimize(color);
-        benchmark::DoNotOptimize(vorn::Dimmed(color, scales));
+        benchmark::DoNotOptimize(tables.Dimmed(color));
     }
 }
 BENCHMARK(Dim)->Name("Drawing/a colour dimmed");

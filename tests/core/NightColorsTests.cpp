@@ -80,3 +80,23 @@ TEST(NightColors, TheLowByteOfAnyNumber)
     EXPECT_EQ(vorn::LowByteOf(-1e300), 0);
     EXPECT_EQ(vorn::LowByteOf(kNaN), 0);
 }
+
+TEST(NightColors, TablesAgreeWithTheScalesForEveryComponent)
+{
+    for (const vorn::NightScales& scales :
+         {kUsual, vorn::NightScales{0.1, 0.5, 0.3}, vorn::NightScales{-0.7, 2.3, 0}, vorn::NightScales{1, kNaN, 1e300}})
+    {
+        const vorn::NightTables tables(scales);
+        for (unsigned value = 0; value < 256; ++value)
+        {
+            const COLORREF color = value | (255 - value) << 8 | (value * 7 & 255) << 16 | value << 24;
+            EXPECT_EQ(tables.Dimmed(color), vorn::Dimmed(color, scales)) << color;
+            EXPECT_EQ(tables.Undimmed(color), vorn::Undimmed(color, scales)) << color;
+            BYTE red = vorn::RedOf(color);
+            BYTE green = vorn::GreenOf(color);
+            BYTE blue = vorn::BlueOf(color);
+            tables.Dim(red, green, blue);
+            EXPECT_EQ(vorn::PaletteColor(red, green, blue), vorn::Dimmed(color, scales)) << color;
+        }
+    }
+}

@@ -104,6 +104,18 @@ TEST(NightScaleCache, ANegativeRedScaleIsReadAgain)
     EXPECT_EQ(others.Log().size(), 6U);
 }
 
+TEST(NightScaleCache, ItsTablesAreThoseOfTheScalesReadLast)
+{
+    Settings settings(Stored{{"NVRedScale", "-0.5"}, {"NVGreenScale", "0.5"}, {"NVBlueScale", "1"}});
+    vorn::NightScaleCache cache;
+    EXPECT_EQ(cache.Tables().Dimmed(0x00FFFFFF), 0x02000000U);
+    settings.Scales(cache);
+    EXPECT_EQ(cache.Tables().Dimmed(0x00643264), 0x026419CEU); // -50 is 206 in its low byte
+    Settings others(Stored{{"NVRedScale", "1"}, {"NVGreenScale", "0.5"}, {"NVBlueScale", "1"}});
+    others.Scales(cache);
+    EXPECT_EQ(cache.Tables().Dimmed(0x00643264), 0x02641964U);
+}
+
 TEST(NightScaleOf, ANumberIsWhatATextBeginsWith)
 {
     EXPECT_EQ(vorn::NightScaleOf("0.4"), 0.4);

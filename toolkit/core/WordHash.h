@@ -11,15 +11,15 @@ namespace vorn
 template <std::size_t Count>
 constexpr std::uint32_t WordHash(const std::uint32_t (&words)[Count])
 {
-    std::uint32_t sum = 0;
+    std::uint64_t sum = 0;
     std::uint32_t factor = 0x9E3779B1; // odd, as are its powers: no bit of a word is lost
     for (const std::uint32_t word : words)
     {
-        sum += word * factor;
+        sum += static_cast<std::uint64_t>(word) * factor;
         factor *= 0x85EBCA77;
     }
-    sum = (sum ^ (sum >> 15)) * 0x2C1B3C6D;
-    return sum ^ (sum >> 15);
+    const auto mixed = static_cast<std::uint32_t>(sum ^ (sum >> 32)) * 0x2C1B3C6D;
+    return mixed ^ (mixed >> 15);
 }
 
 } // namespace vorn

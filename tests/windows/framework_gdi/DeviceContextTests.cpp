@@ -1,5 +1,5 @@
 #include "framework/core/Exception.h"
-#include "tests/windows/framework_gdi/Canvas.h"
+#include "tests/support/Canvas.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tests/windows/framework_gdi/Canvas.h"
+#include "tests/support/Canvas.h"
 
 namespace vorn::test
 {
