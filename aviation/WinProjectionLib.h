@@ -36,6 +36,8 @@ protected:
 
 private:
     WinProjectionLib();
+    void LoadModule(const char* path);
+    void FreeModules();
     Projection* CreateFromModule(int slot);
     void DropModule(int slot);
 

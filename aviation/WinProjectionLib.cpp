@@ -1,0 +1,169 @@
+#include "aviation/WinProjectionLib.h"
+
+#include "aviation/ReadableText.h"
+#include "family/VornChart/core/ExternalProj.h"
+#include "family/VornChart/core/VornLog.h"
+#include "frame/QuietErrors.h"
+
+#include <algorithm>
+#include <new>
+#include <type_traits>
+#include <vornplugin.h>
+
+namespace
+{
+struct ModuleFreer
+{
+    void operator()(HMODULE module) const
+    {
+        FreeLibrary(module);
+    }
+};
+using OwnedModule = std::unique_ptr<std::remove_pointer_t<HMODULE>, ModuleFreer>;
+
+template <typename Function>
+Function* EntryOf(HMODULE module, const char* name)
+{
+    return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(GetProcAddress(module, name)));
+}
+
+/// Only with a full path may a module's own folder come first in the search for what it needs.
+bool IsFullPath(const char* path)
+{
+    return path[0] != '\0' && (path[1] == ':' || (path[0] == '\\' && path[1] == '\\'));
+}
+
+OwnedModule Load(const char* path)
+{
+    const vorn::QuietErrors quiet;
+    return OwnedModule(LoadLibraryExA(path, nullptr, IsFullPath(path) ? LOAD_WITH_ALTERED_SEARCH_PATH : 0));
+}
+
+std::optional<std::string> NameOf(HMODULE module)
+{
+    auto* const query = EntryOf<decltype(::QueryProjectionName)>(module, "QueryProjectionName");
+    return query ? vorn::ReadableText(query()) : std::nullopt;
+}
+
+void LogSkipped(const char* path, const char* reason)
+{
+    if (VornLog::mpSingleInst)
+    {
+        const std::string text = std::string("Projection module ") + path + " skipped: " + reason;
+        VornLog::mpSingleInst->LogMsg(text, LOG_WARNING);
+    }
+}
+} // namespace
+
+WinProjectionLib::WinProjectionLib() = default;
+
+WinProjectionLib::~WinProjectionLib()
+{
+    FreeModules();
+}
+
+bool WinProjectionLib::Init(char** paths, int count)
+{
+    if (mpInstance)
+    {
+        return false;
+    }
+    mpInstance = new (std::nothrow) WinProjectionLib; // Deinit deletes it
+    return ProjectionLib::Init(paths, count);
+}
+
+void WinProjectionLib::Deinit()
+{
+    ProjectionLib::Deinit();
+}
+
+bool WinProjectionLib::sInit(char** paths, int count)
+{
+    ProjectionLib::sInit(paths, count);
+    FreeModules();
+    if (paths && count > 0)
+    {
+        m_modules.reset(new (std::nothrow) HMODULE[static_cast<std::size_t>(count)]{});
+        std::for_each_n(paths, m_modules ? count : 0,
+                        [this](const char* path)
+                        {
+                            LoadModule(path);
+                        });
+    }
+    return NumProjections() > 0;
+}
+
+void WinProjectionLib::LoadModule(const char* path)
+{
+    if (!path)
+    {
+        return;
+    }
+    OwnedModule module = Load(path);
+    if (!module)
+    {
+        LogSkipped(path, "it cannot be loaded");
+        return;
+    }
+    const auto name = NameOf(module.get());
+    if (!name)
+    {
+        LogSkipped(path, "it tells no readable name");
+        return;
+    }
+    mProjections.push_back({name->c_str()});
+    m_modules[static_cast<std::size_t>(m_moduleCount++)] = module.release();
+}
+
+void WinProjectionLib::sDeinit()
+{
+    FreeModules();
+    ProjectionLib::sDeinit();
+}
+
+void WinProjectionLib::FreeModules()
+{
+    std::for_each_n(m_modules.get(), m_moduleCount, FreeLibrary);
+    m_moduleCount = 0;
+    m_modules.reset();
+}
+
+Projection* WinProjectionLib::CreateProjection(int index)
+{
+    if (index < 0 || index >= NumProjections())
+    {
+        return nullptr;
+    }
+    if (Projection* builtIn = Projection::CreateProjection(index))
+    {
+        return builtIn;
+    }
+    const int slot = index - NumBuiltIn();
+    return slot < m_moduleCount ? CreateFromModule(slot) : nullptr; // fewer modules than names once one was dropped
+}
+
+Projection* WinProjectionLib::CreateFromModule(int slot)
+{
+    HMODULE const module = m_modules[static_cast<std::size_t>(slot)];
+    auto* const create = EntryOf<decltype(::CreateProjection)>(module, "CreateProjection");
+    if (!create)
+    {
+        DropModule(slot);
+        return nullptr;
+    }
+    auto projection = std::make_unique<ExternalProj>(create());
+    for (int i = 0; i < ExternalProj::kEntryPoints; ++i)
+    {
+        projection->Bind(i, GetProcAddress(module, ExternalProj::EntryPointName(i)));
+    }
+    projection->Init(); // what it answers is the projection's own affair
+    return projection.release();
+}
+
+void WinProjectionLib::DropModule(int slot)
+{
+    HMODULE* const first = m_modules.get() + slot;
+    FreeLibrary(*first);
+    std::copy(first + 1, m_modules.get() + m_moduleCount, first);
+    --m_moduleCount;
+}
