@@ -1,12 +1,14 @@
 #include "files/DIB.h"
 #include "files/DibInfo.h"
 #include "files/GdiScopes.h"
+#include "files/core/NoThrow.h"
 #include "files/core/PackedImage.h"
 
 #include <algorithm>
 #include <cstring>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -47,6 +49,22 @@ bool ReadRows(HDC dc, HBITMAP bitmap, vorn::PackedImage& image)
     return true;
 }
 
+/// Some of an image's stored rows.
+struct RowRange
+{
+    UINT first;
+    UINT count;
+};
+
+std::vector<unsigned char> LowestFirst(const vorn::ImageView& topDown, RowRange range)
+{
+    const auto stride = static_cast<std::size_t>(topDown.stride);
+    std::vector<unsigned char> rows(stride * range.count);
+    for (UINT i = 0; i < range.count; ++i)
+        std::memcpy(rows.data() + stride * (range.count - 1 - i), topDown.bits + stride * (range.first + i), stride);
+    return rows;
+}
+
 /// The bitmap stretched to the size, selected nowhere; null on failure.
 vorn::OwnBitmap Stretched(const DIB& source, HDC screen, HDC memory, int width, int height)
 {
@@ -71,16 +89,31 @@ int DIB::StretchDIBits(HDC dc, int x, int y, int width, int height, DWORD rop) c
                            static_cast<UINT>(m_usage), rop);
 }
 
+// Where a part of a top-down image goes is not told for sure: it is handed over with the lowest row first.
 int DIB::SetDIBits(HDC dc, HBITMAP bitmap, UINT start, UINT count) const
 {
-    const auto rows = static_cast<UINT>(Height());
+    const vorn::ImageView view = View();
+    const auto rows = static_cast<UINT>(view.height);
     if (!m_info || start >= rows)
         return 0;
-    const UINT fitting = std::min(count, rows - start);
-    const vorn::DibInfo info(Block(), TableEnd(), m_usage, m_blockSize - TableEnd());
-    const unsigned char* bits =
-        View().hasRows ? m_bits + std::size_t{start} * static_cast<UINT>(m_bytesPerScan) : m_bits;
-    return ::SetDIBits(dc, bitmap, start, fitting, bits, info.Get(), static_cast<UINT>(m_usage));
+    const RowRange range{start, std::min(count, rows - start)};
+    vorn::DibInfo info(Block(), TableEnd(), m_usage, m_blockSize - TableEnd());
+    const auto set = [&](UINT first, const unsigned char* bits)
+    {
+        return ::SetDIBits(dc, bitmap, first, range.count, bits, info.Get(), static_cast<UINT>(m_usage));
+    };
+    if (!view.hasRows)
+        return set(start, m_bits);
+    const std::size_t offset = std::size_t{start} * static_cast<UINT>(m_bytesPerScan);
+    if (!view.isTopDown || range.count == rows)
+        return set(start, m_bits + offset);
+    return vorn::NoThrow(0,
+                         [&]
+                         {
+                             const std::vector<unsigned char> reversed = LowestFirst(view, range);
+                             info.Get()->bmiHeader.biHeight = view.height;
+                             return set(rows - start - range.count, reversed.data());
+                         });
 }
 
 bool DIB::LoadDDB(HBITMAP bitmap, HDC dc, HPALETTE palette)

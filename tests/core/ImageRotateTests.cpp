@@ -152,4 +152,19 @@ TEST(Rotate, RefusesWhatCannotBeTurned)
     EXPECT_TRUE(Rotate(PackedImage().View(), 10, true, {}).IsEmpty());
     EXPECT_FALSE(Rotate(source.View(), 1e300, true, {}).IsEmpty());
 }
+TEST(ImageRotate, KeepsMasks)
+{
+    for (const int depth : {16, 32})
+    {
+        PackedImage image = PackedImage::MakeMasked(2, 1, depth, {0xF800, 0x07E0, 0x001F});
+        vorn::StorePixel(image.Canvas().Row(0), 0, depth, 0xFFE0);
+        vorn::StorePixel(image.Canvas().Row(0), 1, depth, 0x0801);
+        const PackedImage turned = vorn::Rotate(image.View(), 90, true, {});
+        ASSERT_TRUE(turned.View().isMasked);
+        EXPECT_EQ(vorn::StoredPixel(turned.View().Row(0), 0, depth), 0xFFE0u);
+        EXPECT_EQ(vorn::StoredPixel(turned.View().Row(1), 0, depth), 0x0801u);
+        const PackedImage grown = vorn::Rotate(image.View(), 45, true, {255, 0, 0});
+        EXPECT_EQ(vorn::ColorAt(grown.View(), 0, 0), (vorn::Rgb{255, 0, 0})) << "the background by the masks";
+    }
+}
 } // namespace

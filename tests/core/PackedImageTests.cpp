@@ -90,6 +90,44 @@ TEST(PackedImage, Make_CountsPaletteIndicesUp)
     EXPECT_TRUE(image.View().table.empty()) << "indices of a palette that is not here";
 }
 
+TEST(PackedImage, MakeMasked_HasTheMasksBehindTheHeader)
+{
+    for (const int depth : {16, 32})
+    {
+        const PackedImage image = PackedImage::MakeMasked(3, -2, depth, {0xF800, 0x07E0, 0x001F});
+        ASSERT_FALSE(image.IsEmpty());
+        EXPECT_EQ(image.BitsOffset(), 52u);
+        EXPECT_EQ(image.Block().size(), 52u + 2 * static_cast<unsigned>(image.View().stride));
+        EXPECT_EQ(image.Header().biCompression, static_cast<DWORD>(BI_BITFIELDS));
+        EXPECT_TRUE(image.View().isMasked);
+        EXPECT_TRUE(image.View().hasRows);
+        EXPECT_EQ(image.View().masks.green, 0x07E0u);
+    }
+    EXPECT_TRUE(PackedImage::MakeMasked(1, 1, 24, {}).IsEmpty());
+    EXPECT_TRUE(PackedImage::MakeMasked(0, 1, 16, {}).IsEmpty());
+}
+
+TEST(PackedImage, MakeHead_HasNoRows)
+{
+    EXPECT_EQ(PackedImage::MakeHead(100, 100, 24, DIB_RGB_COLORS).Block().size(), 40u);
+    const PackedImage indices = PackedImage::MakeHead(100, 100, 8, DIB_PAL_COLORS);
+    EXPECT_EQ(indices.Block().size(), 40u + 512);
+    EXPECT_EQ(indices.Block()[40 + 2 * 255], 255);
+    EXPECT_TRUE(PackedImage::MakeHead(32768, 16385, 16, DIB_RGB_COLORS).IsEmpty()) << "above 1 GiB";
+}
+
+TEST(PackedImage, TakeBlock_LeavesNoImage)
+{
+    PackedImage image = PackedImage::Make(1, 1, 24);
+    vorn::ImageBlock block = image.TakeBlock();
+    EXPECT_TRUE(image.IsEmpty());
+    ASSERT_EQ(block.Bytes().size(), 44u);
+    unsigned char* bytes = block.Release();
+    EXPECT_TRUE(block.Bytes().empty());
+    EXPECT_EQ(bytes[0], 40);
+    std::free(bytes);
+}
+
 TEST(PackedImage, Make_Gives16BitsATableOf65536)
 {
     const PackedImage image = PackedImage::Make(1, 1, 16);
