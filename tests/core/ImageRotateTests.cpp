@@ -163,7 +163,8 @@ TEST(ImageRotate, KeepsMasks)
         ASSERT_TRUE(turned.View().isMasked);
         EXPECT_EQ(vorn::StoredPixel(turned.View().Row(0), 0, depth), 0xFFE0u);
         EXPECT_EQ(vorn::StoredPixel(turned.View().Row(1), 0, depth), 0x0801u);
-        const PackedImage grown = vorn::Rotate(image.View(), 45, true, {255, 0, 0});
+        const PackedImage large = PackedImage::MakeMasked(20, 20, depth, {0xF800, 0x07E0, 0x001F});
+        const PackedImage grown = vorn::Rotate(large.View(), 45, true, {255, 0, 0});
         EXPECT_EQ(vorn::ColorAt(grown.View(), 0, 0), (vorn::Rgb{255, 0, 0})) << "the background by the masks";
     }
 }
