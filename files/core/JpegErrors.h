@@ -2,6 +2,8 @@
 
 /// @file
 /// What libjpeg does about errors: it leaves the reading or writing, without a word.
+#include "framework/core/BaseTypes.h" // before jpeglib.h, which defines TRUE and FALSE as macros
+
 #include <csetjmp>
 #include <cstddef>
 #include <cstdio>

@@ -3,6 +3,7 @@
 #include "files/core/ImagePixels.h"
 #include "files/core/PcxFile.h"
 #include "tests/oracle/OutsideTool.h"
+#include "tests/oracle/PictureColors.h"
 #include "tests/support/PictureBytes.h"
 #include "tests/support/ScratchFolder.h"
 
@@ -18,41 +19,7 @@ namespace
 using namespace vorn;
 using namespace vorn::test;
 
-struct Size
-{
-    int width;
-    int height;
-
-    std::string Text() const
-    {
-        return std::to_string(width) + "x" + std::to_string(height);
-    }
-};
-
 constexpr Size kSizes[] = {{1, 1}, {7, 5}, {32, 17}, {301, 211}, {256, 96}};
-
-/// Red, green and blue of each pixel from the top left on.
-std::string ColorsOf(const PackedImage& image)
-{
-    std::string colors;
-    const ImageView view = image.View();
-    for (int y = 0; y < view.height; ++y)
-    {
-        for (int x = 0; x < view.width; ++x)
-        {
-            const Rgb color = ColorAt(view, x, y);
-            colors += {static_cast<char>(color.red), static_cast<char>(color.green), static_cast<char>(color.blue)};
-        }
-    }
-    return colors;
-}
-
-/// What another program sees: `frame` of the file.
-std::string ColorsBy(const std::string& path, int frame = 0)
-{
-    return RunTool({"convert", path + "[" + std::to_string(frame) + "]", "-background", "black", "-alpha", "off",
-                    "-depth", "8", "rgb:-"});
-}
 
 class Pictures : public testing::TestWithParam<Size>
 {
