@@ -6,7 +6,8 @@ set(CMAKE_CXX_VISIBILITY_PRESET default)
 
 find_program(VORN_CCACHE ccache)
 if(VORN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${VORN_CCACHE}")
+    # Told what it must know of precompiled headers, or it would pass every source that uses one by.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND};-E;env;CCACHE_SLOPPINESS=pch_defines,time_macros;${VORN_CCACHE}")
 endif()
 
 add_library(vorn_flags INTERFACE)

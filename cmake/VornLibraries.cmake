@@ -20,6 +20,7 @@ function(vorn_library name macro)
 endfunction()
 
 vorn_library(HostFramework HOSTFRAMEWORK_BUILD framework)
+vorn_precompile(HostFramework <framework/core/BaseTypes.h> <framework/include/afxwin.h>)
 target_link_libraries(HostFramework PUBLIC uuid version gdi32
                       INTERFACE comctl32 comdlg32 winspool shell32 ole32 oleaut32)
 
@@ -44,6 +45,7 @@ target_link_libraries(VornChart PUBLIC TarnUtil)
 
 vorn_library(VornCommon VORNCOMMON_BUILD frame config aviation files toolkit resources)
 target_link_libraries(VornCommon PUBLIC HostFramework TarnUtil TarnComm VornChart PRIVATE $<BUILD_INTERFACE:vorn_images>)
+vorn_precompile(VornCommon <framework/include/afxwin.h>)
 
 # The compiler's runtime DLLs stand beside the programs: exceptions and RTTI cross modules
 # only when every module shares them. They come without their debug information, which is ten times

@@ -8,6 +8,7 @@ function(vorn_program name folder)
     add_executable(${name} ${ARGN} ${sources})
     target_link_libraries(${name} PRIVATE vorn_flags VornCommon)
     target_compile_definitions(${name} PRIVATE VORN_VERSION="${PROJECT_VERSION}")
+    vorn_precompile(${name} <VornCommon.h>)
     set_property(GLOBAL APPEND PROPERTY VORN_PROGRAMS ${name})
 endfunction()
 

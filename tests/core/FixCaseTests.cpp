@@ -47,12 +47,12 @@ TEST(FixCase, NullAndEmptyAreHarmless)
 
 TEST(FixCase, EveryByteIsHandledAfterALetterAndAfterABlank)
 {
-    for (int byte = 1; byte < 256; ++byte)
+    for (int code = 1; code < 256; ++code)
     {
-        const char c = static_cast<char>(byte);
+        const char c = static_cast<char>(code);
         const bool isLetter = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
         const std::string fixed = Fixed({'x', c, ' ', c});
-        EXPECT_EQ(fixed[1], isLetter ? static_cast<char>(byte | 0x20) : c) << byte;
-        EXPECT_EQ(fixed[3], isLetter ? static_cast<char>(byte & ~0x20) : c) << byte;
+        EXPECT_EQ(fixed[1], isLetter ? static_cast<char>(code | 0x20) : c) << code;
+        EXPECT_EQ(fixed[3], isLetter ? static_cast<char>(code & ~0x20) : c) << code;
     }
 }
