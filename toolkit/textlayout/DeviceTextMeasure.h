@@ -1,7 +1,10 @@
 #pragma once
 
 #include "framework/include/afxwin.h"
+#include "toolkit/textlayout/CharWidths.h"
 #include "toolkit/textlayout/core/TextMeasure.h"
+
+#include <cstddef>
 
 namespace vorn
 {
@@ -23,11 +26,16 @@ public:
     int LineWidth(std::string_view line) override;
 
 private:
+    int AskWidth(std::string_view line);
+
     HDC m_dc;
     LOGFONT m_description;
     HGDIOBJ m_former;
     CFont m_font;
     int m_lineHeight = 0;
+    std::size_t m_asked = 0; ///< characters that the system measured in this font
+    bool m_summing = false;  ///< whether widths of characters are summed instead
+    CharWidths m_widths;
 };
 
 } // namespace vorn
