@@ -12,8 +12,7 @@ class SolidFill
 {
 public:
     SolidFill(HDC dc, COLORREF color)
-        : m_dc(dc), m_color(::GetNearestColor(dc, color)), m_brush(::CreateSolidBrush(m_color)),
-          m_former(::SelectObject(dc, m_brush))
+        : m_dc(dc), m_brush(::CreateSolidBrush(::GetNearestColor(dc, color))), m_former(::SelectObject(dc, m_brush))
     {
     }
     ~SolidFill()
@@ -26,11 +25,7 @@ public:
 
     void Fill(int x, int y, int width, int height) const
     {
-        if (width == 1 && height == 1)
-        {
-            ::SetPixelV(m_dc, x, y, m_color);
-        }
-        else if (width > 0 && height > 0)
+        if (width > 0 && height > 0)
         {
             ::PatBlt(m_dc, x, y, width, height, PATCOPY);
         }
@@ -38,7 +33,6 @@ public:
 
 private:
     HDC m_dc;
-    COLORREF m_color;
     HBRUSH m_brush;
     HGDIOBJ m_former;
 };

@@ -13,41 +13,33 @@ public:
     HFONT Get(const FontKey& key)
     {
         const CriticalSectionLock lock(&m_section);
+        DropFailed();
         const std::uint32_t hash = key.Hash();
-        const Kept* const found = m_shelf.Find(hash,
-                                               [&key](const Kept& kept)
-                                               {
-                                                   return kept.key == key && !HasFailed(kept);
-                                               });
-        if (m_anyFailed)
-        {
-            // As a search from the newest font backward would that drops the failed ones it passes.
-            m_shelf.RemoveNewerThan(found, HasFailed);
-            m_anyFailed = found != nullptr;
-        }
+        const Kept* const found = Find(hash, key);
         return found != nullptr ? found->handle : Made(hash, key);
     }
 
 private:
     static constexpr std::size_t kMost = 60;
 
-    static bool HasFailed(const Kept& kept)
+    /// A font that could not be made is the newest: whatever is asked for next comes by here.
+    void DropFailed()
     {
-        return kept.handle == nullptr;
+        if (const Kept* const newest = m_shelf.Newest(); newest != nullptr && newest->handle == nullptr)
+        {
+            m_shelf.RemoveNewest();
+        }
     }
 
     HFONT Made(std::uint32_t hash, const FontKey& key)
     {
         const HFONT handle = Add(hash, key).handle;
-        m_anyFailed |= handle == nullptr;
         if (m_shelf.Size() > kMost)
         {
             m_shelf.RemoveOldest();
         }
         return handle;
     }
-
-    bool m_anyFailed = false; ///< whether a font without a handle may be there
 };
 
 } // namespace vorn

@@ -33,14 +33,7 @@ public:
     {
         if (!IsRead())
         {
-            const auto red = read(kSection, kRedKey, kDefault);
-            const auto green = read(kSection, kGreenKey, kDefault);
-            const auto blue = read(kSection, kBlueKey, kDefault);
-            write(kSection, kRedKey, red);
-            write(kSection, kGreenKey, green);
-            write(kSection, kBlueKey, blue);
-            m_scales = {NightScaleOf(red), NightScaleOf(green), NightScaleOf(blue)};
-            m_tables = NightTables(m_scales);
+            Load(read, write);
         }
         return m_scales;
     }
@@ -52,6 +45,20 @@ public:
     }
 
 private:
+    /// Apart from the question whether it is needed, which is asked for every colour.
+    template <typename Read, typename Write>
+    void Load(Read& read, Write& write)
+    {
+        const auto red = read(kSection, kRedKey, kDefault);
+        const auto green = read(kSection, kGreenKey, kDefault);
+        const auto blue = read(kSection, kBlueKey, kDefault);
+        write(kSection, kRedKey, red);
+        write(kSection, kGreenKey, green);
+        write(kSection, kBlueKey, blue);
+        m_scales = {NightScaleOf(red), NightScaleOf(green), NightScaleOf(blue)};
+        m_tables = NightTables(m_scales);
+    }
+
     NightScales m_scales = {-1, -1, -1};
     NightTables m_tables;
 };

@@ -71,7 +71,7 @@ void Morse(benchmark::State& state)
             DrawSeaByPixels(picture.dc, RGB(0, 0, 160), 4, 4, unit);
         });
 }
-BENCHMARK(Morse)->Name("Drawing/DrawMorse to single pixels")->Arg(1)->Arg(2)->Arg(4)->UseManualTime();
+BENCHMARK(Morse)->Name("Drawing/DrawMorse to single pixels")->Arg(1)->Arg(2)->Arg(3)->Arg(4)->UseManualTime();
 
 void NightColor(benchmark::State& state)
 {

@@ -54,24 +54,21 @@ public:
         return *m_items.back().entry;
     }
 
-    /// There must be one.
+    /// The entry that came last; null without one.
+    const Entry* Newest() const
+    {
+        return m_items.empty() ? nullptr : m_items.back().entry.get();
+    }
+
+    /// Both need an entry.
+    void RemoveNewest()
+    {
+        m_items.pop_back();
+        Reindex();
+    }
     void RemoveOldest()
     {
         m_items.erase(m_items.begin());
-        Reindex();
-    }
-
-    /// Removes from the newest entry backward what unwanted(const Entry&) says, and stops before `end`; null means all.
-    template <class Unwanted>
-    void RemoveNewerThan(const Entry* end, Unwanted unwanted)
-    {
-        for (std::size_t i = m_items.size(); i > 0 && m_items[i - 1].entry.get() != end; --i)
-        {
-            if (unwanted(std::as_const(*m_items[i - 1].entry)))
-            {
-                m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(i - 1));
-            }
-        }
         Reindex();
     }
 

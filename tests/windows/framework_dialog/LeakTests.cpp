@@ -1,4 +1,5 @@
 #include "framework/dialog/DialogDataExchange.h"
+#include "tests/support/GdiCount.h"
 #include "tests/windows/framework_dialog/TestDialogs.h"
 
 #include <gtest/gtest.h>
@@ -6,11 +7,10 @@
 namespace
 {
 constexpr int kOpenings = 200;
-constexpr UINT_PTR kGdiHandles = 0x10000;
 
 struct Counts
 {
-    DWORD gdiObjects;
+    unsigned gdiObjects;
     int windows;
     bool operator==(const Counts&) const = default;
 };
@@ -21,21 +21,10 @@ BOOL CALLBACK CountWindow(HWND, LPARAM count)
     return TRUE;
 }
 
-/// Where the system does not count drawing objects, each possible handle is asked for its type.
-DWORD CountGdiObjects()
-{
-    if (const DWORD counted = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS))
-        return counted;
-    DWORD count = 0;
-    for (UINT_PTR handle = 1; handle < kGdiHandles; ++handle)
-        count += ::GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0;
-    return count;
-}
-
 Counts CountNow()
 {
     Counts counts{};
-    counts.gdiObjects = CountGdiObjects();
+    counts.gdiObjects = vorn::test::CountGdiObjects();
     ::EnumThreadWindows(::GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&counts.windows));
     return counts;
 }
