@@ -66,6 +66,13 @@ constexpr int ClampToInt(long long value)
     return value < INT_MIN ? INT_MIN : value > INT_MAX ? INT_MAX : static_cast<int>(value);
 }
 
+/// A sum that stays at the limit of an int. A 32-bit machine needs several steps for 64 bits, and these sums are many.
+constexpr int SumOf(int first, int second)
+{
+    int sum = 0;
+    return __builtin_add_overflow(first, second, &sum) ? (first < 0 ? INT_MIN : INT_MAX) : sum;
+}
+
 /// A percentage of an extent, truncated toward zero.
 constexpr int PercentOf(int extent, int percent)
 {

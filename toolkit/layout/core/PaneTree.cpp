@@ -1,5 +1,7 @@
 #include "toolkit/layout/core/PaneTree.h"
 
+#include <algorithm>
+
 namespace vorn
 {
 
@@ -12,6 +14,7 @@ void PaneTree::Clear()
 {
     m_nodes.clear();
     m_panes.clear();
+    m_paneNodes.clear();
     m_controls.clear();
     m_open.clear();
     m_isMeasured = false;
@@ -34,6 +37,7 @@ std::size_t PaneTree::OpenPane(const PaneSpec& pane)
     node.isVertical = pane.isVertical;
     node.detail = static_cast<std::int32_t>(m_panes.size());
     m_panes.push_back(pane);
+    m_paneNodes.push_back(m_nodes.size() - 1);
     m_open.push_back(m_nodes.size() - 1);
     return m_open.back();
 }
@@ -55,13 +59,21 @@ void PaneTree::CloseAll()
     }
 }
 
+void PaneTree::LimitItem(Node& node, PaneAxis axis, int minimum)
+{
+    const int a = static_cast<int>(axis);
+    const bool isFixed = (node.mode & BitsOf(axis).fixed) != 0;
+    node.least[a] = isFixed ? node.size[a] : std::max(minimum, kLeastExtent);
+    node.most[a] = isFixed ? node.size[a] : kUnbounded;
+}
+
 std::size_t PaneTree::Add(const PaneItemSpec& item)
 {
     Node& node = Append(Kind::Item, item.mode, item.width, item.height);
-    node.minimum[0] = item.minimumWidth;
-    node.minimum[1] = item.minimumHeight;
+    LimitItem(node, PaneAxis::Width, item.minimumWidth);
+    LimitItem(node, PaneAxis::Height, item.minimumHeight);
     node.countsAsControl = item.hasControl;
-    node.isVisible = item.isShown || !item.hasControl;
+    node.isShown = item.isShown || !item.hasControl;
     if (item.hasControl)
     {
         node.detail = static_cast<std::int32_t>(m_controls.size());
@@ -79,7 +91,7 @@ std::size_t PaneTree::Add(const PaneForeignSpec& foreign)
         node.most[axis] = foreign.most[axis];
     }
     node.countsAsControl = foreign.countsAsControl;
-    node.isVisible = node.isShown = foreign.isShown;
+    node.isShown = foreign.isShown;
     return m_nodes.size() - 1;
 }
 
@@ -87,7 +99,7 @@ void PaneTree::Show(std::size_t node, bool isShown)
 {
     if (m_nodes[node].kind == Kind::Item && m_nodes[node].countsAsControl)
     {
-        m_nodes[node].isVisible = isShown;
+        m_nodes[node].isShown = isShown;
         m_isMeasured = false;
     }
 }
@@ -99,12 +111,12 @@ bool PaneTree::IsShown(std::size_t node) const
 
 int PaneTree::Least(std::size_t node, PaneAxis axis) const
 {
-    return m_nodes[node].least[static_cast<int>(axis)];
+    return m_nodes[node].isShown ? m_nodes[node].least[static_cast<int>(axis)] : 0;
 }
 
 int PaneTree::Most(std::size_t node, PaneAxis axis) const
 {
-    return m_nodes[node].most[static_cast<int>(axis)];
+    return m_nodes[node].isShown ? m_nodes[node].most[static_cast<int>(axis)] : 0;
 }
 
 } // namespace vorn

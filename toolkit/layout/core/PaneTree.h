@@ -138,13 +138,11 @@ private:
         Kind kind = Kind::Item;
         bool isVertical : 1 = false;
         bool countsAsControl : 1 = false; ///< it or something below it is a control
-        bool isVisible : 1 = true;        ///< as told
-        bool isShown : 1 = false;         ///< as measured
+        bool isShown : 1 = false;         ///< of a pane as measured
         std::uint32_t span = 1;           ///< nodes from this one to its last descendant
         std::int32_t detail = -1;         ///< index of its pane or control
         int size[2]{};
-        int minimum[2]{}; ///< of an item, as told
-        int least[2]{};   ///< as measured
+        int least[2]{}; ///< of an item and a foreign node: while it is shown
         int most[2]{};
         RECT place{};
     };
@@ -156,7 +154,7 @@ private:
     };
 
     Node& Append(Kind kind, unsigned mode, int width, int height);
-    void MeasureItem(Node& node);
+    static void LimitItem(Node& node, PaneAxis axis, int minimum);
     void MeasurePane(std::size_t index);
     bool PlaceNode(std::size_t index, PaneMoves& moves);
     bool PlaceItem(std::size_t index, PaneMoves& moves);
@@ -164,14 +162,15 @@ private:
     RECT FrameOf(const Node& node) const;
     void PlaceChildren(std::size_t index, RECT area);
     void ReadShares(std::size_t index, PaneAxis axis);
-    void WritePlaces(std::size_t index, PaneAxis axis, const RECT& area, long long start);
-    ExtentShare ShareOf(const Node& node, PaneAxis axis) const;
+    void WritePlaces(std::size_t index, PaneAxis axis, const RECT& area, int start);
+    static ExtentShare ShareOf(const Node& node, const PaneAxisBits& bits, int axis);
     bool PlaceFrame(std::size_t index, PaneMoves& moves);
     void CloseAll();
     void ForgetPlaces(std::size_t first, std::size_t end);
 
     std::vector<Node> m_nodes;
     std::vector<PaneSpec> m_panes;
+    std::vector<std::size_t> m_paneNodes; ///< the node of each pane
     std::vector<Control> m_controls;
     std::vector<std::size_t> m_open;   ///< panes without their end
     std::vector<ExtentShare> m_shares; ///< of the pane being placed

@@ -10,17 +10,17 @@ namespace
 /// What the children of a pane come to on one axis.
 struct Along
 {
-    long long least = 0;
-    long long most = 0;
+    int least = 0;
+    int most = 0;
     int counted = 0;  ///< children that have a minimum
     int withMost = 0; ///< children whose maximum is not 0
     bool isBounded = true;
 
     void Include(int childLeast, int childMost)
     {
-        least += childLeast > 0 ? std::max(childLeast, kLeastExtent) : 0;
+        least = SumOf(least, childLeast > 0 ? std::max(childLeast, kLeastExtent) : 0);
         counted += childLeast > 0;
-        most += childMost;
+        most = SumOf(most, childMost);
         withMost += childMost != 0;
         isBounded = isBounded && childMost != kUnbounded;
     }
@@ -53,7 +53,7 @@ long long EdgesOf(const PaneSpec& pane, PaneAxis axis)
 
 int LeastAlong(const Along& sum, int spacing, long long edges)
 {
-    return sum.counted == 0 ? 0 : ClampToInt(sum.least + (sum.counted - 1LL) * spacing + edges);
+    return sum.counted == 0 ? 0 : ClampToInt((sum.counted - 1LL) * spacing + sum.least + edges);
 }
 
 /// One less than the plain sum, which windows have been sized by for as long as there are layouts.
@@ -63,7 +63,7 @@ int MostAlong(const Along& sum, int spacing, long long edges)
     {
         return kUnbounded;
     }
-    const long long most = sum.most - 1;
+    const long long most = sum.most - 1LL;
     return most < 0 ? 0 : ClampToInt(most + (sum.withMost - 1LL) * spacing + edges);
 }
 
@@ -91,33 +91,12 @@ int MostAcross(const AcrossThem& them, int fixedSize)
 void PaneTree::Measure()
 {
     CloseAll();
-    // Backwards, children come before their pane.
-    for (std::size_t index = m_nodes.size(); index-- != 0;)
+    // Backwards, what a pane holds comes before it.
+    for (std::size_t pane = m_paneNodes.size(); pane-- != 0;)
     {
-        Node& node = m_nodes[index];
-        if (node.kind == Kind::Item)
-        {
-            MeasureItem(node);
-        }
-        else if (node.kind == Kind::Pane)
-        {
-            MeasurePane(index);
-        }
+        MeasurePane(m_paneNodes[pane]);
     }
     m_isMeasured = true;
-}
-
-void PaneTree::MeasureItem(Node& node)
-{
-    node.isShown = node.isVisible;
-    for (const PaneAxis axis : {PaneAxis::Width, PaneAxis::Height})
-    {
-        const int a = static_cast<int>(axis);
-        const bool isFixed = (node.mode & BitsOf(axis).fixed) != 0;
-        const int least = isFixed ? node.size[a] : std::max(node.minimum[a], kLeastExtent);
-        node.least[a] = node.isShown ? least : 0;
-        node.most[a] = !node.isShown ? 0 : isFixed ? node.size[a] : kUnbounded;
-    }
 }
 
 void PaneTree::MeasurePane(std::size_t index)
@@ -138,17 +117,17 @@ void PaneTree::MeasurePane(std::size_t index)
         hasControl |= child.countsAsControl;
         showsControl |= child.countsAsControl && child.isShown;
         showsAny |= child.isShown;
-        along.Include(child.least[m], child.most[m]);
-        across.Include(child.least[x], child.most[x]);
+        along.Include(child.isShown ? child.least[m] : 0, child.isShown ? child.most[m] : 0);
+        across.Include(child.isShown ? child.least[x] : 0, child.isShown ? child.most[x] : 0);
     }
     node.isShown = (hasControl ? showsControl : showsAny) || pane.isShownAlone;
     node.countsAsControl = hasControl || (pane.frame == PaneFrame::Tab && pane.hasControl);
     const bool isFixedAcross = (node.mode & BitsOf(Across(main)).fixed) != 0;
     const int fixedSize = isFixedAcross ? pane.ownSize : 0;
-    node.least[m] = node.isShown ? LeastAlong(along, pane.spacing, EdgesOf(pane, main)) : 0;
-    node.most[m] = node.isShown ? MostAlong(along, pane.spacing, EdgesOf(pane, main)) : 0;
-    node.least[x] = node.isShown ? LeastAcross(across, fixedSize, EdgesOf(pane, Across(main))) : 0;
-    node.most[x] = node.isShown ? MostAcross(across, fixedSize) : 0;
+    node.least[m] = LeastAlong(along, pane.spacing, EdgesOf(pane, main));
+    node.most[m] = MostAlong(along, pane.spacing, EdgesOf(pane, main));
+    node.least[x] = LeastAcross(across, fixedSize, EdgesOf(pane, Across(main)));
+    node.most[x] = MostAcross(across, fixedSize);
 }
 
 int PaneTree::Wanted(std::size_t node, PaneAxis axis, int parentExtent) const

@@ -137,8 +137,11 @@ bool PaneTree::PlaceItem(std::size_t index, PaneMoves& moves)
         return true;
     }
     Control& control = m_controls[static_cast<std::size_t>(node.detail)];
-    AlignInSlot(node.place, node.mode, control.present, PaneAxis::Width);
-    AlignInSlot(node.place, node.mode, control.present, PaneAxis::Height);
+    if ((node.mode & (panemode::kFixedWidth | panemode::kFixedHeight)) != 0)
+    {
+        AlignInSlot(node.place, node.mode, control.present, PaneAxis::Width);
+        AlignInSlot(node.place, node.mode, control.present, PaneAxis::Height);
+    }
     if (control.keepsHeight)
     {
         SetLength(node.place, PaneAxis::Height, LengthOf(control.present, PaneAxis::Height));
@@ -219,43 +222,42 @@ void PaneTree::PlaceChildren(std::size_t index, RECT area)
     const long long edges = static_cast<long long>(NearEdge(borders, main)) + FarEdge(borders, main);
     const long long gaps = (static_cast<long long>(m_shares.size()) - 1) * pane.spacing;
     ShareExtent(m_shares, LengthOf(area, main) - gaps - edges);
-    WritePlaces(index, main, area, static_cast<long long>(NearEdge(inner, main)) + NearEdge(borders, main));
+    WritePlaces(index, main, area, SumOf(NearEdge(inner, main), NearEdge(borders, main)));
 }
 
 void PaneTree::ReadShares(std::size_t index, PaneAxis axis)
 {
+    const PaneAxisBits bits = BitsOf(axis);
     m_shares.clear();
     for (std::size_t i = index + 1; i < index + m_nodes[index].span; i += m_nodes[i].span)
     {
         if (m_nodes[i].isShown)
         {
-            m_shares.push_back(ShareOf(m_nodes[i], axis));
+            m_shares.push_back(ShareOf(m_nodes[i], bits, static_cast<int>(axis)));
         }
     }
 }
 
-ExtentShare PaneTree::ShareOf(const Node& node, PaneAxis axis) const
+ExtentShare PaneTree::ShareOf(const Node& node, const PaneAxisBits& bits, int axis)
 {
-    const PaneAxisBits bits = BitsOf(axis);
-    const int a = static_cast<int>(axis);
     ExtentShare share;
-    share.least = node.least[a];
-    share.most = node.most[a];
+    share.least = node.least[axis];
+    share.most = node.most[axis];
     if ((node.mode & bits.fixed) != 0)
     {
         share.role = ExtentShare::Role::Fixed;
         share.stretches = (node.mode & bits.stretch) != 0;
-        share.size = node.kind == Kind::Pane && node.size[a] == 0 ? share.least : node.size[a];
+        share.size = node.kind == Kind::Pane && node.size[axis] == 0 ? share.least : node.size[axis];
     }
     else if ((node.mode & bits.percent) != 0)
     {
         share.role = ExtentShare::Role::Percent;
-        share.percent = node.size[a];
+        share.percent = node.size[axis];
     }
     return share;
 }
 
-void PaneTree::WritePlaces(std::size_t index, PaneAxis axis, const RECT& area, long long start)
+void PaneTree::WritePlaces(std::size_t index, PaneAxis axis, const RECT& area, int start)
 {
     const ExtentShare* share = m_shares.data();
     const int spacing = m_panes[static_cast<std::size_t>(m_nodes[index].detail)].spacing;
@@ -267,9 +269,10 @@ void PaneTree::WritePlaces(std::size_t index, PaneAxis axis, const RECT& area, l
             continue;
         }
         child.place = area;
-        NearEdge(child.place, axis) = ClampToInt(start);
-        FarEdge(child.place, axis) = ClampToInt(start + share->size);
-        start += static_cast<long long>(share->size) + spacing;
+        const int end = SumOf(start, share->size);
+        NearEdge(child.place, axis) = start;
+        FarEdge(child.place, axis) = end;
+        start = SumOf(end, spacing);
         ++share;
     }
 }
