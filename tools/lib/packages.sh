@@ -6,6 +6,7 @@ declare -A packages=(
     [check]="git python3 hunspell hunspell-en-us clang clang-format clang-tidy libclang-rt-14-dev shellcheck"
     [oracle]="gdal-bin shapelib libdbd-xbase-perl geographiclib-tools imagemagick netpbm giflib-tools libpng-tools libjpeg-turbo-progs" # about 45 MB to fetch
     [count]="valgrind"
+    [peers]="npm" # where the benchmarks' peers come from that Debian does not have
     [docs]="doxygen graphviz"
 )
 as_root=() # how to get root's rights
