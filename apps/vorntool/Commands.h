@@ -18,6 +18,7 @@ const CommandGroup& StatsCommands();
 const CommandGroup& VersionCommands();
 const CommandGroup& DbfCommands();
 const CommandGroup& RegistryCommands();
+const CommandGroup& MorseCommands();
 
 /// The whole tool with all its commands.
 Tool VornTool();

@@ -24,7 +24,7 @@ struct MorseCode
 };
 
 /// The code of a letter of either case.
-MorseCode MorseCodeOf(char letter);
+VORNCOMMON_API MorseCode MorseCodeOf(char letter);
 
 inline constexpr int kDotUnits = 1;
 inline constexpr int kDashUnits = 4;

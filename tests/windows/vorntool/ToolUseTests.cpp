@@ -26,6 +26,7 @@ const std::vector<std::vector<std::string>> kCommands = {{"settings", "get"},
                                                          {"paths", "list"},
                                                          {"paths", "get"},
                                                          {"find"},
+                                                         {"morse"},
                                                          {"stats"}};
 
 std::string Joined(const std::vector<std::string>& words)
