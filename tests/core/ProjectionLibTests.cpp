@@ -1,5 +1,6 @@
 #include "family/VornChart/core/ProjectionLib.h"
 #include "tests/core/ProjectionCases.h"
+#include "tests/support/VirtualSlot.h"
 
 using namespace vorn::test;
 
@@ -20,6 +21,12 @@ public:
     ~RegistryOfSeven() override
     {
         --s_living;
+    }
+
+    static std::array<int, 3> Slots()
+    {
+        return {SlotOf(&RegistryOfSeven::CreateProjection), SlotOf(&RegistryOfSeven::sInit),
+                SlotOf(&RegistryOfSeven::sDeinit)};
     }
 
 protected:
@@ -81,4 +88,9 @@ TEST(ProjectionLib, StartsAndEndsTheDerivedRegistry)
     EXPECT_EQ(RegistryOfSeven::s_starts, 1);
     EXPECT_EQ(RegistryOfSeven::s_ends, 1);
     EXPECT_EQ(RegistryOfSeven::s_living, 0);
+}
+
+TEST(ProjectionLib, VirtualOperationsKeepTheirOrder)
+{
+    EXPECT_EQ(RegistryOfSeven::Slots(), (std::array<int, 3>{0, 1, 2}));
 }
