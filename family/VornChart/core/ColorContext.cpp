@@ -1,6 +1,7 @@
 #include "family/VornChart/core/ColorContext.h"
 
 #include <array>
+#include <atomic>
 
 namespace
 {
@@ -41,14 +42,15 @@ ColorContext* ColorContext::Instance()
 
 int ColorContext::GetCurrentState() const
 {
-    return m_state;
+    // Drawing threads ask for colours while the user interface changes the light.
+    return std::atomic_ref<int>(const_cast<int&>(m_state)).load(std::memory_order_relaxed);
 }
 
 void ColorContext::SetCurrentState(int state)
 {
     if (state >= COLORSTATE_DAY && state <= COLORSTATE_DUSK)
     {
-        m_state = state;
+        std::atomic_ref<int>(m_state).store(state, std::memory_order_relaxed);
     }
 }
 
@@ -59,5 +61,5 @@ COLORREF ColorContext::GetColor(AppColorsType type) const
     {
         return Rgb(0, 0, 0);
     }
-    return kColors[static_cast<std::size_t>(index)][static_cast<std::size_t>(m_state)];
+    return kColors[static_cast<std::size_t>(index)][static_cast<std::size_t>(GetCurrentState())];
 }
