@@ -16,7 +16,9 @@ build_third_party() {
 
 # What the benchmarks compare with.
 build_yardsticks() {
-    [ -e build/deps/stamps/built-shapelib ] && [ -e build/deps/stamps/built-yoga ] && return
+    local stamps=build/deps/stamps
+    [ -e $stamps/built-shapelib ] && [ -e $stamps/built-yoga ] && [ -e $stamps/built-giflib ] &&
+        [ -e $stamps/built-stb ] && return
     command -v npm > /dev/null || need_packages peers
     headline "Building what the benchmarks compare with (once)"
     step tools/build-deps yardsticks || exit 1
