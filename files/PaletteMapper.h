@@ -8,7 +8,8 @@
 namespace vorn
 {
 class PaletteCells;
-}
+class PaletteOfMapper;
+} // namespace vorn
 
 /// Finds the entries of a palette that are nearest to colours, and remembers the answers in a cube of coarse cells.
 ///
@@ -34,6 +35,7 @@ public:
     HPALETTE Palette() const;
 
 private:
+    friend class vorn::PaletteOfMapper;
     std::unique_ptr<vorn::PaletteCells> m_cells;
     HPALETTE m_palette;
 };

@@ -1,4 +1,5 @@
 #include "files/PaletteOfMapper.h"
+#include "files/core/PaletteCells.h"
 
 #include <algorithm>
 
@@ -21,9 +22,16 @@ std::span<const RGBQUAD> PaletteOfMapper::Table() const
     return std::span(m_table).first(m_count);
 }
 
-void PaletteOfMapper::Reduce(const unsigned char* colors, unsigned char* entries, int count)
+void PaletteOfMapper::Reduce(const unsigned char* pixels, unsigned char* entries, int count)
 {
-    for (int i = 0; i < count; ++i, colors += 3)
-        entries[i] = m_mapper.GetNearestPaletteIndex(colors[2], colors[1], colors[0]);
+    const auto nearest = [this](BYTE red, BYTE green, BYTE blue)
+    {
+        return static_cast<BYTE>(::GetNearestPaletteIndex(m_mapper.Palette(), RGB(red, green, blue)));
+    };
+    if (m_mapper.m_cells)
+        m_mapper.m_cells->IndicesOf(pixels, entries, count, nearest);
+    else
+        for (int i = 0; i < count; ++i, pixels += 4)
+            entries[i] = nearest(pixels[2], pixels[1], pixels[0]);
 }
 } // namespace vorn

@@ -16,7 +16,7 @@ public:
     explicit PaletteOfMapper(PaletteMapper& mapper);
 
     std::span<const RGBQUAD> Table() const override;
-    void Reduce(const unsigned char* colors, unsigned char* entries, int count) override;
+    void Reduce(const unsigned char* pixels, unsigned char* entries, int count) override;
 
 private:
     PaletteMapper& m_mapper;

@@ -2,7 +2,6 @@
 #include "files/core/JpegErrors.h"
 #include "files/core/JpegRead.h"
 #include "files/core/JpegWrite.h"
-#include "files/core/PaletteCells.h"
 
 #include <array>
 #include <cstdlib>
@@ -142,15 +141,11 @@ void WithPalette(benchmark::State& state, Scene scene)
     const std::string file = Ours(ColorPicture(scene).View());
     PaletteCells cells(32);
     const std::array<RGBQUAD, 256> table{};
-    NearestReducer reducer(table,
-                           [&](unsigned char red, unsigned char green, unsigned char blue)
-                           {
-                               return cells.IndexOf(red, green, blue,
-                                                    [](BYTE r, BYTE g, BYTE b)
-                                                    {
-                                                        return static_cast<BYTE>(r / 52 * 50 + g / 26 * 5 + b / 52);
-                                                    });
-                           });
+    CellReducer reducer(table, cells,
+                        [](BYTE red, BYTE green, BYTE blue)
+                        {
+                            return static_cast<BYTE>(red / 52 * 50 + green / 26 * 5 + blue / 52);
+                        });
     ComparePictures(
         state,
         [&]

@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <utility>
+#include <vector>
 
 namespace vorn
 {
@@ -43,24 +44,35 @@ void SpreadRows(const ImageCanvas& canvas, std::size_t count)
     }
 }
 
-void DecodePlain(GifImage& image, const ImageCanvas& canvas)
+/// For each row of the picture the one of the file.
+std::vector<int> RowsInFile(int height)
 {
-    SpreadRows(canvas, DecodeGifCodes(image.data, image.codeSize, PixelSpan(canvas.bits, image)));
+    std::vector<int> rows(static_cast<std::size_t>(height));
+    int next = 0;
+    for (const Pass& pass : kPasses)
+        for (int y = pass.first; y < height; y += pass.step)
+            rows[static_cast<std::size_t>(y)] = next++;
+    return rows;
 }
 
-bool DecodeInterlaced(GifImage& image, const ImageCanvas& canvas)
+/// Brings rows in the file's order to where they are seen, in place: each goes to the place of the one that went before
+/// it, until a circle closes.
+void OrderRows(const ImageCanvas& canvas)
 {
-    const auto width = static_cast<std::size_t>(canvas.width);
-    const ImageBlock rows(width * static_cast<std::size_t>(canvas.height), kGifSlack);
-    const unsigned char* from = rows.Bytes().data();
-    if (from == nullptr)
-        return false;
-    const auto pixels = PixelSpan(rows.Bytes().data(), image);
-    const unsigned char* end = from + DecodeGifCodes(image.data, image.codeSize, pixels);
-    for (const Pass& pass : kPasses)
-        for (int y = pass.first; y < canvas.height && from < end; y += pass.step, from += width)
-            std::memcpy(canvas.Row(y), from, width);
-    return true;
+    const auto stride = static_cast<std::size_t>(canvas.stride);
+    std::vector<int> source = RowsInFile(canvas.height);
+    std::vector<unsigned char> kept(stride);
+    for (int first = 0; first < canvas.height; ++first)
+    {
+        if (source[static_cast<std::size_t>(first)] == first)
+            continue;
+        std::memcpy(kept.data(), canvas.Row(first), stride);
+        int to = first;
+        for (int from = std::exchange(source[static_cast<std::size_t>(to)], to); from != first;
+             to = from, from = std::exchange(source[static_cast<std::size_t>(to)], to))
+            std::memcpy(canvas.Row(to), canvas.Row(from), stride);
+        std::memcpy(canvas.Row(to), kept.data(), stride);
+    }
 }
 
 PackedImage NewImage(const GifImage& image)
@@ -77,10 +89,9 @@ PackedImage Decode(GifImage& image)
     if (made.IsEmpty())
         return made;
     const ImageCanvas canvas = made.Canvas();
-    if (!image.isInterlaced)
-        DecodePlain(image, canvas);
-    else if (!DecodeInterlaced(image, canvas))
-        return {};
+    SpreadRows(canvas, DecodeGifCodes(image.data, image.codeSize, PixelSpan(canvas.bits, image)));
+    if (image.isInterlaced)
+        OrderRows(canvas);
     return made;
 }
 } // namespace

@@ -100,13 +100,17 @@ PackedImage To24Bit(const ImageView& source)
 {
     if (!source.hasRows)
         return {};
-    PackedImage made = PackedImage::Make(source.width, SignedHeight(source), kTrueColor);
+    PackedImage made = PackedImage::MakeUnfilled(source.width, SignedHeight(source), kTrueColor);
     if (made.IsEmpty())
         return made;
     const RowConverter converter(source);
     const ImageCanvas canvas = made.Canvas();
+    const auto used = static_cast<std::size_t>(canvas.width) * 3;
     for (int y = 0; y < source.height; ++y)
+    {
         converter.Convert(source.Row(y), canvas.Row(y));
+        std::memset(canvas.Row(y) + used, 0, static_cast<std::size_t>(canvas.stride) - used);
+    }
     return made;
 }
 

@@ -121,6 +121,52 @@ void Resample(const ImageView& source, const ImageCanvas& target)
     }
 }
 
+/// Where the pixels of a row come from, in bytes, where each is one of the source alone.
+std::vector<std::size_t> Offsets(int sourceSize, int size, std::size_t channels)
+{
+    const Shares shares(sourceSize, size);
+    std::vector<std::size_t> offsets;
+    offsets.reserve(static_cast<std::size_t>(size));
+    for (int i = 0; i < size; ++i)
+        offsets.push_back(static_cast<std::size_t>(shares.Of(i).front().source) * channels);
+    return offsets;
+}
+
+// Three bytes go as four as long as the source has them; the next pixel takes the last one.
+template <std::size_t Channels>
+void RepeatPixels(const unsigned char* from, std::span<const std::size_t> offsets, unsigned char* to)
+{
+    std::size_t x = 0;
+    for (; x < offsets.size() && offsets[x] < offsets.back(); ++x, to += Channels)
+        std::memcpy(to, from + offsets[x], 4);
+    for (; x < offsets.size(); ++x, to += Channels)
+        std::memcpy(to, from + offsets[x], Channels);
+}
+
+/// Growing along both axes: nothing is mixed.
+void Repeat(const ImageView& source, const ImageCanvas& target)
+{
+    const auto channels = static_cast<std::size_t>(source.depth / 8);
+    const std::vector<std::size_t> columns = Offsets(source.width, target.width, channels);
+    const std::vector<std::size_t> rows = Offsets(source.height, target.height, 1);
+    const std::size_t used = columns.size() * channels;
+    for (std::size_t y = 0; y < rows.size(); ++y)
+    {
+        unsigned char* to = target.Row(static_cast<int>(y));
+        if (y > 0 && rows[y] == rows[y - 1])
+        {
+            std::memcpy(to, target.Row(static_cast<int>(y) - 1), static_cast<std::size_t>(target.stride));
+            continue;
+        }
+        const unsigned char* from = source.Row(static_cast<int>(rows[y]));
+        if (channels == 4)
+            RepeatPixels<4>(from, columns, to);
+        else
+            RepeatPixels<3>(from, columns, to);
+        std::memset(to + used, 0, static_cast<std::size_t>(target.stride) - used);
+    }
+}
+
 bool IsPlain(const ImageView& image)
 {
     return image.depth >= 24 && !image.isMasked;
@@ -135,8 +181,14 @@ PackedImage BoxResize(const ImageView& source, int width, int height)
     const ImageView plain = IsPlain(source) ? source : converted.View();
     if (!plain.hasRows)
         return {};
-    PackedImage made = PackedImage::Make(width, -height, plain.depth);
-    if (!made.IsEmpty())
+    const bool isGrowing = width >= plain.width && height >= plain.height;
+    PackedImage made = isGrowing ? PackedImage::MakeUnfilled(width, -height, plain.depth)
+                                 : PackedImage::Make(width, -height, plain.depth);
+    if (made.IsEmpty())
+        return made;
+    if (isGrowing)
+        Repeat(plain, made.Canvas());
+    else
         Resample(plain, made.Canvas());
     return made;
 }

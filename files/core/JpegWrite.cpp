@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace vorn
 {
@@ -99,8 +100,8 @@ private:
     const ImageView& m_image;
     const JpegWriting& m_how;
     RowConverter m_converter;
-    std::array<unsigned char, 256 * 3> m_palette{}; ///< Blue, green, red of each entry.
-    ImageBlock m_line;
+    std::array<RGBQUAD, 256> m_palette{};
+    ImageBlock m_line; ///< Pixels of three or four bytes.
     ImageBlock m_entries;
     SinkDestination m_destination;
     JpegErrors m_errors;
@@ -108,19 +109,12 @@ private:
 };
 
 JpegWriter::JpegWriter(const ImageView& image, const EncodedSink& sink, const JpegWriting& how)
-    : m_image(image), m_how(how), m_converter(image), m_line(static_cast<std::size_t>(image.width) * 3),
+    : m_image(image), m_how(how), m_converter(image), m_line(static_cast<std::size_t>(image.width) * 4),
       m_entries(static_cast<std::size_t>(image.width)), m_destination(sink)
 {
     m_codec.err = &m_errors.manager;
-    unsigned char* to = m_palette.data();
-    for (const RGBQUAD& entry :
-         how.reducer != nullptr ? how.reducer->Table().first(std::min<std::size_t>(how.reducer->Table().size(), 256))
-                                : std::span<const RGBQUAD>())
-    {
-        *to++ = entry.rgbBlue;
-        *to++ = entry.rgbGreen;
-        *to++ = entry.rgbRed;
-    }
+    const auto colors = how.reducer != nullptr ? how.reducer->Table() : std::span<const RGBQUAD>();
+    std::copy_n(colors.begin(), std::min(colors.size(), m_palette.size()), m_palette.begin());
 }
 
 JpegWriter::~JpegWriter()
@@ -148,7 +142,7 @@ bool JpegWriter::IsDirect() const
 
 void JpegWriter::Choose()
 {
-    const bool hasFourBytes = IsDirect() && m_image.depth == 32;
+    const bool hasFourBytes = m_how.reducer != nullptr || (IsDirect() && m_image.depth == 32);
     m_codec.image_width = static_cast<JDIMENSION>(m_image.width);
     m_codec.image_height = static_cast<JDIMENSION>(m_image.height);
     m_codec.input_components = hasFourBytes ? 4 : 3;
@@ -179,15 +173,15 @@ unsigned char* JpegWriter::ConvertedRow(int y)
     return line;
 }
 
+// From the right, as the pixels grow in place.
 void JpegWriter::ReduceLine(unsigned char* line)
 {
+    for (std::ptrdiff_t x = m_image.width - 1; x >= 0; --x)
+        std::memmove(line + x * 4, line + x * 3, 3);
     const auto entries = m_entries.Bytes();
     m_how.reducer->Reduce(line, entries.data(), m_image.width);
-    for (const unsigned char entry : entries)
-    {
-        const unsigned char* color = m_palette.data() + entry * 3;
-        line = std::copy_n(color, 3, line);
-    }
+    for (std::size_t x = 0; x < entries.size(); ++x)
+        std::memcpy(line + x * 4, &m_palette[entries[x]], 4);
 }
 } // namespace
 

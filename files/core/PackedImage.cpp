@@ -72,6 +72,14 @@ ImageBlock::ImageBlock(std::size_t size, std::size_t slack)
 {
 }
 
+ImageBlock ImageBlock::Unfilled(std::size_t size)
+{
+    ImageBlock block;
+    block.m_bytes.reset(static_cast<unsigned char*>(std::malloc(size)));
+    block.m_size = block.m_bytes ? size : 0;
+    return block;
+}
+
 unsigned char* ImageBlock::Release()
 {
     m_size = 0;
@@ -90,6 +98,18 @@ PackedImage PackedImage::Make(int width, int height, int depth, int usage, std::
     const BITMAPINFOHEADER header = NewHeader(width, height, depth);
     return PackedImage(NewBlockWithTable(header, usage, PixelBytes(width, height, depth), slack),
                        BehindTable(header, usage), usage);
+}
+
+PackedImage PackedImage::MakeUnfilled(int width, int height, int depth)
+{
+    if (!CanBeMade(width, height, depth) || depth < 24)
+        return {};
+    const BITMAPINFOHEADER header = NewHeader(width, height, depth);
+    ImageBlock block =
+        ImageBlock::Unfilled(static_cast<std::size_t>(kBitmapHeaderSize + PixelBytes(width, height, depth)));
+    if (!block.Bytes().empty())
+        std::memcpy(block.Bytes().data(), &header, sizeof header);
+    return PackedImage(std::move(block), kBitmapHeaderSize);
 }
 
 PackedImage PackedImage::MakeMasked(int width, int height, int depth, const ColorMasks& masks)

@@ -16,6 +16,8 @@ public:
     ImageBlock() = default;
     /// `slack` bytes behind the block may be read and written too.
     explicit ImageBlock(std::size_t size, std::size_t slack = 0);
+    /// Bytes that hold anything: whoever makes it writes every one.
+    static ImageBlock Unfilled(std::size_t size);
 
     std::span<unsigned char> Bytes() const
     {
@@ -57,6 +59,9 @@ public:
     /// Header and table of such an image, without its rows: those are to be elsewhere, and nothing here may look for
     /// them.
     static PackedImage MakeHead(int width, int height, int depth, int usage);
+
+    /// An image of 24 or 32 bits as by Make, but with rows that hold anything: whoever makes it writes every byte.
+    static PackedImage MakeUnfilled(int width, int height, int depth);
 
     bool IsEmpty() const
     {

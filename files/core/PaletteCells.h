@@ -46,12 +46,29 @@ public:
         return cell;
     }
 
+    /// The indices of a row of pixels: blue, green, red and a byte without a meaning.
+    template <typename Nearest>
+    void IndicesOf(const BYTE* pixels, BYTE* indices, int count, Nearest&& nearest)
+    {
+        if (LookUp(pixels, indices, count))
+            return;
+        for (int i = 0; i < count; ++i, pixels += 4)
+            if (indices[i] == kUnknown)
+                indices[i] = IndexOf(pixels[2], pixels[1], pixels[0], nearest);
+    }
+
 private:
     static constexpr BYTE kUnknown = 255;
+
+    /// What the cells hold; false when some are unknown.
+    bool LookUp(const BYTE* pixels, BYTE* indices, int count) const;
+    bool LookUpPart(const BYTE* pixels, BYTE* indices, int count) const;
+
     /// What each value of a channel adds to the cell's number.
     using Share = std::array<std::uint32_t, 256>;
 
     int m_resolution;
+    int m_bits; ///< Of a channel in a cell's number; -1 for resolutions that are no power of 2.
     Share m_red;
     Share m_green;
     Share m_blue;

@@ -44,10 +44,19 @@ void RowConverter::ConvertBits(const unsigned char* from, unsigned char* to) con
         PutThreeBytes(to, m_colors[StoredPixel(from, x, m_source.depth)]);
 }
 
-// Four bytes a store: the next pixel takes the last of them, and the last pixel stores three.
+// Four bytes a store: the next pixel takes the last of them, and the last pixel stores three. Four indices a load.
 void RowConverter::ConvertBytes(const unsigned char* from, unsigned char* to) const
 {
     const unsigned char* last = from + m_source.width - 1;
+    for (; last - from >= 4; from += 4, to += 12)
+    {
+        DWORD indices = 0;
+        std::memcpy(&indices, from, sizeof indices);
+        std::memcpy(to, &m_colors[indices & 0xFF], 4);
+        std::memcpy(to + 3, &m_colors[indices >> 8 & 0xFF], 4);
+        std::memcpy(to + 6, &m_colors[indices >> 16 & 0xFF], 4);
+        std::memcpy(to + 9, &m_colors[indices >> 24], 4);
+    }
     for (; from < last; ++from, to += 3)
         std::memcpy(to, &m_colors[*from], 4);
     PutThreeBytes(to, m_colors[*from]);

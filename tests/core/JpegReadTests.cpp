@@ -60,10 +60,10 @@ public:
     {
         return m_table;
     }
-    void Reduce(const unsigned char* colors, unsigned char* entries, int count) override
+    void Reduce(const unsigned char* pixels, unsigned char* entries, int count) override
     {
         for (int i = 0; i < count; ++i)
-            entries[i] = colors[i * 3 + 2] < 100 ? 0 : 1;
+            entries[i] = pixels[i * 4 + 2] < 100 ? 0 : 1;
     }
 
 private:

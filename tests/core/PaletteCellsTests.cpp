@@ -26,6 +26,38 @@ private:
     std::vector<int> m_colors;
 };
 
+/// Every 7th answer is one that is not kept.
+BYTE SomeIndex(BYTE red, BYTE green, BYTE blue)
+{
+    const int sum = red * 3 + green * 5 + blue;
+    return static_cast<BYTE>(sum % 7 == 0 ? 255 : sum);
+}
+
+TEST(PaletteCells, ARowHasTheIndicesOfItsPixels)
+{
+    for (const int resolution : {1, 2, 5, 8, 32, 64, 100, 256})
+    {
+        for (const int count : {0, 1, 3, 4, 7, 300})
+        {
+            std::vector<BYTE> pixels;
+            for (int i = 0; i < count * 4; ++i)
+            {
+                pixels.push_back(static_cast<BYTE>(i * 37 + i / 11));
+            }
+            vorn::PaletteCells byRow(resolution);
+            vorn::PaletteCells byPixel(resolution);
+            std::vector<BYTE> indices(static_cast<std::size_t>(count) + 1, 77);
+            byRow.IndicesOf(pixels.data(), indices.data(), count, SomeIndex);
+            for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i)
+            {
+                EXPECT_EQ(byPixel.IndexOf(pixels[i * 4 + 2], pixels[i * 4 + 1], pixels[i * 4], SomeIndex), indices[i])
+                    << resolution << ' ' << count << ' ' << i;
+            }
+            EXPECT_EQ(77, indices.back());
+        }
+    }
+}
+
 } // namespace
 
 TEST(PaletteCells, TheFirstColourOfACellDecidesForAll)
