@@ -19,6 +19,7 @@ const CommandGroup& VersionCommands();
 const CommandGroup& DbfCommands();
 const CommandGroup& RegistryCommands();
 const CommandGroup& MorseCommands();
+const CommandGroup& ProjectionCommands();
 
 /// The whole tool with all its commands.
 Tool VornTool();

@@ -1,0 +1,250 @@
+#include "apps/vorntool/ProjectionChoice.h"
+
+#include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/core/ToolNumbers.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace vorn::tool
+{
+
+namespace
+{
+
+constexpr double kEarthRadius = 6378137; // metres
+
+std::vector<std::string> PartsOf(const std::string& text, char separator)
+{
+    std::vector<std::string> parts;
+    std::string::size_type start = 0;
+    for (auto end = text.find(separator); end != std::string::npos; end = text.find(separator, start))
+    {
+        parts.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    parts.push_back(text.substr(start));
+    return parts;
+}
+
+// What the registry says of the modules that it skips; in its place while it starts.
+class RegistryLog
+{
+public:
+    RegistryLog()
+    {
+        VornLog::mpSingleInst = &m_log;
+    }
+    ~RegistryLog()
+    {
+        VornLog::mpSingleInst = m_before;
+    }
+    RegistryLog(const RegistryLog&) = delete;
+    RegistryLog& operator=(const RegistryLog&) = delete;
+
+    // Empty when nothing was skipped.
+    std::string FirstLine()
+    {
+        char* raw = nullptr;
+        m_log.GetLog(raw);
+        const std::unique_ptr<char[]> text(raw);
+        const std::string lines = text ? text.get() : "";
+        return lines.substr(0, lines.find('\r'));
+    }
+
+private:
+    VornLog m_log;
+    VornLog* m_before = VornLog::mpSingleInst;
+};
+
+// A full path in the library's code page: a bare name would be looked for among the system's modules.
+std::string ModulePath(const std::string& word)
+{
+    char path[MAX_PATH] = "";
+    const std::optional<CString> text = LibraryFromUtf8(word);
+    const DWORD length = text && !text->IsEmpty() ? GetFullPathNameA(*text, MAX_PATH, path, nullptr) : 0;
+    return length > 0 && length < MAX_PATH ? path : word;
+}
+
+std::string LowerCase(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char each)
+                   {
+                       return each >= 'A' && each <= 'Z' ? static_cast<char>(each + 32) : each;
+                   });
+    return text;
+}
+
+// -1 for a word that names none.
+int ProjectionNamed(const std::string& word)
+{
+    const ProjectionLib& library = *ProjectionLib::mpInstance;
+    if (const auto number = ParseWhole(word))
+    {
+        return *number >= 0 && *number < library.NumProjections() ? static_cast<int>(*number) : -1;
+    }
+    for (int i = 0; i < library.NumProjections(); ++i)
+    {
+        if (LowerCase(Utf8FromLibrary(library.ProjectionName(i))) == LowerCase(word))
+        {
+            return i;
+        }
+    }
+    return -1;
+}
+
+// Numbers with commas between them; nothing when one is none.
+std::optional<std::vector<double>> NumbersOf(const std::string& text)
+{
+    std::vector<double> numbers;
+    for (const std::string& part : PartsOf(text, ','))
+    {
+        const auto number = ParseNumber(part);
+        if (!number)
+        {
+            return std::nullopt;
+        }
+        numbers.push_back(*number);
+    }
+    return numbers;
+}
+
+// Why a part of the setup failed.
+struct Trouble
+{
+    ExitStatus status;
+    std::string reason;
+};
+
+std::optional<Trouble> SetParameters(Projection& projection, const Invocation& call)
+{
+    if (!call.Has("params"))
+    {
+        return std::nullopt;
+    }
+    const auto values = NumbersOf(call.ValueOf("params", ""));
+    if (!values)
+    {
+        return Trouble{ExitStatus::WrongUse, "--params takes numbers with commas between them"};
+    }
+    if (static_cast<int>(values->size()) > projection.NumParams())
+    {
+        return Trouble{ExitStatus::WrongUse, "--params has more numbers than the projection has parameters"};
+    }
+    for (int i = 0; i < static_cast<int>(values->size()); ++i)
+    {
+        const double value = (*values)[static_cast<std::size_t>(i)];
+        if (!projection.SetParamValue(i, value))
+        {
+            return Trouble{ExitStatus::Refused, NumberText(value) + " is out of range for the parameter " +
+                                                    Quoted(Utf8FromLibrary(projection.ParamName(i)))};
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Trouble> SetCenter(Projection& projection, const Invocation& call)
+{
+    if (!call.Has("center"))
+    {
+        return std::nullopt;
+    }
+    const auto values = NumbersOf(call.ValueOf("center", ""));
+    if (!values || values->size() != 2)
+    {
+        return Trouble{ExitStatus::WrongUse, "--center takes a latitude and a longitude, LAT,LON"};
+    }
+    if (!projection.SetMapPole(values->front(), values->back()))
+    {
+        return Trouble{ExitStatus::Refused, "the map cannot lie around " + Quoted(call.ValueOf("center", ""))};
+    }
+    return std::nullopt;
+}
+
+std::optional<Trouble> SetSkew(Projection& projection, const Invocation& call)
+{
+    const auto skew = ParseNumber(call.ValueOf("skew", "0"));
+    if (!skew)
+    {
+        return Trouble{ExitStatus::WrongUse, "--skew takes degrees"};
+    }
+    projection.SetSkew(*skew);
+    return std::nullopt;
+}
+
+std::optional<Trouble> CheckReady(Projection& projection)
+{
+    double x = 0;
+    double y = 0;
+    double lat = 0;
+    double lon = 0;
+    projection.MinMaxMapXY(x, y, lat, lon);
+    return x < lat ? std::nullopt : std::optional(Trouble{ExitStatus::Refused, "these parameters make no map"});
+}
+
+} // namespace
+
+ProjectionRegistry::~ProjectionRegistry()
+{
+    WinProjectionLib::Deinit();
+}
+
+bool ProjectionRegistry::Start(const Command& self, const Invocation& call, Output& output)
+{
+    std::vector<std::string> files;
+    if (call.Has("plugins"))
+    {
+        files = PartsOf(call.ValueOf("plugins", ""), ';');
+    }
+    std::transform(files.begin(), files.end(), files.begin(), ModulePath);
+    std::vector<char*> paths(files.size());
+    std::transform(files.begin(), files.end(), paths.begin(),
+                   [](std::string& file)
+                   {
+                       return file.data();
+                   });
+
+    RegistryLog log;
+    WinProjectionLib::Init(paths.data(), static_cast<int>(paths.size()));
+    const std::string skipped = log.FirstLine();
+    if (!skipped.empty())
+    {
+        ReportError(output, self, Utf8FromLibrary(skipped));
+    }
+    return skipped.empty();
+}
+
+std::optional<ProjectionSetup> TakeProjection(const Command& self, const Invocation& call, Output& output,
+                                              ExitStatus& status)
+{
+    const std::string& word = call.values[0];
+    const int index = ProjectionNamed(word);
+    if (index < 0)
+    {
+        status = ExitStatus::WrongUse;
+        ReportError(output, self, "unknown projection " + Quoted(word) + "; 'vorntool proj list' shows them");
+        return std::nullopt;
+    }
+    ProjectionSetup setup{std::unique_ptr<Projection>(ProjectionLib::mpInstance->CreateProjection(index)),
+                          call.Has("metres") ? kEarthRadius : 1};
+    std::optional<Trouble> trouble;
+    if (!setup.projection)
+    {
+        trouble = Trouble{ExitStatus::Refused, "the plug-in makes no projection"};
+    }
+    for (const auto step : {SetParameters, SetCenter, SetSkew})
+    {
+        trouble = trouble ? trouble : step(*setup.projection, call);
+    }
+    trouble = trouble ? trouble : CheckReady(*setup.projection);
+    if (!trouble)
+    {
+        return setup;
+    }
+    status = trouble->status;
+    ReportError(output, self, trouble->reason);
+    return std::nullopt;
+}
+
+} // namespace vorn::tool
