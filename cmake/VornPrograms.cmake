@@ -1,3 +1,8 @@
+# The chart, which several programs draw: a library of theirs, no product.
+file(GLOB_RECURSE chart_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/apps/chart/*.cpp")
+add_library(vorn_chart STATIC ${chart_sources})
+target_link_libraries(vorn_chart PRIVATE vorn_flags PUBLIC VornCommon)
+
 function(vorn_program name folder)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.rc")
     set(shell ${sources})
@@ -6,7 +11,7 @@ function(vorn_program name folder)
         return()
     endif()
     add_executable(${name} ${ARGN} ${sources})
-    target_link_libraries(${name} PRIVATE vorn_flags VornCommon)
+    target_link_libraries(${name} PRIVATE vorn_flags vorn_chart VornCommon)
     target_compile_definitions(${name} PRIVATE VORN_VERSION="${PROJECT_VERSION}")
     vorn_precompile(${name} <VornCommon.h>)
     set_property(GLOBAL APPEND PROPERTY VORN_PROGRAMS ${name})

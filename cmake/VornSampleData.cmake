@@ -14,7 +14,7 @@ ExternalProject_Add(maketables
 
 set(sample_data "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/data")
 set(sample_tables "")
-foreach(table navaids runways)
+foreach(table navaids runways shores)
     set(values "${PROJECT_SOURCE_DIR}/apps/sample/data/${table}.csv")
     set(products "${sample_data}/${table}.dbf" "${sample_data}/${table}.dbt")
     add_custom_command(OUTPUT ${products}

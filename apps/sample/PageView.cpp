@@ -28,6 +28,7 @@ void DrawLine(CDC& dc, CRect area, const char* text, const CFont& font, COLORREF
 
 BEGIN_MESSAGE_MAP(PageView, CView)
 ON_WM_CREATE()
+ON_WM_DESTROY()
 ON_WM_ERASEBKGND()
 ON_WM_SIZE()
 ON_WM_VSCROLL()
@@ -39,6 +40,8 @@ ON_WM_CTLCOLOR()
 ON_WM_SETFOCUS()
 ON_COMMAND_RANGE(ID_TABLE_FIRST, ID_TABLE_LAST, OnPageCommand)
 ON_UPDATE_COMMAND_UI_RANGE(ID_TABLE_FIRST, ID_TABLE_LAST, OnUpdatePageCommand)
+ON_COMMAND_RANGE(ID_CHART_FIRST, ID_CHART_LAST, OnPageCommand)
+ON_UPDATE_COMMAND_UI_RANGE(ID_CHART_FIRST, ID_CHART_LAST, OnUpdatePageCommand)
 END_MESSAGE_MAP()
 
 PageView::PageView() : m_pages(MakePages())
@@ -72,6 +75,13 @@ int PageView::OnCreate(LPCREATESTRUCT create)
         page->Refresh();
     m_pages[m_current]->Activate(*this, true);
     return 0;
+}
+
+void PageView::OnDestroy()
+{
+    for (const std::unique_ptr<Page>& page : m_pages)
+        page->Leave();
+    CView::OnDestroy();
 }
 
 void PageView::ShowPage(std::size_t index)
@@ -139,6 +149,7 @@ void PageView::OnUpdatePageCommand(CCmdUI* item)
 {
     const Page* const owner = OwnerOf(item->m_nID);
     item->Enable(owner != nullptr && owner->CanRun(item->m_nID));
+    item->SetCheck(owner != nullptr && owner->IsChecked(item->m_nID) ? 1 : 0);
 }
 
 void PageView::OnSetFocus(CWnd* before)

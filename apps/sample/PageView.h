@@ -34,6 +34,7 @@ protected:
     void OnPrint(CDC* dc, CPrintInfo* info) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnDestroy();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);

@@ -100,7 +100,8 @@ bool SampleApp::ApplyOptions(const StartOptions& options)
     PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
     const std::string problem = TakeOptions(view, options);
     const bool aboutTables = !options.table.empty() || !options.find.empty();
-    const std::string page = options.page.empty() && aboutTables ? "Tables" : options.page;
+    const bool aboutChart = !options.view.empty() || options.night;
+    const std::string page = !options.page.empty() ? options.page : aboutTables ? "Tables" : aboutChart ? "Chart" : "";
     const bool shown = page.empty() || view.ShowPage(page);
     if (shown && (problem.empty() || !options.IsUnattended())) // a user sees on the page what is wrong
         return true;

@@ -30,6 +30,7 @@ constexpr std::array kTextOptions = {
     TextOption{"--page", &StartOptions::page},
     TextOption{"--table", &StartOptions::table},
     TextOption{"--find", &StartOptions::find},
+    TextOption{"--view", &StartOptions::view},
 };
 
 const TextOption* FindTextOption(std::string_view name)
@@ -68,6 +69,8 @@ StartOptions ParseStartOptions(int count, const char* const* arguments)
         const char* const value = i + 1 < count ? arguments[i + 1] : nullptr;
         if (argument == "--summary")
             options.summary = true;
+        else if (argument == "--night")
+            options.night = true;
         else if (argument == "--help")
             options.help = true;
         else if (!TakesValue(argument))
@@ -83,6 +86,7 @@ StartOptions ParseStartOptions(int count, const char* const* arguments)
 const char* StartOptionsHelp()
 {
     return "VornSample [--page NAME] [--table FILE.dbf] [--find FIELD=VALUE]\n"
+           "           [--view TEXT] [--night]\n"
            "           [--size WIDTHxHEIGHT] [--snapshot FILE.png] [--summary]\n"
            "\n"
            "Shows the family's programs and versions, the settings in force, values in your units and tables.\n"
@@ -90,6 +94,8 @@ const char* StartOptionsHelp()
            "  --page NAME            start with this page, for example Overview; its beginning will do\n"
            "  --table FILE.dbf       browse this table instead of the sample's own\n"
            "  --find FIELD=VALUE     select the first record of the table with this value\n"
+           "  --view TEXT            show this view of the chart, as --page Chart --summary prints it\n"
+           "  --night                show the chart in its colours for the night\n"
            "  --size WIDTHxHEIGHT    start with a window of this size\n"
            "  --snapshot FILE.png    save a picture of the window and exit\n"
            "  --summary              print what the pages show and exit\n";

@@ -11,6 +11,8 @@ struct StartOptions
     std::string page;         ///< name of the page to show first, or its beginning
     std::string table;        ///< file of the table to browse; empty for the sample's own
     std::string find;         ///< FIELD=VALUE: the record to select there
+    std::string view;         ///< text of the chart's view; empty for the stored one
+    bool night = false;       ///< the chart's colours for the night
     int width = 0;            ///< of the window in pixels; 0 leaves it as stored
     int height = 0;
 

@@ -8,7 +8,7 @@ Tool VornTool()
     static const CommandGroup groups[] = {SettingsCommands(), UnitsCommands(),      PathsCommands(), FormatCommands(),
                                           ParseCommands(),    DateCommands(),       DbfCommands(),   FindCommands(),
                                           MorseCommands(),    ProjectionCommands(), StatsCommands(), RegistryCommands(),
-                                          VersionCommands()};
+                                          ChartCommands(),    VersionCommands()};
     return {"Looks into an installation of the Vornwald applications.", VORN_VERSION, groups};
 }
 

@@ -20,6 +20,7 @@ const CommandGroup& DbfCommands();
 const CommandGroup& RegistryCommands();
 const CommandGroup& MorseCommands();
 const CommandGroup& ProjectionCommands();
+const CommandGroup& ChartCommands();
 
 /// The whole tool with all its commands.
 Tool VornTool();

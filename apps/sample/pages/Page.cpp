@@ -56,6 +56,15 @@ void Page::Run(UINT)
 {
 }
 
+bool Page::IsChecked(UINT) const
+{
+    return false;
+}
+
+void Page::Leave()
+{
+}
+
 bool Page::OnPointer(const CRect&, CPoint, const Theme&)
 {
     return false;

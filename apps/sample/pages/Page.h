@@ -62,6 +62,11 @@ public:
     virtual bool OwnsCommand(UINT command) const;
     virtual bool CanRun(UINT command) const;
     virtual void Run(UINT command);
+    /// Whether the menu shows a check mark at the command.
+    virtual bool IsChecked(UINT command) const;
+
+    /// The view is going: what is to be kept is to be stored now.
+    virtual void Leave();
 
     /// The pointer moved to `point` of the view. True when what the page shows has changed.
     virtual bool OnPointer(const CRect& area, CPoint point, const Theme& theme);

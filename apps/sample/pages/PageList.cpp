@@ -1,5 +1,6 @@
 #include "apps/sample/pages/PageList.h"
 
+#include "apps/sample/pages/ChartPage.h"
 #include "apps/sample/pages/CurrencyPage.h"
 #include "apps/sample/pages/FoldersPage.h"
 #include "apps/sample/pages/OverviewPage.h"
@@ -14,5 +15,6 @@ std::vector<std::unique_ptr<Page>> MakePages()
     pages.push_back(std::make_unique<CurrencyPage>());
     pages.push_back(std::make_unique<FoldersPage>());
     pages.push_back(std::make_unique<TablePage>());
+    pages.push_back(std::make_unique<ChartPage>());
     return pages;
 }

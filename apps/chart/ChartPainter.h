@@ -1,0 +1,17 @@
+#pragma once
+
+#include "apps/chart/core/ChartScene.h"
+
+#include <VornCommon.h>
+
+namespace vorn::chart
+{
+
+/// Draws ground, lines and symbols of a scene, everything but its texts. `magnified` is how many pixels of the device
+/// context stand for one of the scene. The context's own settings are as before afterwards.
+void PaintScene(CDC& dc, const ChartScene& scene, const TerrainColorMap& terrain, int magnified);
+
+/// Draws the scene's labels and Morse idents.
+void PaintLabels(CDC& dc, const ChartScene& scene);
+
+} // namespace vorn::chart

@@ -1,0 +1,238 @@
+#include "apps/sample/pages/ChartPage.h"
+
+#include "apps/chart/core/ScaleBar.h"
+#include "apps/sample/resource.h"
+
+#include <algorithm>
+
+namespace
+{
+
+// The stored view: section and key.
+constexpr const char* kViews = "Views";
+constexpr const char* kChart = "Chart";
+constexpr const char* kNight = "Night";
+
+constexpr double kZoomButton = 1.5;
+constexpr double kPrinterMargin = 0.02; // of the sheet's width
+
+std::string OwnData()
+{
+    std::array<char, MAX_PATH> program{};
+    GetModuleFileName(nullptr, program.data(), MAX_PATH);
+    const std::string path = program.data();
+    return path.substr(0, path.find_last_of('\\') + 1) + "data\\";
+}
+
+/// The chart's colours by day, on paper, for the time of its life.
+class DayScope
+{
+public:
+    DayScope() : m_before(ColorContext::Instance()->GetCurrentState())
+    {
+        ColorContext::Instance()->SetCurrentState(COLORSTATE_DAY);
+    }
+    ~DayScope()
+    {
+        ColorContext::Instance()->SetCurrentState(m_before);
+    }
+    DayScope(const DayScope&) = delete;
+    DayScope& operator=(const DayScope&) = delete;
+
+private:
+    int m_before;
+};
+
+bool WritePicture(const DIB& image, const CString& path)
+{
+    const CString ending = path.Mid(path.ReverseFind('.') + 1);
+    if (ending.CompareNoCase("bmp") == 0)
+        return image.WriteBMP(path);
+    if (ending.CompareNoCase("jpg") == 0 || ending.CompareNoCase("jpeg") == 0)
+        return image.WriteJPEG(path, 90, 0, nullptr);
+    return image.WritePNG(path);
+}
+
+} // namespace
+
+ChartPage::ChartPage() : m_window(m_chart)
+{
+    m_window.OnMoved(
+        [this]
+        {
+            ShowPosition();
+        });
+}
+
+const char* ChartPage::Name() const
+{
+    return "Chart";
+}
+
+void ChartPage::Refresh()
+{
+    m_window.Repaint();
+}
+
+int ChartPage::HeightFor(int, const Theme&) const
+{
+    return 0; // as high as the window
+}
+
+bool ChartPage::FillsWindow() const
+{
+    return true;
+}
+
+void ChartPage::Load()
+{
+    if (m_loaded)
+        return;
+    m_loaded = true;
+    m_missing = m_chart.Load(OwnData());
+    if (VornCommonApp::Inst()->GetSettingInt(kChart, kNight, 0) != 0)
+        ColorContext::Instance()->SetCurrentState(COLORSTATE_NIGHT);
+}
+
+std::string ChartPage::TakeOptions(const StartOptions& options)
+{
+    m_viewWish = options.view;
+    ViewDefinition view;
+    if (!m_viewWish.empty() && !view.Parse(m_viewWish.c_str()))
+        return "--view is no text of a view";
+    if (options.night)
+        ColorContext::Instance()->SetCurrentState(COLORSTATE_NIGHT);
+    return {};
+}
+
+void ChartPage::ShowStored()
+{
+    ViewDefinition view;
+    const bool wished = !m_viewWish.empty() && view.Parse(m_viewWish.c_str());
+    if (!wished && !LoadViewDef(&view, kViews, kChart))
+        view = ViewDefinition();
+    if (!wished && !(view.mScale > 0)) // nothing stored
+        m_chart.ShowRegion();
+    else if (!m_chart.Restore(view))
+        m_chart.ShowRegion();
+}
+
+void ChartPage::KeepView()
+{
+    if (!m_placed)
+        return;
+    ViewDefinition view;
+    m_chart.Store(view);
+    AppRegMgr::Instance()->WriteVornString(kViews, kChart, view.Format(), 0);
+    VornCommonApp::Inst()->WriteSettingInt(kChart, kNight, IsNightVision() ? 1 : 0);
+}
+
+void ChartPage::Leave()
+{
+    KeepView();
+}
+
+std::string ChartPage::Summary() const
+{
+    ViewDefinition view;
+    m_chart.Store(view);
+    const vorn::chart::ChartModel& model = m_chart.Model();
+    std::string text = "Chart\n";
+    text += "  Aids        " + std::to_string(model.data.aids.size()) + '\n';
+    text += "  Aerodromes  " + std::to_string(model.data.aerodromes.size()) + '\n';
+    text += std::string("  Projection  ") + m_chart.ProjectionName() + '\n';
+    text += "  Scale       " + vorn::chart::ScaleText(m_chart.View().Scale()) + '\n';
+    text += std::string("  View        ") + view.Format().GetString() + '\n';
+    return text;
+}
+
+void ChartPage::Print(CDC& dc, const CRect& area, const Theme&) const
+{
+    const DayScope day;
+    const vorn::chart::ChartView before = m_chart.View();
+    CRect sheet(area);
+    const int margin = static_cast<int>(area.Width() * kPrinterMargin);
+    sheet.DeflateRect(margin, margin, margin, margin);
+    vorn::chart::ChartView& view = m_chart.View();
+    view.SetSize(sheet.Width(), sheet.Height(), dc.GetDeviceCaps(LOGPIXELSY));
+    m_chart.DrawDirectly(dc, sheet.left, sheet.top);
+    view = before;
+    view.SetCentre(LatLon(before.Centre()));
+}
+
+void ChartPage::ChooseProjection(int number)
+{
+    if (!m_chart.SetProjection(number))
+        return;
+    ShowState();
+    m_window.Repaint();
+}
+
+void ChartPage::ToggleNight()
+{
+    ColorContext::Instance()->SetCurrentState(IsNightVision() ? COLORSTATE_DAY : COLORSTATE_NIGHT);
+    ShowState();
+    m_window.Repaint();
+}
+
+void ChartPage::Export()
+{
+    CFileDialog dialog(FALSE, "png", "Chart.png", OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST,
+                       "PNG pictures (*.png)|*.png|Bitmaps (*.bmp)|*.bmp|JPEG pictures (*.jpg)|*.jpg||", m_view);
+    if (dialog.DoModal() != IDOK)
+        return;
+    DIB image;
+    if (!m_chart.DrawInto(image) || !WritePicture(image, dialog.GetPathName()))
+        AfxMessageBox("The chart could not be written.\n\nIs the folder writable, and is there room?",
+                      MB_OK | MB_ICONEXCLAMATION);
+}
+
+bool ChartPage::OwnsCommand(UINT command) const
+{
+    return command >= ID_CHART_FIRST && command <= ID_CHART_LAST;
+}
+
+bool ChartPage::CanRun(UINT) const
+{
+    return m_view != nullptr && m_placed;
+}
+
+bool ChartPage::IsChecked(UINT command) const
+{
+    if (command == ID_CHART_NIGHT)
+        return IsNightVision();
+    return command == ID_CHART_PROJECTION + static_cast<UINT>(m_chart.ProjectionNumber());
+}
+
+void ChartPage::Run(UINT command)
+{
+    switch (command)
+    {
+    case ID_CHART_IN:
+        return m_window.Zoom(kZoomButton);
+    case ID_CHART_OUT:
+        return m_window.Zoom(1 / kZoomButton);
+    case ID_CHART_REGION:
+        m_chart.ShowRegion();
+        return m_window.Repaint();
+    case ID_CHART_NIGHT:
+        return ToggleNight();
+    case ID_CHART_EXPORT:
+        return Export();
+    default:
+        if (command >= ID_CHART_PROJECTION)
+            ChooseProjection(static_cast<int>(command - ID_CHART_PROJECTION));
+    }
+}
+
+void ChartPage::ShowPosition()
+{
+    auto* const frame = m_view != nullptr ? m_view->GetParentFrame() : nullptr;
+    if (frame == nullptr)
+        return;
+    CString text;
+    if (const std::optional<LatLon> position = m_window.Pointed())
+        text = LatToString(position->Lat()) + "   " + LonToString(position->Lon()) + "   ";
+    text += vorn::chart::ScaleText(m_chart.View().Scale()).c_str();
+    frame->SetMessageText(text);
+}
