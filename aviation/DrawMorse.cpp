@@ -23,11 +23,11 @@ public:
     SolidFill(const SolidFill&) = delete;
     SolidFill& operator=(const SolidFill&) = delete;
 
-    void Fill(int x, int y, int width, int height) const
+    void Fill(LONG left, LONG top, LONG right, LONG bottom) const
     {
-        if (width > 0 && height > 0)
+        if (left < right && top < bottom)
         {
-            ::PatBlt(m_dc, x, y, width, height, PATCOPY);
+            ::PatBlt(m_dc, left, top, right - left, bottom - top, PATCOPY);
         }
     }
 
@@ -37,45 +37,39 @@ private:
     HGDIOBJ m_former;
 };
 
-constexpr int kFar = 1 << 14;          // from here on the system's own arithmetic is not trusted
-constexpr int kFarthest = INT_MAX / 2; // the width between two such places can still be said
+constexpr LONG kFar = 1 << 14;          // from here on the system's own arithmetic is not trusted
+constexpr LONG kFarthest = INT_MAX / 2; // the width between two such places can still be said
+
+constexpr RECT Around(LONG reach)
+{
+    return {-reach, -reach, reach, reach};
+}
 
 bool IsNear(int coordinate)
 {
     return coordinate > -kFar && coordinate < kFar;
 }
 
-/// What may be drawn on, in logical coordinates.
-CRect VisiblePart(HDC dc)
+LONG Within(long long value, LONG least, LONG largest)
 {
-    const CRect all(-kFarthest, -kFarthest, kFarthest, kFarthest);
-    CRect box;
+    return static_cast<LONG>(std::clamp<long long>(value, least, largest));
+}
+
+/// What may be drawn on, in logical coordinates; everything when the context cannot say.
+RECT VisiblePart(HDC dc)
+{
+    RECT box = {};
     if (::GetClipBox(dc, &box) == ERROR)
     {
-        return all;
+        return Around(kFarthest);
     }
-    box.NormalizeRect();
-    box.IntersectRect(&box, &all);
-    return box;
-}
-
-int Within(long long value, LONG least, LONG largest)
-{
-    return static_cast<int>(std::clamp<long long>(value, least, largest));
-}
-
-void FillCode(HDC dc, COLORREF color, int x, int y, int unit, int align, const char* text, const CRect& bounds)
-{
-    const int top = Within(y, bounds.top, bounds.bottom);
-    const int height = Within(static_cast<long long>(y) + unit, bounds.top, bounds.bottom) - top;
-    const SolidFill fill(dc, color);
-    vorn::VisitMorse(x, unit, align, text,
-                     [&](const vorn::MorseBlock& block)
-                     {
-                         const int left = Within(block.left, bounds.left, bounds.right);
-                         const int right = Within(block.right, bounds.left, bounds.right);
-                         fill.Fill(left, top, right - left, height);
-                     });
+    const auto [left, right] = std::minmax(box.left, box.right);
+    const auto [top, bottom] = std::minmax(box.top, box.bottom);
+    const auto held = [](LONG value)
+    {
+        return Within(value, -kFarthest, kFarthest);
+    };
+    return {held(left), held(top), held(right), held(bottom)};
 }
 
 } // namespace
@@ -89,6 +83,15 @@ void DrawMorse(CDC* dc, COLORREF color, int x, int y, int unit, int align, const
         return;
     }
     const bool isNear = IsNear(x) && IsNear(y) && IsNear(unit) && IsNear(width);
-    FillCode(output, color, x, y, unit, align, text,
-             isNear ? CRect(-2 * kFar, -2 * kFar, 2 * kFar, 2 * kFar) : VisiblePart(output));
+    const RECT bounds = isNear ? Around(4 * kFar) : VisiblePart(output);
+    const LONG top = Within(y, bounds.top, bounds.bottom);
+    const LONG bottom = Within(static_cast<long long>(y) + unit, bounds.top, bounds.bottom);
+    const SolidFill fill(output, color);
+    vorn::VisitMorse(x, unit, align, text,
+                     [&](const vorn::MorseBlock& block)
+                     {
+                         const LONG left = Within(block.left, bounds.left, bounds.right);
+                         const LONG right = Within(block.right, bounds.left, bounds.right);
+                         fill.Fill(left, top, right, bottom);
+                     });
 }
