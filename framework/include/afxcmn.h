@@ -10,4 +10,5 @@
 #include "framework/controls/CProgressCtrl.h"
 #include "framework/controls/CSliderCtrl.h"
 #include "framework/controls/CSpinButtonCtrl.h"
+#include "framework/controls/CTabCtrl.h"
 #include "framework/controls/CToolTipCtrl.h"

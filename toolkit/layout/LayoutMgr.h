@@ -198,12 +198,24 @@ public:
 protected:
     /// The largest width and the largest height of the controls that exist.
     CSize GetMaxControlSize(HWND hWndParent, const UINT* pIds, int count);
+    /// The least and the largest size of the whole window, -1 where there is no limit.
+    /// @return false, with nothing changed, without a root or a window
+    bool GetTrackSizes(CSize& sizeMin, CSize& sizeMax);
+    bool HasWindow() const;
 
     CWnd* m_pWnd;
     CPane m_paneRoot;
     int m_sizeRootBorderX;
     int m_sizeRootBorderY;
     bool m_bLayoutLocked;
+
+private:
+    HWND Control(UINT nID) const;
+    CPaneBase itemOf(HWND control, ResizeMode modeResize, int sizeX, int sizeY, int sizeXMin, int sizeYMin);
+    CSize SizeAroundRoot();
+    void GrowToMinimum();
+
+    bool m_bUpdating;
 };
 
 } // namespace LayoutManagement

@@ -6,9 +6,15 @@
 #include "framework/core/Array.h"
 #include "toolkit/layout/LayoutMgr.h"
 
+namespace vorn
+{
+struct PaneSpec;
+}
+
 namespace LayoutManagement
 {
 
+class LaidControl;
 class LayoutDescription;
 
 /// A node. Sizes are pixels; what is not shown measures 0.
@@ -37,8 +43,12 @@ public:
     ResizeMode mode() const;
 
 protected:
+    friend class LayoutMgr;
     friend class LayoutMgr::CPaneBase;
-    friend class LayoutDescription;
+    friend class LayoutMgr::Pane;
+
+    /// The window whose client coordinates the layout is in; null without one.
+    HWND window() const;
 
     /// Adds the node, and what is below it, to a layout in numbers.
     virtual void describe(LayoutDescription& description);
@@ -67,6 +77,8 @@ public:
     bool isShown(bool bShown) override;
 
 protected:
+    friend class LayoutDescription;
+
     void describe(LayoutDescription& description) override;
 
     int m_sizeX;
@@ -75,6 +87,18 @@ protected:
     int m_sizeYMin;
     HWND m_hWnd;
     bool m_bIsComboBox;
+
+private:
+    void describeItem(LayoutDescription& description);
+    LaidControl control() const;
+    void takeSizes();
+    int measured(int parentExtent, bool isHeight, int what);
+    bool move(const RECT& rect);
+    bool moveSimpleCombo(const RECT& rect);
+
+    HWND m_hWndParent;
+    RECT m_rectSlot;  ///< what a combo box with an open list was given last
+    RECT m_rectTaken; ///< and what it took of it
 };
 
 /// An inner node: children one after the other.
@@ -103,6 +127,8 @@ public:
 
 protected:
     void describe(LayoutDescription& description) override;
+    /// What the pane's control adds. @return the control, null for none
+    virtual HWND describeFrame(vorn::PaneSpec& spec, HWND window);
 
     Orientation m_orientation;
     CArray<CPaneBase, const CPaneBase&> m_children;
@@ -112,6 +138,11 @@ protected:
     int m_borderTop;
     int m_borderRight;
     int m_borderBottom;
+
+private:
+    void describePane(LayoutDescription& description);
+    int measured(int parentExtent, bool isHeight, int what);
+    bool holds(const PaneBase* node) const;
 };
 
 /// A pane inside a control that is moved with it.
@@ -122,26 +153,31 @@ public:
              int sizeBorder, int sizeTopExtra, int sizeSecondary);
 
 protected:
-    void describe(LayoutDescription& description) override;
+    HWND describeFrame(vorn::PaneSpec& spec, HWND window) override;
 
     HWND m_hWnd;
     int m_sizeTopExtra;
+
+private:
+    HWND m_hWndParent;
 };
 
 /// A pane in the display area of a tab control.
 class VORNCOMMON_API LayoutMgr::PaneTab : public LayoutMgr::Pane
 {
 public:
-    /// @param pTab must live as long as its window
+    /// @param pTab null for a plain pane
     PaneTab(LayoutMgr* pMgr, CTabCtrl* pTab, Orientation orientation, ResizeMode modeResize, int sizeSpacing,
             int sizeBorder, int sizeSecondary);
 
-    bool isShown(bool bShown) override;
-
 protected:
-    void describe(LayoutDescription& description) override;
+    HWND describeFrame(vorn::PaneSpec& spec, HWND window) override;
 
     CTabCtrl* m_pTab;
+
+private:
+    HWND m_hWndTab;
+    HWND m_hWndParent;
 };
 
 } // namespace LayoutManagement

@@ -1,0 +1,112 @@
+#include "tests/support/Canvas.h"
+#include "tests/support/GdiCount.h"
+#include "tests/windows/layout/LaidWindow.h"
+
+#include <commctrl.h>
+
+// The background around the controls. The canvas is white at first; what has been painted is not.
+namespace
+{
+
+using vorn::test::Canvas;
+using vorn::test::kWhite;
+
+class LayoutErase : public testing::Test
+{
+protected:
+    void Erase()
+    {
+        m_window.EraseBkgnd(&m_canvas.dc);
+    }
+    bool IsPainted(int x, int y) const
+    {
+        return m_canvas.At(x, y) == ::GetSysColor(COLOR_3DFACE);
+    }
+
+    LaidWindow m_window{100, 60};
+    Canvas m_canvas{120, 80};
+};
+
+TEST_F(LayoutErase, TheClientAreaIsPaintedWithTheFaceColour)
+{
+    Erase();
+    EXPECT_EQ(100 * 60, m_canvas.Count(::GetSysColor(COLOR_3DFACE)));
+    EXPECT_EQ(kWhite, m_canvas.At(100, 10));
+    EXPECT_EQ(kWhite, m_canvas.At(10, 60));
+}
+
+TEST_F(LayoutErase, VisibleControlsAreSpared)
+{
+    m_window.AddButton(1, {10, 10, 30, 20});
+    m_window.Add("Button", 2, 0, {50, 10, 70, 20});
+    Erase();
+    EXPECT_EQ(kWhite, m_canvas.At(10, 10));
+    EXPECT_EQ(kWhite, m_canvas.At(29, 19));
+    EXPECT_TRUE(IsPainted(30, 19));
+    EXPECT_TRUE(IsPainted(29, 20));
+    EXPECT_TRUE(IsPainted(9, 10));
+    EXPECT_TRUE(IsPainted(60, 15)); // hidden
+    EXPECT_EQ(100 * 60 - 20 * 10, m_canvas.Count(::GetSysColor(COLOR_3DFACE)));
+}
+
+TEST_F(LayoutErase, FramesAroundOtherControlsAreNotSpared)
+{
+    m_window.Add("Button", 1, WS_VISIBLE | BS_GROUPBOX, {0, 0, 30, 30});
+    m_window.Add("Static", 2, WS_VISIBLE | SS_ETCHEDFRAME, {30, 0, 60, 30});
+    m_window.Add("Static", 3, WS_VISIBLE | SS_GRAYFRAME, {60, 0, 90, 30});
+    m_window.Add("Static", 4, WS_VISIBLE | SS_GRAYRECT, {0, 30, 30, 60});
+    Erase();
+    EXPECT_TRUE(IsPainted(15, 15));
+    EXPECT_TRUE(IsPainted(45, 15));
+    EXPECT_TRUE(IsPainted(75, 15));
+    EXPECT_EQ(kWhite, m_canvas.At(15, 45));
+}
+
+TEST_F(LayoutErase, TheEmptyEndOfARowOfTabsIsPainted)
+{
+    CTabCtrl tabs;
+    ASSERT_TRUE(tabs.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 60), &m_window, 1));
+    tabs.InsertItem(0, "A");
+    CRect tab;
+    ASSERT_TRUE(tabs.GetItemRect(0, &tab));
+    ASSERT_LT(tab.right, 90);
+    Erase();
+    EXPECT_EQ(kWhite, m_canvas.At(static_cast<int>(tab.left) + 3, static_cast<int>(tab.top) + 3));
+    EXPECT_TRUE(IsPainted(98, static_cast<int>(tab.top) + 1));
+    EXPECT_EQ(kWhite, m_canvas.At(50, static_cast<int>(tab.bottom) + 5));
+}
+
+TEST_F(LayoutErase, ATabControlWithoutTabsIsSparedWhole)
+{
+    CTabCtrl tabs;
+    ASSERT_TRUE(tabs.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 60), &m_window, 1));
+    Erase();
+    EXPECT_EQ(0, m_canvas.Count(::GetSysColor(COLOR_3DFACE)));
+}
+
+TEST_F(LayoutErase, TheContextKeepsItsClip)
+{
+    m_canvas.dc.IntersectClipRect(20, 20, 40, 40);
+    Erase();
+    EXPECT_EQ(20 * 20, m_canvas.Count(::GetSysColor(COLOR_3DFACE)));
+    CRect clip;
+    m_canvas.dc.GetClipBox(&clip);
+    EXPECT_EQ(CRect(20, 20, 40, 40), clip);
+}
+
+TEST_F(LayoutErase, NoDrawingObjectStaysBehind)
+{
+    for (UINT id = 1; id <= 20; ++id)
+    {
+        m_window.AddButton(id, {static_cast<int>(id), 0, static_cast<int>(id) + 1, 10});
+    }
+    Erase();
+    const unsigned before = vorn::test::CountGdiObjects();
+    for (int i = 0; i < 50; ++i)
+    {
+        Erase();
+    }
+    EXPECT_EQ(before, vorn::test::CountGdiObjects());
+}
+
+} // namespace

@@ -1,0 +1,145 @@
+#include "tests/windows/layout/LaidWindow.h"
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <string>
+#include <vector>
+
+// Where a window was, from one run to the next.
+namespace
+{
+
+/// An application whose profile is a few lists of bytes.
+class ProfileApp : public CWinApp
+{
+public:
+    ProfileApp() : CWinApp("LayoutTests")
+    {
+    }
+    BOOL GetProfileBinary(LPCTSTR section, LPCTSTR entry, LPBYTE* data, UINT* size) override
+    {
+        ++reads;
+        const auto found = stored.find(Key(section, entry));
+        if (found == stored.end())
+        {
+            return FALSE;
+        }
+        *data = new BYTE[found->second.size()]; // the caller's to free
+        std::memcpy(*data, found->second.data(), found->second.size());
+        *size = static_cast<UINT>(found->second.size());
+        return TRUE;
+    }
+    BOOL WriteProfileBinary(LPCTSTR section, LPCTSTR entry, LPBYTE data, UINT size) override
+    {
+        stored[Key(section, entry)].assign(data, data + size);
+        return TRUE;
+    }
+    static std::string Key(LPCTSTR section, LPCTSTR entry)
+    {
+        return std::string(section) + "/" + entry;
+    }
+
+    std::map<std::string, std::vector<BYTE>> stored;
+    int reads = 0;
+};
+
+ProfileApp g_app;
+
+class LayoutPlacement : public testing::Test
+{
+protected:
+    LayoutPlacement()
+    {
+        g_app.stored.clear();
+        g_app.reads = 0;
+    }
+    static WINDOWPLACEMENT Stored()
+    {
+        WINDOWPLACEMENT placement{};
+        const std::vector<BYTE>& bytes = g_app.stored["Route/WindowPlacement"];
+        EXPECT_EQ(sizeof placement, bytes.size());
+        std::memcpy(&placement, bytes.data(), std::min(bytes.size(), sizeof placement));
+        return placement;
+    }
+    static CRect PlaceOf(const CWnd& window)
+    {
+        CRect rect;
+        window.GetWindowRect(&rect);
+        return rect;
+    }
+
+    LaidWindow m_window{300, 200, WS_OVERLAPPEDWINDOW};
+};
+
+TEST_F(LayoutPlacement, IsTakenUpAgain)
+{
+    m_window.MoveWindow(60, 70, 333, 222, FALSE);
+    EXPECT_TRUE(m_window.Save("Route"));
+    EXPECT_EQ(static_cast<UINT>(SW_SHOWNORMAL), Stored().showCmd);
+    LaidWindow next(100, 100, WS_OVERLAPPEDWINDOW);
+    EXPECT_TRUE(next.Load("Route"));
+    EXPECT_EQ(CRect(60, 70, 393, 292), PlaceOf(next));
+}
+
+TEST_F(LayoutPlacement, AMaximisedWindowComesBackMaximised)
+{
+    m_window.ShowWindow(SW_SHOWMAXIMIZED);
+    m_window.Save("Route");
+    EXPECT_EQ(static_cast<UINT>(SW_SHOWMAXIMIZED), Stored().showCmd);
+    LaidWindow next(100, 100, WS_OVERLAPPEDWINDOW);
+    next.Load("Route");
+    EXPECT_TRUE(next.IsZoomed());
+}
+
+TEST_F(LayoutPlacement, AMinimisedWindowComesBackNormal)
+{
+    m_window.MoveWindow(60, 70, 333, 222, FALSE);
+    m_window.ShowWindow(SW_SHOWMINIMIZED);
+    m_window.Save("Route");
+    EXPECT_EQ(static_cast<UINT>(SW_SHOWNORMAL), Stored().showCmd);
+    LaidWindow next(100, 100, WS_OVERLAPPEDWINDOW);
+    next.Load("Route");
+    EXPECT_FALSE(next.IsIconic());
+    EXPECT_EQ(CRect(60, 70, 393, 292), PlaceOf(next));
+}
+
+TEST_F(LayoutPlacement, ARecordOfAnotherLengthIsLeftAlone)
+{
+    m_window.Save("Route");
+    const CRect before = PlaceOf(m_window);
+    std::vector<BYTE>& bytes = g_app.stored["Route/WindowPlacement"];
+    for (const std::size_t size : {0, 40, 43, 45, 400})
+    {
+        bytes.assign(size, 1);
+        EXPECT_TRUE(m_window.Load("Route"));
+        EXPECT_EQ(before, PlaceOf(m_window)) << size;
+    }
+}
+
+TEST_F(LayoutPlacement, WithoutSectionTheProfileIsNotTouched)
+{
+    EXPECT_TRUE(m_window.Save(""));
+    EXPECT_TRUE(m_window.Save(nullptr));
+    EXPECT_TRUE(m_window.Load(""));
+    EXPECT_TRUE(m_window.Load(nullptr));
+    EXPECT_TRUE(g_app.stored.empty());
+    EXPECT_EQ(0, g_app.reads);
+}
+
+TEST_F(LayoutPlacement, AnEntryThatIsMissingChangesNothing)
+{
+    const CRect before = PlaceOf(m_window);
+    EXPECT_TRUE(m_window.Load("Elsewhere"));
+    EXPECT_EQ(1, g_app.reads);
+    EXPECT_EQ(before, PlaceOf(m_window));
+}
+
+TEST_F(LayoutPlacement, AWindowThatHasGoneIsNotSaved)
+{
+    m_window.DestroyWindow();
+    EXPECT_TRUE(m_window.Save("Route"));
+    EXPECT_TRUE(g_app.stored.empty());
+}
+
+} // namespace

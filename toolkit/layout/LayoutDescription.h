@@ -1,0 +1,83 @@
+#pragma once
+
+#include "toolkit/layout/LayoutMgr.h"
+#include "toolkit/layout/core/PaneTree.h"
+
+#include <windows.h>
+
+#include <vector>
+
+namespace LayoutManagement
+{
+
+/// A control that a node was declared for. It is left alone once it has gone or has got another parent.
+class LaidControl
+{
+public:
+    LaidControl(HWND window, HWND parent);
+
+    HWND Window() const
+    {
+        return m_window;
+    }
+    bool Exists() const;
+    /// Its own style says so, whether or not its parent is shown.
+    bool HasVisibleStyle() const;
+    /// Its present place in the client coordinates of a window; of its parent for none.
+    RECT PlaceIn(HWND window) const;
+
+private:
+    HWND m_window;
+    HWND m_parent;
+};
+
+/// One pass over a layout: the nodes write themselves into a tree of numbers with the present places of their controls,
+/// and what the tree moves goes back to the windows.
+class LayoutDescription : private vorn::PaneMoves
+{
+public:
+    /// @param window the one whose client coordinates the layout is in
+    explicit LayoutDescription(HWND window);
+
+    HWND Window() const
+    {
+        return m_window;
+    }
+
+    void AddItem(LayoutMgr::PaneItem& pane, const vorn::PaneItemSpec& item, HWND control);
+    void AddForeign(LayoutMgr::PaneBase& pane, const vorn::PaneForeignSpec& foreign);
+    void OpenPane(LayoutMgr::Pane& pane, const vorn::PaneSpec& spec, HWND control);
+    void ClosePane();
+
+    vorn::PaneTree& Tree()
+    {
+        return m_tree;
+    }
+    /// @return false when a move failed
+    bool Place(const RECT& area);
+
+private:
+    struct Target
+    {
+        LayoutMgr::PaneBase* pane;
+        LayoutMgr::PaneItem* item;
+        HWND control;
+    };
+
+    bool Move(std::size_t node, const RECT& rect) override;
+    RECT DisplayArea(std::size_t node, const RECT& rect) override;
+    bool PlaceForeign(std::size_t node, const RECT& slot) override;
+    RECT InParentOf(HWND control, const RECT& rect) const;
+
+    HWND m_window;
+    vorn::PaneTree m_tree;
+    std::vector<Target> m_targets;
+};
+
+/// Which of the first node's figures.
+inline constexpr int kWanted = 0;
+inline constexpr int kLeast = 1;
+inline constexpr int kMost = 2;
+int MeasuredOf(vorn::PaneTree& tree, int parentExtent, bool isHeight, int what);
+
+} // namespace LayoutManagement

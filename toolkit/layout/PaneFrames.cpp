@@ -1,0 +1,56 @@
+#include "framework/controls/CTabCtrl.h"
+#include "toolkit/layout/LayoutDescription.h"
+#include "toolkit/layout/Panes.h"
+
+namespace LayoutManagement
+{
+namespace
+{
+HWND ParentOf(HWND window)
+{
+    return window != nullptr ? GetParent(window) : nullptr;
+}
+} // namespace
+
+LayoutMgr::PaneCtrl::PaneCtrl(LayoutMgr* pMgr, HWND hWnd, Orientation orientation, ResizeMode modeResize,
+                              int sizeSpacing, int sizeBorder, int sizeTopExtra, int sizeSecondary)
+    : Pane(pMgr, orientation, modeResize, sizeSpacing, sizeBorder, sizeSecondary), m_hWnd(hWnd),
+      m_sizeTopExtra(sizeTopExtra), m_hWndParent(ParentOf(hWnd))
+{
+}
+
+HWND LayoutMgr::PaneCtrl::describeFrame(vorn::PaneSpec& spec, HWND window)
+{
+    const LaidControl control(m_hWnd, m_hWndParent);
+    spec.frame = vorn::PaneFrame::Box;
+    spec.insets.top = m_sizeTopExtra;
+    spec.hasControl = control.Exists();
+    spec.present = control.PlaceIn(window);
+    return m_hWnd;
+}
+
+LayoutMgr::PaneTab::PaneTab(LayoutMgr* pMgr, CTabCtrl* pTab, Orientation orientation, ResizeMode modeResize,
+                            int sizeSpacing, int sizeBorder, int sizeSecondary)
+    : Pane(pMgr, orientation, modeResize, sizeSpacing, sizeBorder, sizeSecondary), m_pTab(pTab),
+      m_hWndTab(pTab->GetSafeHwnd()), m_hWndParent(ParentOf(m_hWndTab))
+{
+}
+
+HWND LayoutMgr::PaneTab::describeFrame(vorn::PaneSpec& spec, HWND window)
+{
+    const LaidControl control(m_hWndTab, m_hWndParent);
+    if (!control.Exists())
+    {
+        return nullptr;
+    }
+    RECT border{};
+    SendMessageA(m_hWndTab, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&border));
+    spec.frame = vorn::PaneFrame::Tab;
+    spec.insets = {border.left, border.top, -border.right, -border.bottom};
+    spec.hasControl = true;
+    spec.isShownAlone = control.HasVisibleStyle();
+    spec.present = control.PlaceIn(window);
+    return m_hWndTab;
+}
+
+} // namespace LayoutManagement
