@@ -62,9 +62,9 @@ void LayoutDescription::AddForeign(LayoutMgr::PaneBase& pane, const vorn::PaneFo
     m_targets.push_back({&pane, nullptr, nullptr});
 }
 
-void LayoutDescription::OpenPane(LayoutMgr::Pane& pane, const vorn::PaneSpec& spec, HWND control)
+void LayoutDescription::OpenPane(LayoutMgr::Pane& pane, const vorn::PaneSpec& shape, HWND control)
 {
-    m_tree.OpenPane(spec);
+    m_tree.OpenPane(shape);
     m_targets.push_back({&pane, nullptr, control});
 }
 

@@ -46,7 +46,7 @@ public:
 
     void AddItem(LayoutMgr::PaneItem& pane, const vorn::PaneItemSpec& item, HWND control);
     void AddForeign(LayoutMgr::PaneBase& pane, const vorn::PaneForeignSpec& foreign);
-    void OpenPane(LayoutMgr::Pane& pane, const vorn::PaneSpec& spec, HWND control);
+    void OpenPane(LayoutMgr::Pane& pane, const vorn::PaneSpec& shape, HWND control);
     void ClosePane();
 
     vorn::PaneTree& Tree()

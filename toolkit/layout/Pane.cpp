@@ -84,14 +84,14 @@ void LayoutMgr::Pane::describe(LayoutDescription& description)
 
 void LayoutMgr::Pane::describePane(LayoutDescription& description)
 {
-    vorn::PaneSpec spec;
-    spec.isVertical = m_orientation == Vertical;
-    spec.mode = static_cast<unsigned>(m_modeResize);
-    spec.ownSize = m_sizeSecondary;
-    spec.spacing = m_sizeSpacing;
-    spec.borders = {m_borderLeft, m_borderTop, m_borderRight, m_borderBottom};
-    const HWND frame = describeFrame(spec, description.Window());
-    description.OpenPane(*this, spec, frame);
+    vorn::PaneSpec shape;
+    shape.isVertical = m_orientation == Vertical;
+    shape.mode = static_cast<unsigned>(m_modeResize);
+    shape.ownSize = m_sizeSecondary;
+    shape.spacing = m_sizeSpacing;
+    shape.borders = {m_borderLeft, m_borderTop, m_borderRight, m_borderBottom};
+    const HWND frame = describeFrame(shape, description.Window());
+    description.OpenPane(*this, shape, frame);
     for (int i = 0; i < count(); ++i)
     {
         m_children[i]->describe(description);

@@ -19,13 +19,13 @@ LayoutMgr::PaneCtrl::PaneCtrl(LayoutMgr* pMgr, HWND hWnd, Orientation orientatio
 {
 }
 
-HWND LayoutMgr::PaneCtrl::describeFrame(vorn::PaneSpec& spec, HWND window)
+HWND LayoutMgr::PaneCtrl::describeFrame(vorn::PaneSpec& shape, HWND window)
 {
     const LaidControl control(m_hWnd, m_hWndParent);
-    spec.frame = vorn::PaneFrame::Box;
-    spec.insets.top = m_sizeTopExtra;
-    spec.hasControl = control.Exists();
-    spec.present = control.PlaceIn(window);
+    shape.frame = vorn::PaneFrame::Box;
+    shape.insets.top = m_sizeTopExtra;
+    shape.hasControl = control.Exists();
+    shape.present = control.PlaceIn(window);
     return m_hWnd;
 }
 
@@ -36,7 +36,7 @@ LayoutMgr::PaneTab::PaneTab(LayoutMgr* pMgr, CTabCtrl* pTab, Orientation orienta
 {
 }
 
-HWND LayoutMgr::PaneTab::describeFrame(vorn::PaneSpec& spec, HWND window)
+HWND LayoutMgr::PaneTab::describeFrame(vorn::PaneSpec& shape, HWND window)
 {
     const LaidControl control(m_hWndTab, m_hWndParent);
     if (!control.Exists())
@@ -45,11 +45,11 @@ HWND LayoutMgr::PaneTab::describeFrame(vorn::PaneSpec& spec, HWND window)
     }
     RECT border{};
     SendMessageA(m_hWndTab, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&border));
-    spec.frame = vorn::PaneFrame::Tab;
-    spec.insets = {border.left, border.top, -border.right, -border.bottom};
-    spec.hasControl = true;
-    spec.isShownAlone = control.HasVisibleStyle();
-    spec.present = control.PlaceIn(window);
+    shape.frame = vorn::PaneFrame::Tab;
+    shape.insets = {border.left, border.top, -border.right, -border.bottom};
+    shape.hasControl = true;
+    shape.isShownAlone = control.HasVisibleStyle();
+    shape.present = control.PlaceIn(window);
     return m_hWndTab;
 }
 

@@ -128,7 +128,7 @@ public:
 protected:
     void describe(LayoutDescription& description) override;
     /// What the pane's control adds. @return the control, null for none
-    virtual HWND describeFrame(vorn::PaneSpec& spec, HWND window);
+    virtual HWND describeFrame(vorn::PaneSpec& shape, HWND window);
 
     Orientation m_orientation;
     CArray<CPaneBase, const CPaneBase&> m_children;
@@ -153,7 +153,7 @@ public:
              int sizeBorder, int sizeTopExtra, int sizeSecondary);
 
 protected:
-    HWND describeFrame(vorn::PaneSpec& spec, HWND window) override;
+    HWND describeFrame(vorn::PaneSpec& shape, HWND window) override;
 
     HWND m_hWnd;
     int m_sizeTopExtra;
@@ -171,7 +171,7 @@ public:
             int sizeBorder, int sizeSecondary);
 
 protected:
-    HWND describeFrame(vorn::PaneSpec& spec, HWND window) override;
+    HWND describeFrame(vorn::PaneSpec& shape, HWND window) override;
 
     CTabCtrl* m_pTab;
 
