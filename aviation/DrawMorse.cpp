@@ -7,12 +7,19 @@
 namespace
 {
 
-/// Fills rectangles with one colour, the one that a single pixel would get: no device mixes it of others.
+/// The colour that a single pixel would get, so that no device mixes it of others.
+COLORREF PureColor(HDC dc, COLORREF color)
+{
+    const COLORREF nearest = ::GetNearestColor(dc, color);
+    return nearest != CLR_INVALID ? nearest : color; // metafiles have no pixels
+}
+
+/// Fills rectangles with one colour.
 class SolidFill
 {
 public:
     SolidFill(HDC dc, COLORREF color)
-        : m_dc(dc), m_brush(::CreateSolidBrush(::GetNearestColor(dc, color))), m_former(::SelectObject(dc, m_brush))
+        : m_dc(dc), m_brush(::CreateSolidBrush(PureColor(dc, color))), m_former(::SelectObject(dc, m_brush))
     {
     }
     ~SolidFill()

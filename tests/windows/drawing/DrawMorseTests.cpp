@@ -1,4 +1,5 @@
 #include "aviation/Drawing.h"
+#include "framework/include/afxext.h"
 #include "tests/support/Canvas.h"
 #include "tests/support/GdiCount.h"
 
@@ -234,6 +235,19 @@ TEST(DrawMorse, LeavesTheContextAsItWas)
     EXPECT_EQ(canvas.dc.GetBkColor(), kGreen);
     EXPECT_EQ(canvas.dc.GetCurrentPosition(), CPoint(3, 2));
     EXPECT_EQ(canvas.Count(kBlack), 5 + 4); // whatever the drawing mode of pens
+}
+
+TEST(DrawMorse, MetafilesRecordIt)
+{
+    CMetaFileDC metafile;
+    ASSERT_TRUE(metafile.Create());
+    DrawMorse(&metafile, kRed, 2, 0, 1, 0, "A");
+    DrawMorse(&metafile, kBlue, 2, 1, 1000, 0, "T");
+    const HMETAFILE recorded = metafile.Close();
+    Canvas canvas(10, 2);
+    EXPECT_TRUE(canvas.dc.PlayMetaFile(recorded));
+    EXPECT_EQ(canvas.Picture(), "..R.RRRR..\n..BBBBBBBB\n");
+    ::DeleteMetaFile(recorded);
 }
 
 TEST(DrawMorse, TheColourIsTheOneThatAPixelWouldGet)
