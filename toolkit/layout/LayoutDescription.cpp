@@ -21,33 +21,36 @@ bool MoveFrame(HWND control, const RECT& rect)
 }
 } // namespace
 
-LaidControl::LaidControl(HWND window, HWND parent) : m_window(window), m_parent(parent)
+bool IsStillThere(HWND control, HWND parent)
 {
+    return control != nullptr && GetParent(control) == parent && (parent != nullptr || IsWindow(control));
 }
 
-bool LaidControl::Exists() const
+bool HasVisibleStyle(HWND control)
 {
-    return m_window != nullptr && IsWindow(m_window) && GetParent(m_window) == m_parent;
+    return (GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
-bool LaidControl::HasVisibleStyle() const
+LayoutDescription::LayoutDescription(HWND window)
+    : m_window(window), m_origin{},
+      m_isMirrored(window != nullptr && (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0)
 {
-    return Exists() && (GetWindowLongA(m_window, GWL_STYLE) & WS_VISIBLE) != 0;
+    MapWindowPoints(window, nullptr, &m_origin, 1);
 }
 
-RECT LaidControl::PlaceIn(HWND window) const
+RECT LayoutDescription::PlaceOf(HWND control) const
 {
     RECT rect{};
-    if (Exists())
+    GetWindowRect(control, &rect);
+    if (m_isMirrored)
     {
-        GetWindowRect(m_window, &rect);
-        MapWindowPoints(nullptr, window != nullptr ? window : m_parent, reinterpret_cast<POINT*>(&rect), 2);
+        MapWindowPoints(nullptr, m_window, reinterpret_cast<POINT*>(&rect), 2);
+    }
+    else
+    {
+        OffsetRect(&rect, -m_origin.x, -m_origin.y);
     }
     return rect;
-}
-
-LayoutDescription::LayoutDescription(HWND window) : m_window(window)
-{
 }
 
 void LayoutDescription::AddItem(LayoutMgr::PaneItem& pane, const vorn::PaneItemSpec& item, HWND control)

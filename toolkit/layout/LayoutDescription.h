@@ -10,26 +10,11 @@
 namespace LayoutManagement
 {
 
-/// A control that a node was declared for. It is left alone once it has gone or has got another parent.
-class LaidControl
-{
-public:
-    LaidControl(HWND window, HWND parent);
+/// Whether a control that a node was declared for is still there: not gone, and in the parent it had then.
+bool IsStillThere(HWND control, HWND parent);
 
-    HWND Window() const
-    {
-        return m_window;
-    }
-    bool Exists() const;
-    /// Its own style says so, whether or not its parent is shown.
-    bool HasVisibleStyle() const;
-    /// Its present place in the client coordinates of a window; of its parent for none.
-    RECT PlaceIn(HWND window) const;
-
-private:
-    HWND m_window;
-    HWND m_parent;
-};
+/// Its own style says so, whether or not its parent is shown.
+bool HasVisibleStyle(HWND control);
 
 /// One pass over a layout: the nodes write themselves into a tree of numbers with the present places of their controls,
 /// and what the tree moves goes back to the windows.
@@ -39,10 +24,8 @@ public:
     /// @param window the one whose client coordinates the layout is in
     explicit LayoutDescription(HWND window);
 
-    HWND Window() const
-    {
-        return m_window;
-    }
+    /// The present place of a control in the layout's coordinates.
+    RECT PlaceOf(HWND control) const;
 
     void AddItem(LayoutMgr::PaneItem& pane, const vorn::PaneItemSpec& item, HWND control);
     void AddForeign(LayoutMgr::PaneBase& pane, const vorn::PaneForeignSpec& foreign);
@@ -70,6 +53,8 @@ private:
     RECT InParentOf(HWND control, const RECT& rect) const;
 
     HWND m_window;
+    POINT m_origin; ///< of the window's client area on the screen
+    bool m_isMirrored;
     vorn::PaneTree m_tree;
     std::vector<Target> m_targets;
 };

@@ -90,7 +90,7 @@ void LayoutMgr::Pane::describePane(LayoutDescription& description)
     shape.ownSize = m_sizeSecondary;
     shape.spacing = m_sizeSpacing;
     shape.borders = {m_borderLeft, m_borderTop, m_borderRight, m_borderBottom};
-    const HWND frame = describeFrame(shape, description.Window());
+    const HWND frame = describeFrame(shape, description);
     description.OpenPane(*this, shape, frame);
     for (int i = 0; i < count(); ++i)
     {
@@ -99,7 +99,7 @@ void LayoutMgr::Pane::describePane(LayoutDescription& description)
     description.ClosePane();
 }
 
-HWND LayoutMgr::Pane::describeFrame(vorn::PaneSpec&, HWND)
+HWND LayoutMgr::Pane::describeFrame(vorn::PaneSpec&, const LayoutDescription&)
 {
     return nullptr;
 }

@@ -19,13 +19,15 @@ LayoutMgr::PaneCtrl::PaneCtrl(LayoutMgr* pMgr, HWND hWnd, Orientation orientatio
 {
 }
 
-HWND LayoutMgr::PaneCtrl::describeFrame(vorn::PaneSpec& shape, HWND window)
+HWND LayoutMgr::PaneCtrl::describeFrame(vorn::PaneSpec& shape, const LayoutDescription& description)
 {
-    const LaidControl control(m_hWnd, m_hWndParent);
     shape.frame = vorn::PaneFrame::Box;
     shape.insets.top = m_sizeTopExtra;
-    shape.hasControl = control.Exists();
-    shape.present = control.PlaceIn(window);
+    if (IsStillThere(m_hWnd, m_hWndParent))
+    {
+        shape.hasControl = true;
+        shape.present = description.PlaceOf(m_hWnd);
+    }
     return m_hWnd;
 }
 
@@ -36,10 +38,9 @@ LayoutMgr::PaneTab::PaneTab(LayoutMgr* pMgr, CTabCtrl* pTab, Orientation orienta
 {
 }
 
-HWND LayoutMgr::PaneTab::describeFrame(vorn::PaneSpec& shape, HWND window)
+HWND LayoutMgr::PaneTab::describeFrame(vorn::PaneSpec& shape, const LayoutDescription& description)
 {
-    const LaidControl control(m_hWndTab, m_hWndParent);
-    if (!control.Exists())
+    if (!IsStillThere(m_hWndTab, m_hWndParent))
     {
         return nullptr;
     }
@@ -48,8 +49,8 @@ HWND LayoutMgr::PaneTab::describeFrame(vorn::PaneSpec& shape, HWND window)
     shape.frame = vorn::PaneFrame::Tab;
     shape.insets = {border.left, border.top, -border.right, -border.bottom};
     shape.hasControl = true;
-    shape.isShownAlone = control.HasVisibleStyle();
-    shape.present = control.PlaceIn(window);
+    shape.isShownAlone = HasVisibleStyle(m_hWndTab);
+    shape.present = description.PlaceOf(m_hWndTab);
     return m_hWndTab;
 }
 

@@ -22,6 +22,14 @@ LONG StyleOf(HWND control)
     return GetWindowLongA(control, GWL_STYLE);
 }
 
+RECT PlaceInParent(HWND control)
+{
+    RECT rect{};
+    GetWindowRect(control, &rect);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
 bool MoveTo(HWND control, const RECT& rect)
 {
     return MoveWindow(control, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, TRUE) != FALSE;
@@ -43,7 +51,8 @@ LayoutMgr::PaneItem::PaneItem(LayoutMgr* pMgr, HWND hWnd, ResizeMode modeResize,
 
 void LayoutMgr::PaneItem::takeSizes()
 {
-    const RECT rect = control().PlaceIn(nullptr);
+    RECT rect{};
+    GetWindowRect(m_hWnd, &rect);
     const int width = static_cast<int>(rect.right - rect.left);
     const int height = static_cast<int>(rect.bottom - rect.top);
     m_sizeX = m_sizeX == 0 ? width : m_sizeX;
@@ -52,14 +61,14 @@ void LayoutMgr::PaneItem::takeSizes()
     m_sizeYMin = m_sizeYMin < 0 ? height : m_sizeYMin;
 }
 
-LaidControl LayoutMgr::PaneItem::control() const
+bool LayoutMgr::PaneItem::isThere() const
 {
-    return LaidControl(m_hWnd, m_hWndParent);
+    return IsStillThere(m_hWnd, m_hWndParent);
 }
 
 bool LayoutMgr::PaneItem::isShown(bool bShown)
 {
-    return m_hWnd == nullptr ? bShown : control().HasVisibleStyle();
+    return m_hWnd == nullptr ? bShown : isThere() && HasVisibleStyle(m_hWnd);
 }
 
 void LayoutMgr::PaneItem::describe(LayoutDescription& description)
@@ -88,7 +97,7 @@ void LayoutMgr::PaneItem::describeItem(LayoutDescription& description)
     if (item.hasControl && item.isShown)
     {
         item.keepsHeight = m_bIsComboBox && (StyleOf(m_hWnd) & CBS_DROPDOWN) != 0;
-        item.present = control().PlaceIn(description.Window());
+        item.present = description.PlaceOf(m_hWnd);
     }
     description.AddItem(*this, item, m_hWnd);
 }
@@ -117,7 +126,7 @@ bool LayoutMgr::PaneItem::move(const RECT& rect)
 
 bool LayoutMgr::PaneItem::moveSimpleCombo(const RECT& rect)
 {
-    const RECT present = control().PlaceIn(nullptr);
+    const RECT present = PlaceInParent(m_hWnd);
     if (EqualRect(&rect, &m_rectSlot) && EqualRect(&present, &m_rectTaken))
     {
         return true; // it never fills its slot, so only this tells that nothing has changed
@@ -135,7 +144,7 @@ bool LayoutMgr::PaneItem::moveSimpleCombo(const RECT& rect)
         MoveTo(m_hWnd, taken);
     }
     m_rectSlot = rect;
-    m_rectTaken = control().PlaceIn(nullptr);
+    m_rectTaken = PlaceInParent(m_hWnd);
     RedrawWindow(m_hWnd, nullptr, nullptr, kRedraw);
     return true;
 }

@@ -14,7 +14,6 @@ struct PaneSpec;
 namespace LayoutManagement
 {
 
-class LaidControl;
 class LayoutDescription;
 
 /// A node. Sizes are pixels; what is not shown measures 0.
@@ -90,7 +89,7 @@ protected:
 
 private:
     void describeItem(LayoutDescription& description);
-    LaidControl control() const;
+    bool isThere() const;
     void takeSizes();
     int measured(int parentExtent, bool isHeight, int what);
     bool move(const RECT& rect);
@@ -128,7 +127,7 @@ public:
 protected:
     void describe(LayoutDescription& description) override;
     /// What the pane's control adds. @return the control, null for none
-    virtual HWND describeFrame(vorn::PaneSpec& shape, HWND window);
+    virtual HWND describeFrame(vorn::PaneSpec& shape, const LayoutDescription& description);
 
     Orientation m_orientation;
     CArray<CPaneBase, const CPaneBase&> m_children;
@@ -153,7 +152,7 @@ public:
              int sizeBorder, int sizeTopExtra, int sizeSecondary);
 
 protected:
-    HWND describeFrame(vorn::PaneSpec& shape, HWND window) override;
+    HWND describeFrame(vorn::PaneSpec& shape, const LayoutDescription& description) override;
 
     HWND m_hWnd;
     int m_sizeTopExtra;
@@ -171,7 +170,7 @@ public:
             int sizeBorder, int sizeSecondary);
 
 protected:
-    HWND describeFrame(vorn::PaneSpec& shape, HWND window) override;
+    HWND describeFrame(vorn::PaneSpec& shape, const LayoutDescription& description) override;
 
     CTabCtrl* m_pTab;
 
