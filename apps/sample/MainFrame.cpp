@@ -12,7 +12,7 @@ namespace
 {
 
 constexpr int kViewMenu = 1; // places in the menu bar of IDR_MAINFRAME
-constexpr int kUnitsMenu = 4;
+constexpr int kUnitsMenu = 5;
 constexpr SIZE kSmallest = {560, 420};
 
 } // namespace

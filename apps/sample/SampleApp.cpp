@@ -101,7 +101,11 @@ bool SampleApp::ApplyOptions(const StartOptions& options)
     const std::string problem = TakeOptions(view, options);
     const bool aboutTables = !options.table.empty() || !options.find.empty();
     const bool aboutChart = !options.view.empty() || options.night;
-    const std::string page = !options.page.empty() ? options.page : aboutTables ? "Tables" : aboutChart ? "Chart" : "";
+    const char* const ofOptions = aboutTables                ? "Tables"
+                                  : aboutChart               ? "Chart"
+                                  : !options.picture.empty() ? "Pictures"
+                                                             : "";
+    const std::string page = options.page.empty() ? ofOptions : options.page;
     const bool shown = page.empty() || view.ShowPage(page);
     if (shown && (problem.empty() || !options.IsUnattended())) // a user sees on the page what is wrong
         return true;

@@ -31,6 +31,7 @@ constexpr std::array kTextOptions = {
     TextOption{"--table", &StartOptions::table},
     TextOption{"--find", &StartOptions::find},
     TextOption{"--view", &StartOptions::view},
+    TextOption{"--picture", &StartOptions::picture},
 };
 
 const TextOption* FindTextOption(std::string_view name)
@@ -86,16 +87,18 @@ StartOptions ParseStartOptions(int count, const char* const* arguments)
 const char* StartOptionsHelp()
 {
     return "VornSample [--page NAME] [--table FILE.dbf] [--find FIELD=VALUE]\n"
-           "           [--view TEXT] [--night]\n"
+           "           [--view TEXT] [--night] [--picture FILE]\n"
            "           [--size WIDTHxHEIGHT] [--snapshot FILE.png] [--summary]\n"
            "\n"
-           "Shows the family's programs and versions, the settings in force, values in your units and tables.\n"
+           "Shows the family's programs and versions, the settings in force, values in your units, tables and "
+           "pictures.\n"
            "\n"
            "  --page NAME            start with this page, for example Overview; its beginning will do\n"
            "  --table FILE.dbf       browse this table instead of the sample's own\n"
            "  --find FIELD=VALUE     select the first record of the table with this value\n"
            "  --view TEXT            show this view of the chart, as --page Chart --summary prints it\n"
            "  --night                show the chart in its colours for the night\n"
+           "  --picture FILE         view this picture: BMP, PCX, GIF, PNG or JPEG\n"
            "  --size WIDTHxHEIGHT    start with a window of this size\n"
            "  --snapshot FILE.png    save a picture of the window and exit\n"
            "  --summary              print what the pages show and exit\n";

@@ -13,6 +13,7 @@ struct StartOptions
     std::string find;         ///< FIELD=VALUE: the record to select there
     std::string view;         ///< text of the chart's view; empty for the stored one
     bool night = false;       ///< the chart's colours for the night
+    std::string picture;      ///< file of the picture to view; empty for the sample's own
     int width = 0;            ///< of the window in pixels; 0 leaves it as stored
     int height = 0;
 

@@ -13,7 +13,7 @@ namespace
 struct Share
 {
     int source;
-    std::uint32_t weight;
+    std::uint16_t weight; ///< Without meaning where it is the only one.
 };
 
 constexpr std::uint32_t kWhole = 1U << 16;
@@ -32,7 +32,7 @@ public:
                 AddCovered(i, sourceSize, size);
             else
                 m_shares.push_back(
-                    {static_cast<int>((2 * std::int64_t{i} + 1) * sourceSize / (2 * std::int64_t{size})), kWhole});
+                    {static_cast<int>((2 * std::int64_t{i} + 1) * sourceSize / (2 * std::int64_t{size})), 0});
         }
         m_begin.push_back(m_shares.size());
     }
@@ -54,7 +54,8 @@ private:
         {
             const std::int64_t covered = std::min((source + 1) * size, end) - begin;
             const std::int64_t weight = covered * kWhole / sourceSize;
-            m_shares.push_back({static_cast<int>(source), static_cast<std::uint32_t>(weight - weightBefore)});
+            const std::int64_t own = std::min<std::int64_t>(weight - weightBefore, kWhole - 1);
+            m_shares.push_back({static_cast<int>(source), static_cast<std::uint16_t>(own)});
             weightBefore = weight;
         }
     }
@@ -66,17 +67,38 @@ private:
 /// Rows of 8 bits and 8 more behind the point.
 using FineRow = std::vector<std::uint32_t>;
 
+// Products of 16 bits with 16 bits: there are instructions for eight at a time.
+void AddRow(FineRow& row, const unsigned char* from, std::uint16_t weight)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        row[i] += std::uint32_t{weight} * std::uint16_t{from[i]};
+}
+
+void AddTwoRows(FineRow& row, const unsigned char* first, std::uint16_t firstWeight, const unsigned char* second,
+                std::uint16_t secondWeight)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        row[i] += std::uint32_t{firstWeight} * std::uint16_t{first[i]} +
+                  std::uint32_t{secondWeight} * std::uint16_t{second[i]};
+}
+
+void CopyRow(FineRow& row, const unsigned char* from)
+{
+    for (std::size_t i = 0; i < row.size(); ++i)
+        row[i] = std::uint32_t{from[i]} << 8;
+}
+
 void MixRows(const ImageView& source, std::span<const Share> shares, FineRow& row)
 {
-    std::ranges::fill(row, 0U);
-    for (const Share& share : shares)
-    {
-        const unsigned char* from = source.Row(share.source);
-        for (std::size_t i = 0; i < row.size(); ++i)
-            row[i] += share.weight * from[i];
-    }
+    if (shares.size() == 1)
+        return CopyRow(row, source.Row(shares.front().source));
+    std::ranges::fill(row, 128U);
+    for (; shares.size() > 1; shares = shares.subspan(2))
+        AddTwoRows(row, source.Row(shares[0].source), shares[0].weight, source.Row(shares[1].source), shares[1].weight);
+    if (!shares.empty())
+        AddRow(row, source.Row(shares.front().source), shares.front().weight);
     for (std::uint32_t& value : row)
-        value = (value + 128) >> 8;
+        value >>= 8;
 }
 
 template <std::size_t Channels>
@@ -95,29 +117,122 @@ void MixColumns(const FineRow& row, const Shares& columns, int width, unsigned c
     }
 }
 
+/// The first byte of the pixel of each column that is repeated.
+using Columns = std::vector<int>;
+
+Columns RepeatedColumns(const Shares& columns, int width, int channels)
+{
+    Columns offsets(static_cast<std::size_t>(width));
+    for (int x = 0; x < width; ++x)
+        offsets[static_cast<std::size_t>(x)] = columns.Of(x).front().source * channels;
+    return offsets;
+}
+
+// Four bytes a store: the next pixel takes the last of them. The source's last pixel has no fourth byte behind it.
+void RepeatThreeBytes(const unsigned char* from, const Columns& offsets, unsigned char* to)
+{
+    const int last = offsets.back();
+    std::size_t x = 0;
+    for (; offsets[x] != last; ++x, to += 3)
+        std::memcpy(to, from + offsets[x], 4);
+    for (; x < offsets.size(); ++x, to += 3)
+        std::memcpy(to, from + last, 3);
+}
+
+void RepeatFourBytes(const unsigned char* from, const Columns& offsets, unsigned char* to)
+{
+    for (const int offset : offsets)
+    {
+        std::memcpy(to, from + offset, 4);
+        to += 4;
+    }
+}
+
+void RoundRow(const FineRow& row, std::vector<unsigned char>& bytes)
+{
+    std::ranges::transform(row, bytes.begin(),
+                           [](std::uint32_t value)
+                           {
+                               return static_cast<unsigned char>((value + 128) >> 8);
+                           });
+}
+
 bool IsSameAsBefore(const Shares& rows, int y)
 {
     return y > 0 && rows.Of(y).size() == 1 && rows.Of(y - 1).size() == 1 &&
            rows.Of(y).front().source == rows.Of(y - 1).front().source;
 }
 
+/// Makes a row of the target from the mixed rows of the source.
+class ColumnMaker
+{
+public:
+    ColumnMaker(const ImageView& source, const ImageCanvas& target)
+        : m_source(source), m_target(target), m_columns(source.width, target.width), m_channels(source.depth / 8),
+          m_row(static_cast<std::size_t>(source.width) * static_cast<std::size_t>(m_channels))
+    {
+        if (!Grows())
+            return;
+        m_offsets = RepeatedColumns(m_columns, target.width, m_channels);
+        m_bytes.resize(m_row.size());
+    }
+
+    void Make(std::span<const Share> shares, unsigned char* to)
+    {
+        if (!Grows())
+        {
+            MixRows(m_source, shares, m_row);
+            Mix(to);
+        }
+        else if (shares.size() == 1)
+            Repeat(m_source.Row(shares.front().source), to);
+        else
+        {
+            MixRows(m_source, shares, m_row);
+            RoundRow(m_row, m_bytes);
+            Repeat(m_bytes.data(), to);
+        }
+    }
+
+private:
+    bool Grows() const
+    {
+        return m_target.width >= m_source.width;
+    }
+    void Mix(unsigned char* to) const
+    {
+        if (m_channels == 4)
+            MixColumns<4>(m_row, m_columns, m_target.width, to);
+        else
+            MixColumns<3>(m_row, m_columns, m_target.width, to);
+    }
+    void Repeat(const unsigned char* from, unsigned char* to) const
+    {
+        if (m_channels == 4)
+            RepeatFourBytes(from, m_offsets, to);
+        else
+            RepeatThreeBytes(from, m_offsets, to);
+    }
+
+    const ImageView& m_source;
+    const ImageCanvas& m_target;
+    Shares m_columns;
+    int m_channels;
+    FineRow m_row;
+    Columns m_offsets;
+    std::vector<unsigned char> m_bytes;
+};
+
 void Resample(const ImageView& source, const ImageCanvas& target)
 {
-    const Shares columns(source.width, target.width);
     const Shares rows(source.height, target.height);
-    FineRow row(static_cast<std::size_t>(source.width) * static_cast<std::size_t>(source.depth / 8));
+    ColumnMaker columns(source, target);
     for (int y = 0; y < target.height; ++y)
     {
         if (IsSameAsBefore(rows, y))
-        {
             std::memcpy(target.Row(y), target.Row(y - 1), static_cast<std::size_t>(target.stride));
-            continue;
-        }
-        MixRows(source, rows.Of(y), row);
-        if (source.depth == 32)
-            MixColumns<4>(row, columns, target.width, target.Row(y));
         else
-            MixColumns<3>(row, columns, target.width, target.Row(y));
+            columns.Make(rows.Of(y), target.Row(y));
     }
 }
 

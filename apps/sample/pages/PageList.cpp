@@ -4,6 +4,7 @@
 #include "apps/sample/pages/CurrencyPage.h"
 #include "apps/sample/pages/FoldersPage.h"
 #include "apps/sample/pages/OverviewPage.h"
+#include "apps/sample/pages/PicturePage.h"
 #include "apps/sample/pages/PositionPage.h"
 #include "apps/sample/pages/TablePage.h"
 
@@ -16,5 +17,6 @@ std::vector<std::unique_ptr<Page>> MakePages()
     pages.push_back(std::make_unique<FoldersPage>());
     pages.push_back(std::make_unique<TablePage>());
     pages.push_back(std::make_unique<ChartPage>());
+    pages.push_back(std::make_unique<PicturePage>());
     return pages;
 }
