@@ -140,5 +140,5 @@ void NearestPaletteIndex(benchmark::State& state)
         benchmark::DoNotOptimize(findAll());
     DeleteObject(palette);
 }
-BENCHMARK(NearestPaletteIndex)->Name("Pictures/GetNearestPaletteIndex, a hit");
+BENCHMARK(NearestPaletteIndex)->Name("Pictures/a palette index found");
 } // namespace
