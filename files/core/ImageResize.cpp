@@ -117,37 +117,6 @@ void MixColumns(const FineRow& row, const Shares& columns, int width, unsigned c
     }
 }
 
-/// The first byte of the pixel of each column that is repeated.
-using Columns = std::vector<int>;
-
-Columns RepeatedColumns(const Shares& columns, int width, int channels)
-{
-    Columns offsets(static_cast<std::size_t>(width));
-    for (int x = 0; x < width; ++x)
-        offsets[static_cast<std::size_t>(x)] = columns.Of(x).front().source * channels;
-    return offsets;
-}
-
-// Four bytes a store: the next pixel takes the last of them. The source's last pixel has no fourth byte behind it.
-void RepeatThreeBytes(const unsigned char* from, const Columns& offsets, unsigned char* to)
-{
-    const int last = offsets.back();
-    std::size_t x = 0;
-    for (; offsets[x] != last; ++x, to += 3)
-        std::memcpy(to, from + offsets[x], 4);
-    for (; x < offsets.size(); ++x, to += 3)
-        std::memcpy(to, from + last, 3);
-}
-
-void RepeatFourBytes(const unsigned char* from, const Columns& offsets, unsigned char* to)
-{
-    for (const int offset : offsets)
-    {
-        std::memcpy(to, from + offset, 4);
-        to += 4;
-    }
-}
-
 void RoundRow(const FineRow& row, std::vector<unsigned char>& bytes)
 {
     std::ranges::transform(row, bytes.begin(),
@@ -155,85 +124,6 @@ void RoundRow(const FineRow& row, std::vector<unsigned char>& bytes)
                            {
                                return static_cast<unsigned char>((value + 128) >> 8);
                            });
-}
-
-bool IsSameAsBefore(const Shares& rows, int y)
-{
-    return y > 0 && rows.Of(y).size() == 1 && rows.Of(y - 1).size() == 1 &&
-           rows.Of(y).front().source == rows.Of(y - 1).front().source;
-}
-
-/// Makes a row of the target from the mixed rows of the source.
-class ColumnMaker
-{
-public:
-    ColumnMaker(const ImageView& source, const ImageCanvas& target)
-        : m_source(source), m_target(target), m_columns(source.width, target.width), m_channels(source.depth / 8),
-          m_row(static_cast<std::size_t>(source.width) * static_cast<std::size_t>(m_channels))
-    {
-        if (!Grows())
-            return;
-        m_offsets = RepeatedColumns(m_columns, target.width, m_channels);
-        m_bytes.resize(m_row.size());
-    }
-
-    void Make(std::span<const Share> shares, unsigned char* to)
-    {
-        if (!Grows())
-        {
-            MixRows(m_source, shares, m_row);
-            Mix(to);
-        }
-        else if (shares.size() == 1)
-            Repeat(m_source.Row(shares.front().source), to);
-        else
-        {
-            MixRows(m_source, shares, m_row);
-            RoundRow(m_row, m_bytes);
-            Repeat(m_bytes.data(), to);
-        }
-    }
-
-private:
-    bool Grows() const
-    {
-        return m_target.width >= m_source.width;
-    }
-    void Mix(unsigned char* to) const
-    {
-        if (m_channels == 4)
-            MixColumns<4>(m_row, m_columns, m_target.width, to);
-        else
-            MixColumns<3>(m_row, m_columns, m_target.width, to);
-    }
-    void Repeat(const unsigned char* from, unsigned char* to) const
-    {
-        if (m_channels == 4)
-            RepeatFourBytes(from, m_offsets, to);
-        else
-            RepeatThreeBytes(from, m_offsets, to);
-    }
-
-    const ImageView& m_source;
-    const ImageCanvas& m_target;
-    Shares m_columns;
-    int m_channels;
-    FineRow m_row;
-    Columns m_offsets;
-    std::vector<unsigned char> m_bytes;
-};
-
-void Resample(const ImageView& source, const ImageCanvas& target)
-{
-    const Shares rows(source.height, target.height);
-    ColumnMaker columns(source, target);
-    for (int y = 0; y < target.height; ++y)
-    {
-        if (IsSameAsBefore(rows, y))
-            std::memcpy(target.Row(y), target.Row(y - 1), static_cast<std::size_t>(target.stride));
-        else
-            columns.Make(rows.Of(y), target.Row(y));
-    }
 }
 
 /// Where the pixels of a row come from, in bytes, where each is one of the source alone.
@@ -256,6 +146,59 @@ void RepeatPixels(const unsigned char* from, std::span<const std::size_t> offset
         std::memcpy(to, from + offsets[x], 4);
     for (; x < offsets.size(); ++x, to += Channels)
         std::memcpy(to, from + offsets[x], Channels);
+}
+
+bool IsSameAsBefore(const Shares& rows, int y)
+{
+    return y > 0 && rows.Of(y).size() == 1 && rows.Of(y - 1).size() == 1 &&
+           rows.Of(y).front().source == rows.Of(y - 1).front().source;
+}
+
+/// Makes a row of the target from mixed rows of the source, whose pixels it mixes or, where the width grows, repeats.
+template <std::size_t Channels>
+class RowMaker
+{
+public:
+    RowMaker(const ImageView& source, int width)
+        : m_source(source), m_width(width), m_columns(source.width, width),
+          m_row(static_cast<std::size_t>(source.width) * Channels)
+    {
+        if (width < source.width)
+            return;
+        m_offsets = Offsets(source.width, width, Channels);
+        m_bytes.resize(m_row.size());
+    }
+
+    void Make(std::span<const Share> shares, unsigned char* to)
+    {
+        MixRows(m_source, shares, m_row);
+        if (m_offsets.empty())
+            return MixColumns<Channels>(m_row, m_columns, m_width, to);
+        RoundRow(m_row, m_bytes);
+        RepeatPixels<Channels>(m_bytes.data(), m_offsets, to);
+    }
+
+private:
+    const ImageView& m_source;
+    int m_width;
+    Shares m_columns;
+    FineRow m_row;
+    std::vector<std::size_t> m_offsets;
+    std::vector<unsigned char> m_bytes;
+};
+
+template <std::size_t Channels>
+void Resample(const ImageView& source, const ImageCanvas& target)
+{
+    const Shares rows(source.height, target.height);
+    RowMaker<Channels> maker(source, target.width);
+    for (int y = 0; y < target.height; ++y)
+    {
+        if (IsSameAsBefore(rows, y))
+            std::memcpy(target.Row(y), target.Row(y - 1), static_cast<std::size_t>(target.stride));
+        else
+            maker.Make(rows.Of(y), target.Row(y));
+    }
 }
 
 /// Growing along both axes: nothing is mixed.
@@ -303,8 +246,10 @@ PackedImage BoxResize(const ImageView& source, int width, int height)
         return made;
     if (isGrowing)
         Repeat(plain, made.Canvas());
+    else if (plain.depth == 32)
+        Resample<4>(plain, made.Canvas());
     else
-        Resample(plain, made.Canvas());
+        Resample<3>(plain, made.Canvas());
     return made;
 }
 } // namespace vorn
