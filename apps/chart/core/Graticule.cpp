@@ -36,10 +36,10 @@ std::string DegreeText(int minutes, int step, char plus, char minus)
     return text;
 }
 
-/// The longitude nearest to `near` on the same meridian.
-double Beside(double longitude, double near)
+/// The longitude nearest to `other` on the same meridian.
+double Beside(double longitude, double other)
 {
-    return near + std::remainder(longitude - near, 360.0);
+    return other + std::remainder(longitude - other, 360.0);
 }
 
 bool Shows(const ChartView& view, const LatLon& position)
