@@ -16,16 +16,17 @@ namespace
 constexpr const char* kColors = "Software\\Vornwald\\windows_drawing_tests\\Colors";
 constexpr const char* kExpected = "VORN_TEST_EXPECTED";
 
+void Store(const char* key, const char* text)
+{
+    ASSERT_EQ(::RegSetKeyValueA(HKEY_CURRENT_USER, kColors, key, REG_SZ, text,
+                                static_cast<DWORD>(std::string(text).size() + 1)),
+              ERROR_SUCCESS);
+}
+
 /// The host's settings, empty before and after the test.
 class NightVision : public testing::Test
 {
 protected:
-    static void Store(const char* key, const char* text)
-    {
-        ASSERT_EQ(::RegSetKeyValueA(HKEY_CURRENT_USER, kColors, key, REG_SZ, text,
-                                    static_cast<DWORD>(std::string(text).size() + 1)),
-                  ERROR_SUCCESS);
-    }
     /// The stored text; "(none)" when there is none.
     static std::string Stored(const char* key)
     {
@@ -58,14 +59,13 @@ std::string Report()
     return text.GetString();
 }
 
-/// Runs the test below in a process of its own, whose scales are read anew; its exit code.
-DWORD ReportElsewhere(const std::string& expected)
+/// Runs a test below in a process of its own, whose scales are not read yet; its exit code.
+DWORD RunElsewhere(const std::string& child)
 {
     char program[MAX_PATH] = {};
     ::GetModuleFileNameA(nullptr, program, sizeof program);
     std::string line = std::string("\"") + program +
-                       "\" --gtest_brief=1 --gtest_also_run_disabled_tests --gtest_filter=NightVisionChild.*";
-    ::SetEnvironmentVariableA(kExpected, expected.c_str());
+                       "\" --gtest_brief=1 --gtest_also_run_disabled_tests --gtest_filter=NightVisionChild." + child;
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};
@@ -81,9 +81,15 @@ DWORD ReportElsewhere(const std::string& expected)
     return code;
 }
 
+DWORD ReportElsewhere(const std::string& expected)
+{
+    ::SetEnvironmentVariableA(kExpected, expected.c_str());
+    return RunElsewhere("DISABLED_ReportsItsScales");
+}
+
 } // namespace
 
-/// No test by itself: what the other process expects is compared here.
+// No tests by themselves: what other processes run. The first compares with what its parent expects.
 TEST(NightVisionChild, DISABLED_ReportsItsScales)
 {
     VornCommonApp host;
@@ -93,6 +99,34 @@ TEST(NightVisionChild, DISABLED_ReportsItsScales)
     EXPECT_EQ(Report(), expected);
     EXPECT_EQ(Report(), expected) << "the second time";
     VornCommonApp::FreeInst();
+}
+
+TEST(NightVisionChild, DISABLED_ReadsOnceUnlessRedIsNegative)
+{
+    VornCommonApp host;
+    VornCommonApp::Inst(&host);
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+    Store("NVRedScale", "-0.5");
+    Store("NVGreenScale", "1");
+    Store("NVBlueScale", "1");
+    GetNVScales(red, green, blue);
+    EXPECT_EQ(red, -0.5);
+    EXPECT_EQ(MakeNightVision(RGB(100, 0, 0)), 0x020000CEU); // -50
+    Store("NVRedScale", "0.25");
+    Store("NVBlueScale", "0.75");
+    GetNVScales(red, green, blue);
+    EXPECT_EQ(red, 0.25);
+    EXPECT_EQ(green, 1);
+    EXPECT_EQ(blue, 0.75);
+    Store("NVRedScale", "0.9");
+    ASSERT_EQ(::RegDeleteKeyValueA(HKEY_CURRENT_USER, kColors, "NVBlueScale"), ERROR_SUCCESS);
+    GetNVScales(red, green, blue);
+    EXPECT_EQ(red, 0.25);
+    EXPECT_EQ(blue, 0.75);
+    VornCommonApp::FreeInst();
+    AppRegMgr::FreeInst();
 }
 
 TEST_F(NightVision, DefaultsDimAndBecomeSettings)
@@ -138,31 +172,8 @@ TEST_F(NightVision, ProductsAreCutAndMasked)
 
 TEST_F(NightVision, SettingsAreReadOnceInAProcessUnlessTheRedScaleIsNegative)
 {
-    VornCommonApp host;
-    VornCommonApp::Inst(&host);
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    Store("NVRedScale", "-0.5");
-    Store("NVGreenScale", "1");
-    Store("NVBlueScale", "1");
-    GetNVScales(red, green, blue);
-    EXPECT_EQ(red, -0.5);
-    EXPECT_EQ(MakeNightVision(RGB(100, 0, 0)), 0x020000CEU); // -50
-    Store("NVRedScale", "0.25");
-    Store("NVBlueScale", "0.75");
-    GetNVScales(red, green, blue);
-    EXPECT_EQ(red, 0.25);
-    EXPECT_EQ(green, 1);
-    EXPECT_EQ(blue, 0.75);
-    Store("NVRedScale", "0.9");
-    ASSERT_EQ(::RegDeleteKeyValueA(HKEY_CURRENT_USER, kColors, "NVBlueScale"), ERROR_SUCCESS);
-    GetNVScales(red, green, blue);
-    EXPECT_EQ(red, 0.25);
-    EXPECT_EQ(blue, 0.75);
+    EXPECT_EQ(RunElsewhere("DISABLED_ReadsOnceUnlessRedIsNegative"), 0U);
     EXPECT_EQ(StoredScales(), "0.9 1 (none)");
-    VornCommonApp::FreeInst();
-    AppRegMgr::FreeInst();
 }
 
 TEST(NightVisionState, IsTheChartLibrarysNightAndNoOther)
