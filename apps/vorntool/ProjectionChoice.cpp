@@ -173,14 +173,21 @@ std::optional<Trouble> SetSkew(Projection& projection, const Invocation& call)
     return std::nullopt;
 }
 
-std::optional<Trouble> CheckReady(Projection& projection)
+// A projection of the registry's number `index`; null when its plug-in made none.
+std::optional<Trouble> SetUp(Projection* projection, int index, const Invocation& call)
 {
-    double x = 0;
-    double y = 0;
-    double lat = 0;
-    double lon = 0;
-    projection.MinMaxMapXY(x, y, lat, lon);
-    return x < lat ? std::nullopt : std::optional(Trouble{ExitStatus::Refused, "these parameters make no map"});
+    if (!projection)
+    {
+        return Trouble{ExitStatus::Refused, "the plug-in makes no projection"};
+    }
+    std::optional<Trouble> trouble = SetParameters(*projection, call);
+    // A plug-in's projection was asked once, when it was made.
+    if (!trouble && index < ProjectionLib::mpInstance->NumBuiltIn() && !projection->Init())
+    {
+        trouble = Trouble{ExitStatus::Refused, "these parameters make no map"};
+    }
+    trouble = trouble ? trouble : SetCenter(*projection, call);
+    return trouble ? trouble : SetSkew(*projection, call);
 }
 
 } // namespace
@@ -228,16 +235,7 @@ std::optional<ProjectionSetup> TakeProjection(const Command& self, const Invocat
     }
     ProjectionSetup setup{std::unique_ptr<Projection>(ProjectionLib::mpInstance->CreateProjection(index)),
                           call.Has("metres") ? kEarthRadius : 1};
-    std::optional<Trouble> trouble;
-    if (!setup.projection)
-    {
-        trouble = Trouble{ExitStatus::Refused, "the plug-in makes no projection"};
-    }
-    for (const auto step : {SetParameters, SetCenter, SetSkew})
-    {
-        trouble = trouble ? trouble : step(*setup.projection, call);
-    }
-    trouble = trouble ? trouble : CheckReady(*setup.projection);
+    const std::optional<Trouble> trouble = SetUp(setup.projection.get(), index, call);
     if (!trouble)
     {
         return setup;

@@ -96,7 +96,7 @@ int PluginForward(VornProjection projection, double lat, double lon, double* x, 
 /// What the way through a plug-in adds to a call.
 void ThroughPlugin(benchmark::State& state)
 {
-    const auto direct = Made(PROJECTION_MERCATOR);
+    const auto direct = Made(PROJECTION_EQUIDISTANT_CYLINDRICAL); // the quickest: the difference shows
     ExternalProj external(reinterpret_cast<VornProjection>(direct.get()));
     constexpr int kForwardEntry = 10;
     external.Bind(kForwardEntry, reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(PluginForward)));
@@ -117,7 +117,7 @@ void ThroughPlugin(benchmark::State& state)
     const double points = static_cast<double>(positions.size());
     state.counters["beyond_ns"] = (state.counters["call_ns"] - state.counters["yardstick_ns"]) / points;
 }
-BENCHMARK(ThroughPlugin)->Name("Projection/through a plug-in, beyond the projection itself")->UseManualTime();
+BENCHMARK(ThroughPlugin)->Name("Projection/through a plug-in and beyond the projection itself")->UseManualTime();
 
 void ParseView(benchmark::State& state)
 {

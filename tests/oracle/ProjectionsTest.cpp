@@ -1,4 +1,5 @@
-// Our projections and those of PROJ's programs (package proj-bin).
+// Our projections, that of the sample plug-in too, and those of PROJ's programs (package proj-bin).
+#include "family/VornChart/core/ExternalProj.h"
 #include "family/VornChart/core/Projection.h"
 #include "tests/oracle/OutsideTool.h"
 #include "tests/support/ScratchFolder.h"
@@ -12,10 +13,13 @@
 #include <optional>
 #include <random>
 #include <sstream>
+#include <vornplugin.h>
 
 namespace
 {
 constexpr double kEarthRadius = 6378137;
+
+constexpr int kPlugin = -1;
 
 struct Pair
 {
@@ -26,7 +30,7 @@ struct Pair
 /// A projection, set up both ways, and the part of the earth that it is used for.
 struct Case
 {
-    int kind;
+    int kind; ///< or kPlugin
     double poleLat;
     double poleLon;
     std::vector<double> parameters;
@@ -70,13 +74,39 @@ std::vector<Case> Cases()
         {4, 49, -2, {}, {"+proj=tmerc", "+lat_0=49", "+lon_0=-2", ellipsoid}, -90, 90, 45},
         {5, 0, 0, {}, {"+proj=ortho", sphere}, -85, 85, 85},
         {5, 40, -100, {}, {"+proj=ortho", "+lat_0=40", "+lon_0=-100", sphere}, -30, 90, 60},
+        {kPlugin, 0, 0, {}, {"+proj=aeqd", sphere}, -90, 90, 178},
+        {kPlugin, 47, 8, {}, {"+proj=aeqd", "+lat_0=47", "+lon_0=8", sphere}, -46, 90, 180},
+        {kPlugin, -90, 20, {}, {"+proj=aeqd", "+lat_0=-90", "+lon_0=20", sphere}, -90, 88, 180},
         {5, -90, 20, {}, {"+proj=ortho", "+lat_0=-90", "+lon_0=20", sphere}, -90, -1, 180},
     };
 }
 
+/// The sample plug-in, linked into this program in place of a module.
+std::unique_ptr<Projection> OfPlugin()
+{
+    auto projection = std::make_unique<ExternalProj>(CreateProjection());
+    const auto bind = [&projection](const std::string& name, auto* function)
+    {
+        for (int i = 0; i < ExternalProj::kEntryPoints; ++i)
+        {
+            if (name == ExternalProj::EntryPointName(i))
+            {
+                projection->Bind(i, reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function)));
+            }
+        }
+    };
+    bind("DestroyProjection", DestroyProjection);
+    bind("QueryProjectionName", QueryProjectionName);
+    bind("SetMapPole", SetMapPole);
+    bind("LLtoXY", LLtoXY);
+    bind("XYtoLL", XYtoLL);
+    return projection;
+}
+
 std::unique_ptr<Projection> Prepared(const Case& theCase)
 {
-    std::unique_ptr<Projection> projection(Projection::CreateProjection(theCase.kind));
+    std::unique_ptr<Projection> projection =
+        theCase.kind == kPlugin ? OfPlugin() : std::unique_ptr<Projection>(Projection::CreateProjection(theCase.kind));
     for (std::size_t i = 0; i < theCase.parameters.size(); ++i)
     {
         EXPECT_TRUE(projection->SetParamValue(static_cast<int>(i), theCase.parameters[i]));

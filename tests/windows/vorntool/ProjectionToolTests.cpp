@@ -7,12 +7,22 @@ using namespace vorn::test;
 
 namespace
 {
-std::string SamplePlugin()
+std::string ProgramFolder()
 {
     char path[MAX_PATH] = "";
     GetModuleFileNameA(nullptr, path, MAX_PATH);
     const std::string whole = path;
-    return whole.substr(0, whole.rfind('\\')) + "\\plugins\\AzimuthalEquidistant.dll";
+    return whole.substr(0, whole.rfind('\\') + 1);
+}
+
+std::string SamplePlugin()
+{
+    return ProgramFolder() + "plugins\\AzimuthalEquidistant.dll";
+}
+
+std::string TestPlugin(const std::string& name)
+{
+    return ProgramFolder() + "test-plugins\\projection_" + name + ".dll";
 }
 
 constexpr const char* kBuiltIn = "0  Equidistant cylindrical (cylindrical): True-scale latitude 0\n"
@@ -137,4 +147,17 @@ TEST(ProjectionTool, SaysWhichPluginCannotBeUsed)
                   "vorntool proj forward: Projection module " + none + " skipped: it cannot be loaded");
     const ToolRun empty = RunVornTool({"proj", "list", "--plugins", ""});
     EXPECT_EQ(empty.status, 1U);
+}
+
+TEST(ProjectionTool, TakesPluginsThatHaveLittle)
+{
+    // This one lacks nearly everything; it puts its handle, 77, before the longitude.
+    ExpectDone({"proj", "forward", "first", "1", "2", "--plugins", TestPlugin("first")}, "79 1\n");
+    ExpectDone({"proj", "list", "--plugins", TestPlugin("bare")}, std::string(kBuiltIn) + "6  Bare\n");
+    ExpectFailure({"proj", "forward", "6", "1", "2", "--plugins", TestPlugin("bare")}, 1,
+                  "vorntool proj forward: '1 2' is not on the map");
+    ExpectFailure({"proj", "forward", "6", "1", "2", "--center", "1,2", "--plugins", TestPlugin("bare")}, 1,
+                  "vorntool proj forward: the map cannot lie around '1,2'");
+    ExpectFailure({"proj", "forward", "6", "1", "2", "--plugins", TestPlugin("no_create")}, 1,
+                  "vorntool proj forward: the plug-in makes no projection");
 }
