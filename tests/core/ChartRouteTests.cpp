@@ -69,6 +69,16 @@ TEST(ChartRoute, SpacesItsMarksEvenly)
     EXPECT_TRUE(MarksAlong({}, 10).empty());
 }
 
+TEST(ChartRoute, WritesCourseAndLengthOfALeg)
+{
+    // Along the equator a degree is 60.1 miles, along a meridian near it 59.7.
+    EXPECT_EQ(LegText(LatLon(0, 10), LatLon(0, 11)), "090\xB0 60 NM");
+    EXPECT_EQ(LegText(LatLon(0, 10), LatLon(2, 10)), "360\xB0 119 NM");
+    EXPECT_EQ(LegText(LatLon(2, 10), LatLon(0, 10)), "180\xB0 119 NM");
+    EXPECT_EQ(LegText(LatLon(0, 11), LatLon(0, 10)), "270\xB0 60 NM");
+    EXPECT_NEAR(MiddleOf(LatLon(0, 10), LatLon(0, 12)).Lon(), 11, 1e-9);
+}
+
 TEST(ChartRoute, ChoosesMarksThatDoNotCrowd)
 {
     EXPECT_EQ(MarkSpacing(7.2), 5);

@@ -16,6 +16,7 @@ namespace
 constexpr double kGridSpacing = 96;
 constexpr int kMargin = 80; // symbols and labels beyond an edge that may still show
 constexpr double kLabelGap = 2.5;
+constexpr double kLegGap = 7;
 constexpr double kRoseRadius = 46;
 constexpr double kRosesBelow = 1'200'000; // scale
 constexpr double kTrueRunway = 22;        // a runway of this length is drawn to scale
@@ -30,6 +31,9 @@ constexpr int kFieldIds = 100'000;
 constexpr int kParallelIds = 300'000;
 constexpr int kMeridianIds = 500'000;
 
+constexpr int kLegIds = 700'000;
+
+constexpr int kLegPriority = 700;
 constexpr int kGridPriority = 1000;
 constexpr int kRoutePriority = 800;
 
@@ -224,10 +228,27 @@ private:
             if (pixel && m_reach.Contains(*pixel))
                 m_scene.marks.push_back(*pixel);
         }
+        for (std::size_t leg = 1; leg < m_model.route.size(); ++leg)
+            WishForLegLabel(static_cast<int>(leg));
         for (const PixelLine& way : m_scene.way)
             AddLineObstacles(way, Px(4));
         for (const PixelLine& way : m_scene.direct)
             AddLineObstacles(way, Px(2));
+    }
+
+    void WishForLegLabel(int leg)
+    {
+        const LatLon& from = m_model.route[static_cast<std::size_t>(leg) - 1].position;
+        const LatLon& to = m_model.route[static_cast<std::size_t>(leg)].position;
+        const std::optional<PixelPoint> at = WithinReach(MiddleOf(from, to));
+        LabelText text = {{LegText(from, to), TextStyle::Small, {}}};
+        const PixelSize size = m_meter.Measure(text);
+        if (!at || from.Distance(to) * m_view.PixelsPerMile() < 1.5 * size.width)
+            return;
+        std::vector<PixelBox> places = PlacesAround(*at, Px(kLegGap), size.width, size.height);
+        const std::vector<PixelBox> outer = PlacesAround(*at, Px(2.5 * kLegGap), size.width, size.height);
+        places.insert(places.end(), outer.begin(), outer.end());
+        m_wishes.push_back({{kLegIds + leg, kLegPriority, std::move(places)}, std::move(text), Ink::Route, true});
     }
 
     /// Small boxes along a line, near enough to one another that no label fits between two.

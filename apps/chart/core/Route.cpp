@@ -115,6 +115,25 @@ double LengthOf(const std::vector<Waypoint>& route)
     return length;
 }
 
+LatLon MiddleOf(const LatLon& from, const LatLon& to)
+{
+    const GeodesicLeg leg = LegBetween(from, to);
+    return from.EndPoint(leg.direction, leg.distance / 2);
+}
+
+std::string LegText(const LatLon& from, const LatLon& to)
+{
+    const GeodesicLeg rest = LegBetween(MiddleOf(from, to), to);
+    const long course = std::lround(rest.direction) % 360;
+    const std::string digits = std::to_string(course == 0 ? 360 : course);
+    std::string text(3 - digits.size(), '0');
+    text += digits;
+    text += '\xB0';
+    text += ' ';
+    text += std::to_string(std::lround(2 * rest.distance));
+    return text + " NM";
+}
+
 std::vector<LatLon> MarksAlong(const std::vector<Waypoint>& route, double miles)
 {
     std::vector<LatLon> corners;

@@ -23,6 +23,12 @@ std::vector<Waypoint> RouteFrom(const ChartData& data, std::string_view idents);
 /// Length along the geodesics, nautical miles.
 double LengthOf(const std::vector<Waypoint>& route);
 
+/// A leg as the chart writes it: its true course in the middle and its length, "106\xB0 77 NM".
+std::string LegText(const LatLon& from, const LatLon& to);
+
+/// Amid a leg, along its geodesic.
+LatLon MiddleOf(const LatLon& from, const LatLon& to);
+
 /// Positions along a route that are `miles` apart or a little more, evenly from its start to its end; none for a route
 /// shorter than that.
 std::vector<LatLon> MarksAlong(const std::vector<Waypoint>& route, double miles);

@@ -22,6 +22,8 @@ constexpr int kCombo = 200;
 constexpr int kLeastCombo = 60;
 constexpr int kDropped = 220;
 
+constexpr const char* kHint = "Drag to move, wheel to zoom, P: projection, N: night";
+
 struct ButtonText
 {
     UINT command;
@@ -84,6 +86,11 @@ void ChartPage::Paint(CDC& dc, const CRect& area, const Theme& theme) const
     CRect title(places.title);
     const std::string words = m_missing.empty() ? "Chart" : "Missing: " + m_missing;
     dc.DrawText(words.c_str(), -1, &title, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    title.left += dc.GetTextExtent(words.c_str(), static_cast<int>(words.size())).cx + theme.Px(2 * kGap);
+    dc.SelectObject(const_cast<CFont*>(&theme.note));
+    dc.SetTextColor(theme.muted);
+    if (title.Width() > dc.GetTextExtent(kHint, lstrlen(kHint)).cx)
+        dc.DrawText(kHint, -1, &title, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     dc.SelectObject(before);
     CRect frame(places.chart);
     frame.InflateRect(1, 1);
