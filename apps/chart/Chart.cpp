@@ -157,9 +157,9 @@ void Chart::MakeScene(CDC& dc)
     m_memory = m_scene.memory;
 }
 
-void Chart::DrawOn(CDC& dc)
+void Chart::DrawTexts(CDC& dc, Quality quality)
 {
-    PaintLabels(dc, m_scene);
+    PaintLabels(dc, m_scene, quality == Quality::Fast);
     m_panels.Draw(dc, Texts(), m_terrain, m_view);
 }
 
@@ -185,7 +185,7 @@ bool Chart::Compose(Quality quality)
         m_surface.Get().FillSolidRect(&area, ground);
         PaintScene(m_surface.Get(), m_scene, m_terrain, 1);
     }
-    DrawOn(m_surface.Get());
+    DrawTexts(m_surface.Get(), quality);
     return true;
 }
 
@@ -203,7 +203,7 @@ void Chart::DrawDirectly(CDC& dc, int x, int y)
     dc.IntersectClipRect(&area);
     MakeScene(dc);
     PaintScene(dc, m_scene, m_terrain, 1);
-    DrawOn(dc);
+    DrawTexts(dc, Quality::Smooth);
     dc.RestoreDC(saved);
 }
 

@@ -60,7 +60,7 @@ public:
 
 private:
     void MakeScene(CDC& dc);
-    void DrawOn(CDC& dc);
+    void DrawTexts(CDC& dc, Quality quality);
     bool Compose(Quality quality);
     PanelTexts Texts() const;
 

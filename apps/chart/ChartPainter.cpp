@@ -232,12 +232,12 @@ void PaintScene(CDC& dc, const ChartScene& scene, const TerrainColorMap& terrain
     painter.PaintSymbols();
 }
 
-void PaintLabels(CDC& dc, const ChartScene& scene)
+void PaintLabels(CDC& dc, const ChartScene& scene, bool quick)
 {
     TextMeter meter(dc, scene.unit);
     const int mode = dc.SetBkMode(TRANSPARENT);
     for (const SceneLabel& label : scene.labels)
-        DrawLabel(dc, label, meter, scene.unit);
+        DrawLabel(dc, label, meter, scene.unit, quick);
     dc.SetBkMode(mode);
 }
 

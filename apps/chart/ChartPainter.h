@@ -11,7 +11,7 @@ namespace vorn::chart
 /// context stand for one of the scene. The context's own settings are as before afterwards.
 void PaintScene(CDC& dc, const ChartScene& scene, const TerrainColorMap& terrain, int magnified);
 
-/// Draws the scene's labels and Morse idents.
-void PaintLabels(CDC& dc, const ChartScene& scene);
+/// Draws the scene's labels and Morse idents; with thinner halos when it has to be quick.
+void PaintLabels(CDC& dc, const ChartScene& scene, bool quick);
 
 } // namespace vorn::chart

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 namespace vorn::chart
 {
@@ -13,6 +14,9 @@ namespace
 {
 
 constexpr const char* kFace = "Segoe UI";
+using Offsets = std::span<const std::pair<int, int>>;
+constexpr std::array kWholeHalo = {std::pair(-1, 0), std::pair(1, 0), std::pair(0, -1), std::pair(0, 1)};
+constexpr std::array kQuickHalo = {std::pair(-1, -1), std::pair(1, 1)};
 constexpr double kMorseGap = 5; // between a text and its Morse code, pixels at 96 dpi
 
 struct FontFacts
@@ -46,16 +50,17 @@ int LineHeight(TextStyle style, double unit)
     return Rounded(kFonts[static_cast<std::size_t>(style)].height * unit * 1.25);
 }
 
-/// `strength` 2 writes thin letters twice, which makes their soft edges firm before the halo.
-void DrawHaloed(CDC& dc, int x, int y, const std::string& text, COLORREF color, COLORREF halo, int reach, int strength)
+/// The halo, then the letters: thin ones twice, which makes their soft edges firm. `quick` does with half of it.
+void DrawHaloed(CDC& dc, int x, int y, const TextLine& line, COLORREF color, COLORREF halo, int reach, bool quick)
 {
-    const int length = static_cast<int>(text.size());
+    const int length = static_cast<int>(line.text.size());
+    const int turns = quick || line.style == TextStyle::Ident ? 1 : 2;
     dc.SetTextColor(halo);
-    for (const auto& [dx, dy] : {std::pair(-1, 0), std::pair(1, 0), std::pair(0, -1), std::pair(0, 1)})
-        dc.TextOut(x + dx * reach, y + dy * reach, text.c_str(), length);
+    for (const auto& [dx, dy] : quick ? Offsets(kQuickHalo) : Offsets(kWholeHalo))
+        dc.TextOut(x + dx * reach, y + dy * reach, line.text.c_str(), length);
     dc.SetTextColor(color);
-    for (int turn = 0; turn < strength; ++turn)
-        dc.TextOut(x, y, text.c_str(), length);
+    for (int turn = 0; turn < turns; ++turn)
+        dc.TextOut(x, y, line.text.c_str(), length);
 }
 
 } // namespace
@@ -105,7 +110,7 @@ PixelSize TextMeter::Measure(const LabelText& label)
     return {size.width + 2, size.height};
 }
 
-void DrawLabel(CDC& dc, const SceneLabel& label, TextMeter& meter, double unit)
+void DrawLabel(CDC& dc, const SceneLabel& label, TextMeter& meter, double unit, bool quick)
 {
     const COLORREF color = InkColor(label.ink);
     const COLORREF halo = ColorContext::Instance()->GetColor(APPCOLOR_TEXTHALO);
@@ -118,7 +123,7 @@ void DrawLabel(CDC& dc, const SceneLabel& label, TextMeter& meter, double unit)
         const int shift = label.side == TextSide::Left ? 1 : label.side == TextSide::Right ? room - 1 : room / 2;
         const int x = label.box.left + shift;
         const HGDIOBJ before = SelectObject(&dc, FontOf(line.style, unit));
-        DrawHaloed(dc, x, y, line.text, color, halo, reach, line.style == TextStyle::Ident ? 1 : 2);
+        DrawHaloed(dc, x, y, line, color, halo, reach, quick);
         SelectObject(&dc, before);
         if (!line.morse.empty())
         {

@@ -32,7 +32,7 @@ private:
     double m_unit;
 };
 
-/// Draws a label into its box, with a halo in the ground's colour around its letters.
-void DrawLabel(CDC& dc, const SceneLabel& label, TextMeter& meter, double unit);
+/// Draws a label into its box, with a halo around its letters; a thinner one when it has to be quick.
+void DrawLabel(CDC& dc, const SceneLabel& label, TextMeter& meter, double unit, bool quick);
 
 } // namespace vorn::chart

@@ -1,5 +1,6 @@
 #include "apps/chart/core/ChartScene.h"
 #include "apps/chart/core/ElevationBands.h"
+#include "apps/chart/core/Thinning.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,8 +12,10 @@ namespace vorn::chart
 namespace
 {
 
-constexpr double kGridStep = 0.25; // degrees between the heights
-constexpr double kSheetStep = 1;   // degrees between the points of the sheet's outline
+constexpr double kGridStep = 0.25;        // degrees between the heights
+constexpr double kBandTolerance = 0.02;   // degrees: as fine as anybody sees
+constexpr double kCoarseTolerance = 0.01; // half a pixel at 1:5,000,000
+constexpr double kSheetStep = 1;          // degrees between the points of the sheet's outline
 
 bool IsEmpty(const Extent& region)
 {
@@ -70,8 +73,20 @@ std::vector<std::vector<std::vector<LatLon>>> BandsOf(const ChartData& data, con
     HeightGrid grid(region, rows, columns);
     grid.Blend(KnownHeights(data.aids, data.aerodromes));
     for (int band = 1; band < kBands; ++band)
+    {
         bands.push_back(grid.OutlinesOf(kBandHeights[band]));
+        for (std::vector<LatLon>& outline : bands.back())
+            outline = Divided(Thinned(outline, kBandTolerance, true), true);
+    }
     return bands;
+}
+
+std::vector<Shore> CoarseOf(std::vector<Shore> shores)
+{
+    for (Shore& shore : shores)
+        shore.points = Thinned(shore.points, kCoarseTolerance, shore.kind != ShoreKind::Border);
+    FinishShores(shores);
+    return shores;
 }
 
 } // namespace
@@ -84,6 +99,7 @@ ChartModel ModelOf(ChartData data, std::string_view route)
     model.region = RegionOf(model.data.shores);
     model.sheet = Outline(model.region);
     model.bands = BandsOf(model.data, model.region);
+    model.coarse = CoarseOf(model.data.shores);
     for (const Aerodrome& aerodrome : model.data.aerodromes)
         model.fields.push_back(ShapeOf(aerodrome, 0));
     return model;

@@ -24,7 +24,10 @@ constexpr double kRunwayHalf = 1.6;
 constexpr int kEdgeInset = 4;
 constexpr double kSmallSymbolsAbove = 4'000'000; // scale
 constexpr double kSmallSymbol = 0.8;
-constexpr double kOnEdge = 1e-6; // degrees
+constexpr double kOnEdge = 1e-6;           // degrees
+constexpr double kCoarseAbove = 4'500'000; // scale
+constexpr double kAside = 0.3;             // degrees beside the view
+constexpr double kLongestJump = 1.5;       // degrees
 
 // Numbers of labels: what they belong to.
 constexpr int kFieldIds = 100'000;
@@ -55,6 +58,41 @@ TextSide SideOf(int candidate)
                                    TextSide::Left, TextSide::Right, TextSide::Left,   TextSide::Right};
     return kSides[static_cast<std::size_t>(candidate % 8)];
 }
+
+/// Leaves out the points of an outline that run along beside the view: a few of them do as well there.
+class Passing
+{
+public:
+    explicit Passing(const Extent& extent) : m_extent(extent), m_whole(extent.east - extent.west > 180)
+    {
+    }
+
+    /// To be asked of all points in turn.
+    bool Needs(const std::vector<LatLon>& points, std::size_t at)
+    {
+        const LatLon& point = points[at];
+        const unsigned here = SidesOf(point);
+        const bool aside = at > 0 && at + 1 < points.size() && (m_before & here & SidesOf(points[at + 1])) != 0;
+        m_before = here;
+        if (aside && !m_whole && std::abs(point.Lat() - m_kept.Lat()) < kLongestJump &&
+            std::abs(point.Lon() - m_kept.Lon()) < kLongestJump)
+            return false;
+        m_kept = point;
+        return true;
+    }
+
+private:
+    unsigned SidesOf(const LatLon& point) const
+    {
+        return (point.Lat() > m_extent.north + kAside ? 1u : 0u) | (point.Lat() < m_extent.south - kAside ? 2u : 0u) |
+               (point.Lon() > m_extent.east + kAside ? 4u : 0u) | (point.Lon() < m_extent.west - kAside ? 8u : 0u);
+    }
+
+    Extent m_extent;
+    bool m_whole;
+    unsigned m_before = 0;
+    LatLon m_kept;
+};
 
 class SceneMaker
 {
@@ -99,9 +137,12 @@ private:
     {
         PixelLine line;
         line.reserve(outline.size());
-        for (const LatLon& position : outline)
+        Passing passing(m_extent);
+        for (std::size_t i = 0; i < outline.size(); ++i)
         {
-            if (const std::optional<PixelPoint> pixel = m_view.ToPixel(position))
+            if (!passing.Needs(outline, i))
+                continue;
+            if (const std::optional<PixelPoint> pixel = m_view.ToPixel(outline[i]))
                 line.push_back(*pixel);
         }
         return ClippedArea(line, m_reach);
@@ -128,9 +169,12 @@ private:
                 lines.push_back(std::move(piece));
             line.clear();
         };
+        Passing passing(m_extent);
         for (std::size_t i = 0; i < points.size() + (closed ? 1 : 0); ++i)
         {
             const LatLon& point = points[i % points.size()];
+            if (i < points.size() && !passing.Needs(points, i))
+                continue;
             if (closed && i > 0 && IsCut(points[i - 1], point))
                 flush();
             if (const std::optional<PixelPoint> pixel = m_view.ToPixel(point))
@@ -161,7 +205,8 @@ private:
                     m_scene.bands.back().push_back(std::move(area));
             }
         }
-        for (const Shore& shore : m_model.data.shores)
+        const bool small = m_view.Scale() > kCoarseAbove;
+        for (const Shore& shore : small ? m_model.coarse : m_model.data.shores)
         {
             if (!MayShow(shore))
                 continue;

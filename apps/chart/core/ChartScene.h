@@ -22,6 +22,7 @@ struct ChartModel
     std::vector<LatLon> sheet;                           ///< outline of what the data covers
     std::vector<std::vector<std::vector<LatLon>>> bands; ///< outlines of each height from the second on
     std::vector<SymbolShape> fields;                     ///< of the aerodromes, north up
+    std::vector<Shore> coarse;                           ///< the shores with fewer points, for small charts
 };
 
 /// Heights in feet at which the bands begin.

@@ -1,16 +1,14 @@
 #include "apps/chart/core/Shores.h"
 
+#include "apps/chart/core/Thinning.h"
+
 #include <algorithm>
-#include <cmath>
-#include <utility>
 
 namespace vorn::chart
 {
 
 namespace
 {
-
-constexpr double kLongestStretch = 0.5; // degrees
 
 std::optional<ShoreKind> KindOf(const std::string& word)
 {
@@ -19,29 +17,6 @@ std::optional<ShoreKind> KindOf(const std::string& word)
     if (word == "water")
         return ShoreKind::Water;
     return word == "border" ? std::optional(ShoreKind::Border) : std::nullopt;
-}
-
-void AddStretch(std::vector<LatLon>& points, const LatLon& from, const LatLon& to)
-{
-    const double lat = to.Lat() - from.Lat();
-    const double lon = to.Lon() - from.Lon();
-    const int steps = static_cast<int>(std::ceil(std::max(std::abs(lat), std::abs(lon)) / kLongestStretch));
-    for (int step = 1; step < steps; ++step)
-        points.emplace_back(from.Lat() + lat * step / steps, from.Lon() + lon * step / steps);
-    points.push_back(to);
-}
-
-std::vector<LatLon> Divided(const Shore& shore)
-{
-    std::vector<LatLon> points = {shore.points.front()};
-    for (std::size_t i = 1; i < shore.points.size(); ++i)
-        AddStretch(points, shore.points[i - 1], shore.points[i]);
-    if (shore.kind != ShoreKind::Border)
-    {
-        AddStretch(points, shore.points.back(), shore.points.front());
-        points.pop_back();
-    }
-    return points;
 }
 
 } // namespace
@@ -67,7 +42,7 @@ void FinishShores(std::vector<Shore>& shores)
 {
     for (Shore& shore : shores)
     {
-        shore.points = Divided(shore);
+        shore.points = Divided(shore.points, shore.kind != ShoreKind::Border);
         for (const LatLon& point : shore.points)
         {
             shore.south = std::min(shore.south, point.Lat());

@@ -45,6 +45,14 @@ PixelLine Circle(PixelPoint middle, double radius)
     return circle;
 }
 
+PixelLine Square(PixelPoint middle, double half)
+{
+    return {{middle.x - half, middle.y - half},
+            {middle.x + half, middle.y - half},
+            {middle.x + half, middle.y + half},
+            {middle.x - half, middle.y + half}};
+}
+
 void AddRing(PixelPoint middle, double radius, double stroke, std::vector<PixelLine>& outlines)
 {
     AddTurned(Circle(middle, radius + stroke / 2), true, outlines);
@@ -104,7 +112,7 @@ void AddOutlines(const SymbolShape& shape, PixelPoint at, double unit, double st
             break;
         case ShapePart::Form::Dots:
             for (const PixelPoint& point : points)
-                AddTurned(Circle(point, part.radius * unit), true, outlines.ink);
+                AddTurned(Square(point, part.radius * unit), true, outlines.ink);
             break;
         }
     }

@@ -65,7 +65,7 @@ void AddTabs(SymbolShape& shape)
 
 ShapePart DotRing(double radius, int dots)
 {
-    ShapePart part{Form::Dots, {}, 0.75};
+    ShapePart part{Form::Dots, {}, 0.65};
     for (int dot = 0; dot < dots; ++dot)
         part.points.push_back(Polar(radius, 360.0 * dot / dots));
     return part;
@@ -74,8 +74,8 @@ ShapePart DotRing(double radius, int dots)
 void AddDotRings(SymbolShape& shape)
 {
     shape.parts.push_back(DotRing(4.5, 10));
-    shape.parts.push_back(DotRing(7, 16));
-    shape.parts.push_back(DotRing(9.5, 22));
+    shape.parts.push_back(DotRing(7, 15));
+    shape.parts.push_back(DotRing(9.5, 20));
 }
 
 /// The shape with its reach measured.

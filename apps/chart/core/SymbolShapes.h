@@ -23,7 +23,7 @@ struct ShapePart
         Window,  ///< closed and filled with the ground's colour
         Ring,    ///< circle
         Disc,    ///< filled circle
-        Dots,    ///< a small dot at each point
+        Dots,    ///< a small square at each point
     };
 
     Form form = Form::Line;
