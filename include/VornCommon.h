@@ -70,4 +70,5 @@
 #include "toolkit/ManagedObjects.h"
 #include "toolkit/ResMgr.h"
 #include "toolkit/WarningDlgWithCheck.h"
+#include "toolkit/layout/LayoutDialog.h"
 #include "toolkit/textlayout/TextLayout.h"

@@ -17,7 +17,7 @@ namespace
 class Region
 {
 public:
-    explicit Region(HRGN region) : m_region(region)
+    explicit Region(const RECT& rect) : m_region(CreateRectRgnIndirect(&rect))
     {
     }
     ~Region()
@@ -31,52 +31,46 @@ public:
     {
         return m_region;
     }
-    void Without(HRGN other)
-    {
-        CombineRgn(m_region, m_region, other, RGN_DIFF);
-    }
 
 private:
     HRGN m_region;
 };
 
-bool IsClass(HWND control, const char* name)
+bool IsNamed(const char* className, const char* name)
 {
-    char own[32] = {};
-    GetClassNameA(control, own, sizeof own);
-    return lstrcmpiA(own, name) == 0;
+    return lstrcmpiA(className, name) == 0;
 }
 
 /// Frames around other controls, and what shows the background through itself.
-bool IsSeenThrough(HWND control)
+bool IsSeenThrough(HWND control, const char* className, LONG style)
 {
-    const LONG style = GetWindowLongA(control, GWL_STYLE);
-    if ((GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_TRANSPARENT) != 0)
-    {
-        return true;
-    }
-    if (IsClass(control, "Button"))
+    const LONG type = style & SS_TYPEMASK;
+    if (IsNamed(className, "Button"))
     {
         return (style & 0xF) == BS_GROUPBOX;
     }
-    const LONG type = style & SS_TYPEMASK;
-    return IsClass(control, "Static") && (type == SS_ETCHEDFRAME || (type >= SS_BLACKFRAME && type <= SS_WHITEFRAME));
+    if (IsNamed(className, "Static") && (type == SS_ETCHEDFRAME || (type >= SS_BLACKFRAME && type <= SS_WHITEFRAME)))
+    {
+        return true;
+    }
+    return (GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_TRANSPARENT) != 0;
 }
 
-/// Body and tabs of a tab control; the rest of the row of tabs belongs to the background. Its tabs stand at the top.
-HRGN TabRegion(HWND tab, const RECT& bounds)
+/// Body and tabs of a tab control whose tabs stand at the top in one row; the rest of the row belongs to the
+/// background.
+/// @return null for any other
+HRGN TabRegion(HWND tab, const RECT& bounds, LONG style)
 {
     const int count = static_cast<int>(SendMessageA(tab, TCM_GETITEMCOUNT, 0, 0));
-    const LONG otherSides = GetWindowLongA(tab, GWL_STYLE) & (TCS_BOTTOM | TCS_VERTICAL | TCS_MULTILINE);
     RECT first{};
     RECT last{};
-    if (count == 0 || otherSides != 0 || !SendMessageA(tab, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&first)) ||
+    if (count == 0 || (style & (TCS_BOTTOM | TCS_VERTICAL | TCS_MULTILINE)) != 0 ||
+        !SendMessageA(tab, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&first)) ||
         !SendMessageA(tab, TCM_GETITEMRECT, static_cast<WPARAM>(count - 1), reinterpret_cast<LPARAM>(&last)))
     {
-        return CreateRectRgnIndirect(&bounds);
+        return nullptr;
     }
-    // The selected tab stands out by two pixels on both sides.
-    constexpr LONG kOutstanding = 2;
+    constexpr LONG kOutstanding = 2; // of the selected tab, on both sides
     const LONG body = bounds.top + first.bottom;
     const LONG left = std::max(bounds.left, bounds.left + first.left - kOutstanding);
     const LONG right = std::min(bounds.right, bounds.left + last.right + kOutstanding);
@@ -91,18 +85,60 @@ HRGN TabRegion(HWND tab, const RECT& bounds)
     return CreatePolygonRgn(corners, static_cast<int>(std::size(corners)), WINDING);
 }
 
-void CutOut(Region& region, HWND window, HWND control)
+/// The client area without what the visible controls cover.
+class Background
 {
-    if ((GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) == 0 || IsSeenThrough(control))
+public:
+    explicit Background(HWND window)
+        : m_window(window), m_around(ClientOf(window)), m_covered(RECT{}), m_control(RECT{})
     {
-        return;
+        // One call for the whole list; going from window to window asks the system for each.
+        EnumChildWindows(window, Cover, reinterpret_cast<LPARAM>(this));
+        CombineRgn(m_around.Get(), m_around.Get(), m_covered.Get(), RGN_DIFF);
     }
-    RECT bounds{};
-    GetWindowRect(control, &bounds);
-    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&bounds), 2);
-    const Region part(IsClass(control, WC_TABCONTROLA) ? TabRegion(control, bounds) : CreateRectRgnIndirect(&bounds));
-    region.Without(part.Get());
-}
+    HRGN Get() const
+    {
+        return m_around.Get();
+    }
+    static RECT ClientOf(HWND window)
+    {
+        RECT client{};
+        GetClientRect(window, &client);
+        return client;
+    }
+
+private:
+    static BOOL CALLBACK Cover(HWND control, LPARAM background)
+    {
+        reinterpret_cast<Background*>(background)->Cover(control);
+        return TRUE;
+    }
+    void Cover(HWND control)
+    {
+        const LONG style = GetWindowLongA(control, GWL_STYLE);
+        char className[32] = {};
+        GetClassNameA(control, className, sizeof className);
+        if ((style & WS_VISIBLE) == 0 || GetParent(control) != m_window || IsSeenThrough(control, className, style))
+        {
+            return;
+        }
+        RECT bounds{};
+        GetWindowRect(control, &bounds);
+        MapWindowPoints(nullptr, m_window, reinterpret_cast<POINT*>(&bounds), 2);
+        const HRGN tabs = IsNamed(className, WC_TABCONTROLA) ? TabRegion(control, bounds, style) : nullptr;
+        SetRectRgn(m_control.Get(), bounds.left, bounds.top, bounds.right, bounds.bottom);
+        CombineRgn(m_covered.Get(), m_covered.Get(), tabs != nullptr ? tabs : m_control.Get(), RGN_OR);
+        if (tabs != nullptr)
+        {
+            DeleteObject(tabs);
+        }
+    }
+
+    HWND m_window;
+    Region m_around;
+    Region m_covered;
+    Region m_control; ///< of one control
+};
 
 /// The class's own brush; small numbers stand for the system's colours.
 HBRUSH BackgroundOf(HWND window)
@@ -125,13 +161,8 @@ void LayoutMgr::EraseBkgnd(CDC* pDC)
         return;
     }
     const HWND window = m_pWnd->m_hWnd;
-    RECT client{};
-    GetClientRect(window, &client);
-    Region around(CreateRectRgnIndirect(&client));
-    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
-    {
-        CutOut(around, window, child);
-    }
+    const RECT client = Background::ClientOf(window);
+    const Background around(window);
     const int saved = SaveDC(pDC->m_hDC);
     POINT origin{};
     GetViewportOrgEx(pDC->m_hDC, &origin);

@@ -129,6 +129,36 @@ bool LayoutMgr::GetTrackSizes(CSize& sizeMin, CSize& sizeMax)
     return true;
 }
 
+void LayoutMgr::LimitTrackSizes(MINMAXINFO* pInfo)
+{
+    CSize least;
+    CSize most;
+    CRect client(0, 0, 0, 0);
+    if (HasWindow())
+    {
+        m_pWnd->GetClientRect(&client);
+    }
+    if (pInfo == nullptr || (client.Width() == 0 && client.Height() == 0) || m_pWnd->IsIconic() ||
+        !GetTrackSizes(least, most))
+    {
+        return;
+    }
+    pInfo->ptMinTrackSize = {least.cx, least.cy};
+    if (most.cx != vorn::kUnbounded)
+    {
+        pInfo->ptMaxTrackSize.x = pInfo->ptMaxSize.x = most.cx;
+    }
+    if (most.cy != vorn::kUnbounded)
+    {
+        pInfo->ptMaxTrackSize.y = pInfo->ptMaxSize.y = most.cy;
+    }
+}
+
+void LayoutMgr::ReleaseRoot()
+{
+    m_paneRoot = CPane();
+}
+
 void LayoutMgr::GrowToMinimum()
 {
     CSize least;

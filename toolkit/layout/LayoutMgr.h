@@ -202,6 +202,10 @@ protected:
     /// @return false, with nothing changed, without a root or a window
     bool GetTrackSizes(CSize& sizeMin, CSize& sizeMax);
     bool HasWindow() const;
+    /// Answers WM_GETMINMAXINFO with these sizes; touches nothing without a root and in an iconic or empty window.
+    void LimitTrackSizes(MINMAXINFO* pInfo);
+    /// Lets go of the root.
+    void ReleaseRoot();
 
     CWnd* m_pWnd;
     CPane m_paneRoot;

@@ -1,8 +1,11 @@
 #include "tests/windows/layout/LaidWindow.h"
 
 #include "framework/window/ModuleState.h"
+#include "tests/windows/layout/ProfileApp.h"
 
 #include <commctrl.h>
+
+ProfileApp g_app;
 
 LaidWindow::LaidWindow(int width, int height, DWORD style) : LayoutMgr(this)
 {

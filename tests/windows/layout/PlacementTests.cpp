@@ -1,50 +1,13 @@
 #include "tests/windows/layout/LaidWindow.h"
+#include "tests/windows/layout/ProfileApp.h"
 
 #include <algorithm>
 #include <cstring>
-#include <map>
-#include <string>
 #include <vector>
 
 // Where a window was, from one run to the next.
 namespace
 {
-
-/// An application whose profile is a few lists of bytes.
-class ProfileApp : public CWinApp
-{
-public:
-    ProfileApp() : CWinApp("LayoutTests")
-    {
-    }
-    BOOL GetProfileBinary(LPCTSTR section, LPCTSTR entry, LPBYTE* data, UINT* size) override
-    {
-        ++reads;
-        const auto found = stored.find(Key(section, entry));
-        if (found == stored.end())
-        {
-            return FALSE;
-        }
-        *data = new BYTE[found->second.size()]; // the caller's to free
-        std::memcpy(*data, found->second.data(), found->second.size());
-        *size = static_cast<UINT>(found->second.size());
-        return TRUE;
-    }
-    BOOL WriteProfileBinary(LPCTSTR section, LPCTSTR entry, LPBYTE data, UINT size) override
-    {
-        stored[Key(section, entry)].assign(data, data + size);
-        return TRUE;
-    }
-    static std::string Key(LPCTSTR section, LPCTSTR entry)
-    {
-        return std::string(section) + "/" + entry;
-    }
-
-    std::map<std::string, std::vector<BYTE>> stored;
-    int reads = 0;
-};
-
-ProfileApp g_app;
 
 class LayoutPlacement : public testing::Test
 {
