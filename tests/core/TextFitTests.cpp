@@ -39,11 +39,10 @@ int FontHeight(const std::string& text, const TextSpace& space)
     return Fit(text, space).fontHeight;
 }
 
-bool FitsAt(int height, const std::string& text, const TextSpace& space)
+bool FitsAt(int height, const std::vector<std::string>& lines, const TextSpace& space)
 {
     GridMeasure measure;
     measure.UseFont(height);
-    const std::vector<std::string> lines = vorn::TextLines(text);
     const auto tooWide = [&](const std::string& line)
     {
         return measure.LineWidth(line) > space.maxWidth;
@@ -53,10 +52,11 @@ bool FitsAt(int height, const std::string& text, const TextSpace& space)
            std::none_of(lines.begin(), lines.end(), tooWide);
 }
 
-int LargestFitting(const std::string& text, const TextSpace& space)
+/// Tried one by one; no line is less than half as high as its font.
+int LargestFitting(const std::vector<std::string>& lines, const TextSpace& space)
 {
-    int height = space.maxFontHeight;
-    while (height >= space.minFontHeight && !FitsAt(height, text, space))
+    int height = std::min(space.maxFontHeight, 2 * space.maxHeight + 2);
+    while (height >= space.minFontHeight && !FitsAt(height, lines, space))
     {
         --height;
     }
@@ -230,14 +230,15 @@ TEST(TextFit, WhatIsFoundFitsAndIsTheLargestOrCloseToIt)
     std::mt19937 random(5403);
     int found = 0;
     int largest = 0;
-    for (int turn = 0; turn < 1500; ++turn)
+    for (int turn = 0; turn < 500; ++turn)
     {
         const std::string text = RandomText(random);
         TextSpace space = Space(static_cast<int>(random() % 600), static_cast<int>(random() % 400));
         space.spacing = static_cast<int>(random() % 60) - 20;
         const FittedText fitted = Fit(text, space);
-        const int best = LargestFitting(text, space);
-        ASSERT_EQ(best == 0, !FitsAt(fitted.fontHeight, text, space)) << text;
+        const std::vector<std::string> lines = vorn::TextLines(text);
+        const int best = LargestFitting(lines, space);
+        ASSERT_EQ(best == 0, !FitsAt(fitted.fontHeight, lines, space)) << text;
         if (best != 0)
         {
             ++found;
@@ -250,7 +251,7 @@ TEST(TextFit, WhatIsFoundFitsAndIsTheLargestOrCloseToIt)
     }
     RecordProperty("found", found);
     RecordProperty("largest", largest);
-    EXPECT_GT(found, 600);
+    EXPECT_GT(found, 200);
     EXPECT_GT(largest, found * 9 / 10) << "nearly always the largest";
 }
 

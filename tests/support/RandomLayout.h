@@ -59,7 +59,8 @@ private:
 
     std::string String()
     {
-        const std::size_t length = std::min<std::size_t>(Next(), m_bytes.size());
+        const std::size_t wanted = Next(); // before the size is asked for: it takes a byte away
+        const std::size_t length = std::min(wanted, m_bytes.size());
         std::string text(reinterpret_cast<const char*>(m_bytes.data()), length);
         m_bytes = m_bytes.subspan(length);
         return text;
