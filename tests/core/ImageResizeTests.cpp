@@ -50,6 +50,35 @@ double Expected(const vorn::ImageView& source, int channel, int x, int y, int wi
     return sum;
 }
 
+TEST(BoxResize, WholeNumbersOfPixelsAreAveragedExactly)
+{
+    for (const int depth : {24, 32})
+        for (const auto& [across, down] :
+             {std::pair{2, 1}, {1, 3}, {4, 4}, {3, 5}, {16, 16}, {255, 1}, {17, 15}, {20, 13}})
+        {
+            const PackedImage source = Noise(2 * across, 2 * down, depth);
+            const PackedImage made = BoxResize(source.View(), 2, 2);
+            for (int y = 0; y < 2; ++y)
+                for (int i = 0; i < depth / 8 * 2; ++i)
+                {
+                    const int x = i / (depth / 8);
+                    const int channel = i % (depth / 8);
+                    const double exact = Expected(source.View(), channel, x, y, 2, 2);
+                    ASSERT_NEAR(made.View().Row(y)[i], exact, 0.52) << across << " x " << down;
+                }
+        }
+}
+
+TEST(BoxResize, FlatColoursStayWhateverIsAveraged)
+{
+    for (int pixels = 1; pixels <= 300; ++pixels)
+    {
+        PackedImage source = PackedImage::Make(pixels, 1, 24);
+        std::ranges::fill(source.Block().subspan(source.BitsOffset()), static_cast<unsigned char>(255));
+        ASSERT_EQ(ColorAt(BoxResize(source.View(), 1, 1).View(), 0, 0), (Rgb{255, 255, 255})) << pixels;
+    }
+}
+
 TEST(BoxResize, IsTheAverageByArea)
 {
     for (const int depth : {24, 32})
