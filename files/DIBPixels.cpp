@@ -91,6 +91,11 @@ bool DIB::To24Bit(DIB* target) const
 {
     if (!target)
         return false;
+    // The memory of a picture that was made before serves again: fresh pages cost more than all pixels.
+    const bool isSameOrder =
+        m_info && target->m_info && (m_info->bmiHeader.biHeight < 0) == (target->m_info->bmiHeader.biHeight < 0);
+    if (isSameOrder && !target->m_section && vorn::PutAs24Bit(target->Canvas(), View()))
+        return true;
     vorn::PackedImage converted = vorn::To24Bit(View());
     return !converted.IsEmpty() && target->Adopt(std::move(converted));
 }

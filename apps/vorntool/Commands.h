@@ -21,6 +21,7 @@ const CommandGroup& RegistryCommands();
 const CommandGroup& MorseCommands();
 const CommandGroup& ProjectionCommands();
 const CommandGroup& ChartCommands();
+const CommandGroup& ImageCommands();
 
 /// The whole tool with all its commands.
 Tool VornTool();

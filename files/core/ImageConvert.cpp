@@ -101,17 +101,24 @@ PackedImage To24Bit(const ImageView& source)
     if (!source.hasRows)
         return {};
     PackedImage made = PackedImage::MakeUnfilled(source.width, SignedHeight(source), kTrueColor);
-    if (made.IsEmpty())
-        return made;
+    if (!made.IsEmpty())
+        PutAs24Bit(made.Canvas(), source);
+    return made;
+}
+
+bool PutAs24Bit(const ImageCanvas& target, const ImageView& source)
+{
+    if (!source.hasRows || !target.hasRows || target.depth != kTrueColor || target.width != source.width ||
+        target.height != source.height || target.bits == source.bits)
+        return false;
     const RowConverter converter(source);
-    const ImageCanvas canvas = made.Canvas();
-    const auto used = static_cast<std::size_t>(canvas.width) * 3;
+    const auto used = static_cast<std::size_t>(target.width) * 3;
     for (int y = 0; y < source.height; ++y)
     {
-        converter.Convert(source.Row(y), canvas.Row(y));
-        std::memset(canvas.Row(y) + used, 0, static_cast<std::size_t>(canvas.stride) - used);
+        converter.Convert(source.Row(y), target.Row(y));
+        std::memset(target.Row(y) + used, 0, static_cast<std::size_t>(target.stride) - used);
     }
-    return made;
+    return true;
 }
 
 PackedImage ToPlainChannels(const ImageView& source)

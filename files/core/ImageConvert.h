@@ -12,6 +12,10 @@ PackedImage To24Bit(const ImageView& source);
 /// The same, but 32 bits stay so, with the fourth byte unless masks tell where the channels are.
 PackedImage ToPlainChannels(const ImageView& source);
 
+/// Writes the picture into the rows of an image that has its size in 24 bits, and other pixels than the source. False
+/// for another image, and for a source without rows to see.
+bool PutAs24Bit(const ImageCanvas& target, const ImageView& source);
+
 /// Copies what fits of `source` with its top left pixel at (x, y) of the target. Equal depths copy pixels, even where
 /// the tables differ; others go through the colour, to the nearest entry of a table. Both may be the same pixels.
 /// False for images without rows to see.

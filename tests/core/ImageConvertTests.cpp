@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 
 namespace
@@ -50,6 +51,36 @@ TEST(ImageConvert, To24Bit_KeepsSizeOrderAndColors)
                 EXPECT_EQ(made.BitsOffset(), 40u);
                 ExpectSameColors(source, made);
             }
+}
+
+TEST(ImageConvert, PutAs24Bit_WritesEveryByteOfAnImageOfThisSize)
+{
+    for (const int width : {1, 4, 5, 18})
+        for (const int height : {3, -3})
+        {
+            const PackedImage source = Indexed(width, 3, 8);
+            PackedImage target = PackedImage::Make(width, height, 24);
+            std::fill(target.Block().begin() + 40, target.Block().end(), static_cast<unsigned char>(0x55));
+            ASSERT_TRUE(vorn::PutAs24Bit(target.Canvas(), source.View()));
+            ExpectSameColors(source, target);
+            for (int y = 0; y < 3; ++y)
+                for (int x = width * 3; x < target.View().stride; ++x)
+                    EXPECT_EQ(target.View().Row(y)[x], 0);
+        }
+}
+
+TEST(ImageConvert, PutAs24Bit_RefusesOtherImages)
+{
+    const PackedImage source = Indexed(5, 3, 8);
+    PackedImage none;
+    PackedImage narrow = PackedImage::Make(4, 3, 24);
+    PackedImage low = PackedImage::Make(5, 2, 24);
+    PackedImage deep = PackedImage::Make(5, 3, 32);
+    for (PackedImage* target : {&none, &narrow, &low, &deep})
+        EXPECT_FALSE(vorn::PutAs24Bit(target->Canvas(), source.View()));
+    PackedImage same = PackedImage::Make(5, 3, 24);
+    EXPECT_FALSE(vorn::PutAs24Bit(same.Canvas(), same.View()));
+    EXPECT_FALSE(vorn::PutAs24Bit(same.Canvas(), PackedImage().View()));
 }
 
 TEST(ImageConvert, To24Bit_LeavesThePaddingZero)

@@ -26,6 +26,10 @@ const std::vector<std::vector<std::string>> kCommands = {{"settings", "get"},
                                                          {"paths", "list"},
                                                          {"paths", "get"},
                                                          {"find"},
+                                                         {"image", "info"},
+                                                         {"image", "convert"},
+                                                         {"image", "resize"},
+                                                         {"image", "rotate"},
                                                          {"morse"},
                                                          {"stats"}};
 
