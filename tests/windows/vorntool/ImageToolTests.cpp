@@ -177,7 +177,7 @@ TEST_F(ImageTool, WrongWordsAreWrongUse)
     ExpectFailure({"image", "rotate", m_bmp, "1", png, "--background=green"}, 2,
                   "vorntool image rotate: --background takes six hexadecimal digits, RRGGBB");
     ExpectFailure({"image", "resize", m_bmp}, 2,
-                  "vorntool image resize: SIZE OUT is missing; see 'vorntool image resize --help'");
+                  "vorntool image resize: SIZE is missing; see 'vorntool image resize --help'");
     ExpectFailure({"image", "info", ""}, 2, "vorntool image info: '' cannot be the name of a picture");
 }
 
