@@ -205,6 +205,24 @@ TEST(DibTo24Bit, TargetMayBeTheImage)
     EXPECT_EQ(Colors(image), "gg|gg");
 }
 
+TEST(DibTo24Bit, TargetOfTheSameSizeGivesItsBlock)
+{
+    DIB target(2, 2, 24, 0, 0, nullptr, nullptr);
+    const BITMAPINFO* block = target.BitmapInfo();
+    EXPECT_TRUE(FromLetters("RG|BY", 32).To24Bit(&target));
+    EXPECT_EQ(Colors(target), "RG|BY");
+    EXPECT_EQ(target.BitmapInfo(), block);
+    EXPECT_TRUE(FromLetters("YB|GR", 32, true).To24Bit(&target)) << "in the other order of rows";
+    EXPECT_EQ(Colors(target), "YB|GR");
+    EXPECT_EQ(target.BitmapInfo()->bmiHeader.biHeight, -2);
+    EXPECT_TRUE(FromLetters("YBR|GRB", 32).To24Bit(&target));
+    EXPECT_EQ(Colors(target), "YBR|GRB");
+    DIB section(3, 2, 24, 0, 1, nullptr, nullptr);
+    EXPECT_TRUE(target.To24Bit(&section));
+    EXPECT_EQ(Colors(section), "YBR|GRB");
+    EXPECT_EQ(section.DIBSect(), nullptr);
+}
+
 TEST(DibTo24Bit, WithoutImageOrTargetFails)
 {
     DIB target = FromLetters("R");
