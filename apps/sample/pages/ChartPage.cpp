@@ -97,6 +97,7 @@ void ChartPage::Load()
 std::string ChartPage::TakeOptions(const StartOptions& options)
 {
     m_viewWish = options.view;
+    m_keeps = !options.IsUnattended();
     ViewDefinition view;
     if (!m_viewWish.empty() && !view.Parse(m_viewWish.c_str()))
         return "--view is no text of a view";
@@ -119,7 +120,7 @@ void ChartPage::ShowStored()
 
 void ChartPage::KeepView()
 {
-    if (!m_placed)
+    if (!m_placed || !m_keeps)
         return;
     ViewDefinition view;
     m_chart.Store(view);

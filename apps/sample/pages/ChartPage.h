@@ -59,6 +59,7 @@ private:
     std::string m_missing;              // tables that could not be opened
     std::string m_viewWish;             // of the command line
     bool m_loaded = false;
+    bool m_keeps = true;   // a user leaves the view, which comes back
     bool m_placed = false; // the chart has a size and a view
     CWnd* m_view = nullptr;
     ChartWnd m_window;

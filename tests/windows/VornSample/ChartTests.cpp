@@ -335,6 +335,10 @@ TEST_F(SampleChart, TellsItsViewInTheSummary)
     EXPECT_NE(text.find("  Aids        156\n"), std::string::npos) << text;
     EXPECT_NE(text.find("  Projection  Lambert conformal conic\n"), std::string::npos) << text;
     EXPECT_NE(text.find("|180|0|47.5|-121|\n"), std::string::npos) << text;
+    // Nobody has left this view: the stored one stays.
+    HKEY key = nullptr;
+    EXPECT_EQ(RegOpenKeyExA(HKEY_CURRENT_USER, (std::string(kSettings) + "\\Views").c_str(), 0, KEY_READ, &key),
+              ERROR_FILE_NOT_FOUND);
     EXPECT_EQ(Run("--page Chart --summary --view nonsense"), 1u);
     EXPECT_EQ(m_folder.Read("output.txt"), "VornSample: --view is no text of a view\n");
 }
