@@ -201,7 +201,7 @@ int XYtoLL(VornProjection projection, double x, double y, double* lat, double* l
 
 VornProjection Clone(VornProjection projection)
 {
-    return reinterpret_cast<VornProjection>(new (std::nothrow) State(StateOf(projection)));
+    return reinterpret_cast<VornProjection>(new (std::nothrow) State(StateOf(projection))); // the same
 }
 
 void MinMaxMapXY(VornProjection projection, double* minX, double* minY, double* maxX, double* maxY)

@@ -9,6 +9,8 @@ namespace LayoutManagement
 namespace
 {
 
+// The handles own what the factories make: the last of those that share a pane deletes it.
+
 /// What two spacings of 5 add to a gap.
 constexpr int kTwoSpacings = 10;
 

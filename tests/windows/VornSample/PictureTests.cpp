@@ -2,7 +2,7 @@
 #include "tests/support/PumpUntil.h"
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
-#include "tests/windows/VornSample/SampleProcess.h"
+#include "tests/windows/VornSample/RunningSample.h"
 
 #include <windows.h>
 
@@ -24,8 +24,7 @@ namespace
 
 constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
 
-// The sample's public numbers: of its view, of the picture page's controls, of its commands and of its dialog's.
-constexpr int kView = 0xE900;
+// The sample's public numbers: of the picture page's controls, of its commands and of its dialog's.
 constexpr int kPane = 2400;
 constexpr int kNotice = 2401;
 constexpr int kSave = 33401;
@@ -53,7 +52,7 @@ std::string ThreeImages()
            image(4, 1, "\0\0\xFF", "\x04\x41\x01", 3) + ';';
 }
 
-class SamplePictures : public testing::Test
+class SamplePictures : public vorn::test::RunningSample
 {
 protected:
     SamplePictures()
@@ -70,12 +69,6 @@ protected:
         m_alpha = m_folder.File("alpha.png");
         alpha.WritePNG(m_alpha.c_str());
         m_gif = m_folder.Write("three.gif", ThreeImages());
-    }
-
-    DWORD Run(const std::string& arguments)
-    {
-        const SampleProcess sample(arguments, m_folder.File("output.txt"));
-        return sample.ExitCode();
     }
 
     bool HasLine(const std::string& start, const std::string& end) const
@@ -106,36 +99,12 @@ protected:
 
     void Start(const std::string& picture)
     {
-        m_sample = std::make_unique<SampleProcess>("--picture \"" + picture + '"', m_folder.File("output.txt"));
-        m_window = m_sample->MainWindow();
-        ASSERT_NE(m_window, nullptr);
-        m_view = GetDlgItem(m_window, kView);
+        ASSERT_NO_FATAL_FAILURE(Open("--picture \"" + picture + '"'));
         ASSERT_TRUE(PumpUntil(
             [&]
             {
                 return IsWindowVisible(Control(kPane)) != FALSE;
             }));
-    }
-
-    void End()
-    {
-        PostMessageA(m_window, WM_CLOSE, 0, 0);
-        EXPECT_EQ(m_sample->ExitCode(), 0u);
-        m_sample.reset();
-    }
-
-    HWND Control(int id) const
-    {
-        return GetDlgItem(m_view, id);
-    }
-
-    static std::string TextOf(HWND window)
-    {
-        std::string text(1024, '\0');
-        const LRESULT length =
-            SendMessageA(window, WM_GETTEXT, static_cast<WPARAM>(text.size()), reinterpret_cast<LPARAM>(text.data()));
-        text.resize(static_cast<std::size_t>(length));
-        return text;
     }
 
     static void Click(HWND dialog, int button)
@@ -166,14 +135,10 @@ protected:
             });
     }
 
-    ScratchFolder m_folder;
     ScratchKey m_settings{HKEY_CURRENT_USER, kSettings};
     std::string m_ramp;
     std::string m_alpha;
     std::string m_gif;
-    std::unique_ptr<SampleProcess> m_sample;
-    HWND m_window = nullptr;
-    HWND m_view = nullptr;
 };
 
 } // namespace

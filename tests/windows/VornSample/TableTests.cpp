@@ -1,7 +1,7 @@
 #include "tests/support/PumpUntil.h"
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
-#include "tests/windows/VornSample/SampleProcess.h"
+#include "tests/windows/VornSample/RunningSample.h"
 
 #include <windows.h>
 
@@ -22,8 +22,7 @@ namespace
 
 constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
 
-// The sample's public numbers: of its view, of the table page's controls, of its commands and of its dialog's controls.
-constexpr int kView = 0xE900;
+// The sample's public numbers: of the table page's controls, of its commands and of its dialog's controls.
 constexpr int kList = 2200;
 constexpr int kField = 2201;
 constexpr int kValue = 2202;
@@ -78,7 +77,7 @@ std::string TableHead(const std::vector<Field>& fields, std::uint32_t records)
 constexpr std::size_t kHead = 32 + 3 * 32 + 1;
 constexpr std::size_t kRecord = 1 + 4 + 10 + 10;
 
-class SampleTables : public testing::Test
+class SampleTables : public vorn::test::RunningSample
 {
 protected:
     SampleTables()
@@ -97,12 +96,6 @@ protected:
                                        Padded(std::string("\xFF\xFF\x08\0\x14\0\0\0", 8) + "On the field", 512, '\0'));
     }
 
-    DWORD Run(const std::string& arguments)
-    {
-        const SampleProcess sample(arguments, m_folder.File("output.txt"));
-        return sample.ExitCode();
-    }
-
     std::string Output() const
     {
         return m_folder.Read("output.txt");
@@ -111,37 +104,13 @@ protected:
     // Starts the sample with a table and waits until its list is there.
     void Start(const std::string& table, int rows)
     {
-        m_sample = std::make_unique<SampleProcess>("--table \"" + table + '"', m_folder.File("output.txt"));
-        m_window = m_sample->MainWindow();
-        ASSERT_NE(m_window, nullptr);
-        m_view = GetDlgItem(m_window, kView);
+        ASSERT_NO_FATAL_FAILURE(Open("--table \"" + table + '"'));
         ASSERT_TRUE(PumpUntil(
             [&]
             {
                 return IsWindowVisible(Control(kList)) && Rows() == rows;
             }))
             << Notice();
-    }
-
-    void End()
-    {
-        PostMessageA(m_window, WM_CLOSE, 0, 0);
-        EXPECT_EQ(m_sample->ExitCode(), 0u);
-        m_sample.reset();
-    }
-
-    HWND Control(int id) const
-    {
-        return GetDlgItem(m_view, id);
-    }
-
-    static std::string TextOf(HWND window)
-    {
-        std::string text(4096, '\0');
-        const LRESULT length =
-            SendMessageA(window, WM_GETTEXT, static_cast<WPARAM>(text.size()), reinterpret_cast<LPARAM>(text.data()));
-        text.resize(static_cast<std::size_t>(length));
-        return text;
     }
 
     static void SetText(HWND window, const char* text)
@@ -249,12 +218,8 @@ protected:
         return times[kTurns / 2];
     }
 
-    ScratchFolder m_folder;
     ScratchKey m_settings{HKEY_CURRENT_USER, kSettings};
     std::string m_table;
-    std::unique_ptr<SampleProcess> m_sample;
-    HWND m_window = nullptr;
-    HWND m_view = nullptr;
 };
 
 } // namespace
