@@ -201,7 +201,8 @@ int XYtoLL(VornProjection projection, double x, double y, double* lat, double* l
 
 VornProjection Clone(VornProjection projection)
 {
-    return reinterpret_cast<VornProjection>(new (std::nothrow) State(StateOf(projection))); // the same
+    // DestroyProjection deletes it.
+    return reinterpret_cast<VornProjection>(new (std::nothrow) State(StateOf(projection)));
 }
 
 void MinMaxMapXY(VornProjection projection, double* minX, double* minY, double* maxX, double* maxY)
