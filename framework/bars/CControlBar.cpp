@@ -1,4 +1,5 @@
 #include "framework/bars/CControlBar.h"
+#include "framework/bars/CDockBar.h"
 #include "framework/frames/CFrameWnd.h"
 #include "framework/gdi/CPaintDC.h"
 #include "framework/window/ModuleState.h"
@@ -9,6 +10,11 @@ BEGIN_MESSAGE_MAP(CControlBar, CWnd)
 ON_WM_CREATE()
 ON_WM_DESTROY()
 ON_WM_PAINT()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_NCCALCSIZE()
+ON_WM_NCHITTEST()
+ON_WM_NCPAINT()
 ON_WM_CTLCOLOR()
 ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
 ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
@@ -21,6 +27,8 @@ CControlBar::~CControlBar()
 {
     m_bAutoDelete = FALSE; // the end of the window must not end the object once more
     CControlBar::DestroyWindow();
+    if (m_pDockBar)
+        m_pDockBar->RemoveControlBar(this);
     if (m_pDockSite)
         m_pDockSite->RemoveControlBar(this);
 }
@@ -64,21 +72,6 @@ void CControlBar::SetBorders(LPCRECT borders)
         SetBorders(borders->left, borders->top, borders->right, borders->bottom);
 }
 
-void CControlBar::EnableDocking(DWORD dockStyle)
-{
-    m_dwDockStyle = dockStyle & (CBRS_ALIGN_ANY | CBRS_FLOAT_MULTI);
-}
-
-CFrameWnd* CControlBar::GetDockingFrame() const
-{
-    return m_pDockSite ? m_pDockSite : GetParentFrame();
-}
-
-BOOL CControlBar::IsFloating() const
-{
-    return FALSE;
-}
-
 void CControlBar::OnBarStyleChange(DWORD, DWORD)
 {
 }
@@ -86,7 +79,7 @@ void CControlBar::OnBarStyleChange(DWORD, DWORD)
 BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs)
 {
     if (!cs.lpszClass)
-        cs.lpszClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW),
+        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
                                            reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1)));
     if (!CWnd::PreCreateWindow(cs))
         return FALSE;
@@ -105,11 +98,16 @@ int CControlBar::OnCreate(LPCREATESTRUCT create)
         m_pDockSite = static_cast<CFrameWnd*>(parent);
         m_pDockSite->AddControlBar(this);
     }
+    // Commands and notifications go there still when a dock has become the parent.
+    if (!m_hWndOwner)
+        SetOwner(parent);
     return 0;
 }
 
 void CControlBar::OnDestroy()
 {
+    if (m_pDockBar)
+        m_pDockBar->RemoveControlBar(this);
     if (m_pDockSite)
         m_pDockSite->RemoveControlBar(this);
     m_pDockSite = nullptr;
@@ -161,7 +159,7 @@ LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM)
     if (!(GetStyle() & WS_VISIBLE))
         return 0;
     CWnd* owner = GetOwner();
-    auto* target = owner && owner->IsFrameWnd() ? static_cast<CFrameWnd*>(owner) : GetParentFrame();
+    auto* target = owner && owner->IsFrameWnd() ? static_cast<CFrameWnd*>(owner) : GetDockingFrame();
     if (target)
         OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
     return 0;

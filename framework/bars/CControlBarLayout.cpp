@@ -1,5 +1,4 @@
 #include "framework/bars/CControlBar.h"
-#include "framework/frames/CDockState.h"
 #include "framework/frames/CFrameWnd.h"
 #include "framework/gdi/CBrush.h"
 #include "framework/gdi/CPaintDC.h"
@@ -94,7 +93,8 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam)
         const BOOL horizontal = (m_dwStyle & CBRS_ORIENT_HORZ) != 0;
         const CSize available(std::max(0L, layout.rect.right - layout.rect.left),
                               std::max(0L, layout.rect.bottom - layout.rect.top));
-        CSize size = CalcFixedLayout(layout.bStretch, horizontal);
+        const DWORD mode = (layout.bStretch ? LM_STRETCH : 0U) | (horizontal ? LM_HORZ : 0U);
+        CSize size = CalcDynamicLayout(-1, mode);
         size.cx = std::min(size.cx, available.cx);
         size.cy = std::min(size.cy, available.cy);
         AddToTotal(layout.sizeTotal, horizontal, size);
@@ -102,24 +102,6 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam)
     }
     PlaceWindow(layout, m_hWnd, place, showFlags);
     return 0;
-}
-
-void CControlBar::GetBarInfo(CControlBarInfo* info) const
-{
-    info->m_nBarID = static_cast<UINT>(GetDlgCtrlID());
-    info->m_bVisible = IsVisible();
-    info->m_dwAlign = m_dwStyle & CBRS_ALIGN_ANY;
-    info->m_bFloating = IsFloating();
-    GetWindowRect(&info->m_rect);
-    ::MapWindowPoints(nullptr, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&info->m_rect), 2);
-}
-
-void CControlBar::SetBarInfo(const CControlBarInfo* info, CFrameWnd* frame)
-{
-    // Only to a side where docking was allowed: a bar nailed to its side stays there.
-    if (info->m_dwAlign & m_dwDockStyle & CBRS_ALIGN_ANY)
-        SetBarStyle((m_dwStyle & ~CBRS_ALIGN_ANY) | (info->m_dwAlign & CBRS_ALIGN_ANY));
-    frame->ShowControlBar(this, info->m_bVisible, TRUE);
 }
 
 void CControlBar::OnPaint()

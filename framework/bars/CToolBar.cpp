@@ -169,5 +169,6 @@ BOOL CToolBar::SetButtons(const UINT* ids, int count)
             return FALSE;
     }
     m_nCount = count;
+    WrapButtons();
     return TRUE;
 }

@@ -5,9 +5,9 @@
 #include "framework/bars/CControlBar.h"
 #include "framework/gdi/CBitmap.h"
 
-/// A toolbar with one row of buttons, each with the id of a command. The pictures are strips in one bitmap, in the
-/// order of the buttons (separators have none). Buttons are switched by command-UI updates; a button whose command
-/// nobody handles is disabled.
+/// A toolbar with one row of buttons (one column at the left and right sides), each with the id of a command. The
+/// pictures are strips in one bitmap, in the order of the buttons (separators have none). Buttons are switched by
+/// command-UI updates; a button whose command nobody handles is disabled.
 class HOSTFRAMEWORK_API CToolBar : public CControlBar
 {
     DECLARE_DYNAMIC(CToolBar)
@@ -56,6 +56,11 @@ protected:
     bool GetButton(int index, TBBUTTON& button) const;
     void ReplaceButton(int index, const TBBUTTON& button);
     void OnBarStyleChange(DWORD oldStyle, DWORD newStyle) override;
+    bool IsFreeArea(CPoint point) const override;
+    /// Room of the buttons in one row or one column.
+    CSize ButtonsSize(bool horizontal) const;
+    /// One below the other while the bar stands, else side by side.
+    void WrapButtons();
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
 

@@ -163,24 +163,6 @@ void CToolBar::GetButtonText(int index, CString& text) const
     text = GetButtonText(index);
 }
 
-CSize CToolBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)
-{
-    LONG right = 0;
-    LONG bottom = 0;
-    for (int i = 0; i < m_nCount; ++i)
-    {
-        CRect item;
-        GetItemRect(i, &item);
-        right = std::max(right, item.right);
-        bottom = std::max(bottom, item.bottom);
-    }
-    const CSize size = CControlBar::CalcFixedLayout(stretch, horizontal);
-    const int width = static_cast<int>(right) + m_cxLeftBorder + m_cxRightBorder;
-    const int height = static_cast<int>(bottom) + m_cyTopBorder + m_cyBottomBorder;
-    return CSize(std::max(static_cast<int>(size.cx), width),
-                 std::max(static_cast<int>(size.cy), m_height ? m_height : height));
-}
-
 void CToolBar::OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler)
 {
     ToolCmdUI state;
@@ -197,12 +179,6 @@ void CToolBar::OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler)
             state.DoUpdate(target, disableIfNoHandler);
     }
     UpdateDialogControls(target, disableIfNoHandler);
-}
-
-void CToolBar::OnBarStyleChange(DWORD, DWORD newStyle)
-{
-    if (m_hWnd)
-        ModifyStyle(TBSTYLE_TOOLTIPS, newStyle & CBRS_TOOLTIPS ? TBSTYLE_TOOLTIPS : 0U);
 }
 
 void CToolBar::OnPaint()

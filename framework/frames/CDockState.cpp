@@ -19,19 +19,33 @@ CString BarEntry(int index)
 CString CControlBarInfo::ToText() const
 {
     CString text;
-    text.Format("%u,%d,%d,%lu,%ld,%ld,%ld,%ld", m_nBarID, m_bVisible ? 1 : 0, m_bFloating ? 1 : 0, m_dwAlign,
-                m_rect.left, m_rect.top, m_rect.right, m_rect.bottom);
+    text.Format("%u,%d,%d,%lu,%ld,%ld,%ld,%ld,%u,%d,%d,%d,%d,%ld,%ld", m_nBarID, m_bVisible ? 1 : 0,
+                m_bFloating ? 1 : 0, m_dwAlign, m_rect.left, m_rect.top, m_rect.right, m_rect.bottom, m_dock.dockBar,
+                m_dock.row, m_dock.position, m_dock.alone ? 1 : 0, m_bHasFloated ? 1 : 0, m_ptFloat.x, m_ptFloat.y);
     return text;
 }
 
 bool CControlBarInfo::FromText(LPCSTR text)
 {
     CControlBarInfo read;
-    constexpr int kFields = 8;
-    if (!text || std::sscanf(text, "%u,%d,%d,%lu,%ld,%ld,%ld,%ld", &read.m_nBarID, &read.m_bVisible, &read.m_bFloating,
-                             &read.m_dwAlign, &read.m_rect.left, &read.m_rect.top, &read.m_rect.right,
-                             &read.m_rect.bottom) != kFields)
+    constexpr int kFirstFields = 8;
+    constexpr int kAllFields = 15;
+    int alone = 1;
+    const int fields =
+        text ? std::sscanf(text, "%u,%d,%d,%lu,%ld,%ld,%ld,%ld,%u,%d,%d,%d,%d,%ld,%ld", &read.m_nBarID,
+                           &read.m_bVisible, &read.m_bFloating, &read.m_dwAlign, &read.m_rect.left, &read.m_rect.top,
+                           &read.m_rect.right, &read.m_rect.bottom, &read.m_dock.dockBar, &read.m_dock.row,
+                           &read.m_dock.position, &alone, &read.m_bHasFloated, &read.m_ptFloat.x, &read.m_ptFloat.y)
+             : 0;
+    if (fields < kFirstFields)
         return false;
+    read.m_dock.alone = alone != 0;
+    if (fields < kAllFields)
+    {
+        read.m_dock = {};
+        read.m_bHasFloated = FALSE;
+        read.m_ptFloat = CPoint(0, 0);
+    }
     *this = read;
     return true;
 }

@@ -2,6 +2,7 @@
 
 /// @file
 /// Saved state of a frame's control bars.
+#include "framework/bars/DockPlace.h"
 #include "framework/core/CString.h"
 #include "framework/core/Export.h"
 #include "framework/core/Geometry.h"
@@ -17,10 +18,15 @@ public:
     BOOL m_bFloating = FALSE;
     DWORD m_dwAlign = 0;      ///< side: one of CBRS_ALIGN_
     CRect m_rect{0, 0, 0, 0}; ///< place: frame's client coordinates, of a floating bar the screen's
+    vorn::DockPlace m_dock;   ///< where it is or was docked last
+    BOOL m_bHasFloated = FALSE;
+    CPoint m_ptFloat{0, 0}; ///< where it floats or floated last, on the screen
 
-    /// One line: id, visible, floating, side, left, top, right, bottom; decimal numbers separated by commas.
+    /// One line: id, visible, floating, side, left, top, right, bottom, and then dock, row, position, alone in the row,
+    /// has floated, x, y; decimal numbers separated by commas.
     CString ToText() const;
-    /// @return whether @p text holds all eight numbers; nothing changes if not
+    /// @return whether @p text holds the first eight numbers at least; nothing changes if not. The other seven count
+    /// when all are there.
     bool FromText(LPCSTR text);
 };
 

@@ -7,6 +7,8 @@
 #include <vector>
 
 class CControlBar;
+class CControlBarInfo;
+class CDockBar;
 class CDockState;
 class CDocument;
 class CView;
@@ -86,12 +88,24 @@ public:
     CControlBar* GetControlBar(UINT id);
     /// @param delay wait for the next layout, which is asked for
     void ShowControlBar(CControlBar* bar, BOOL show, BOOL delay);
+    /// Opens sides (CBRS_ALIGN_ bits) to bars that may be docked there. Bars that exist then lie outside the docks.
     void EnableDocking(DWORD dockStyle);
+    /// Docks a bar. Nothing happens when bar and frame have no side in common.
+    /// @param dockBarId one of AFX_IDW_DOCKBAR_; 0: the side that the bar's style names, else the first possible one
+    /// @param rect where, on the screen: in the row that it lies on, or a new one; null: a new row behind the others
+    void DockControlBar(CControlBar* bar, UINT dockBarId = 0, LPCRECT rect = nullptr);
+    /// Lets a bar float. @param point its upper left corner on the screen
+    /// @param style CBRS_ALIGN_TOP or _BOTTOM: it lies; _LEFT or _RIGHT: it stands
+    /// @return the frame in which it floats, which ends when the bar leaves it; null on failure
+    CFrameWnd* FloatControlBar(CControlBar* bar, CPoint point, DWORD style = 0x2000);
+    /// Docks a bar where it was docked last, or like DockControlBar() when it never was.
+    void RestoreDockedBar(CControlBar* bar);
     /// Lays bars and view out. @param notify bars and view may have been changed by the layout itself
     virtual void RecalcLayout(BOOL notify = TRUE);
     /// Asks for a layout at idle time.
     void DelayRecalcLayout(BOOL notify = TRUE);
-    /// Shows or hides the bars of this frame as the section tells. Bars not named there stay.
+    /// Docks, floats, shows and hides the bars of this frame as the section tells. Bars not named there stay. What
+    /// would float out of the user's reach, as after a change of the screen, is brought back.
     void LoadBarState(LPCTSTR profileName);
     void SaveBarState(LPCTSTR profileName) const;
     void GetDockState(CDockState& state) const;
@@ -136,6 +150,8 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
+    afx_msg void OnShowWindow(BOOL show, UINT status);
+    afx_msg void OnEnable(BOOL enable);
     afx_msg void OnInitMenuPopup(CMenu* menu, UINT index, BOOL systemMenu);
     afx_msg void OnMenuSelect(UINT id, UINT flags, HMENU menu);
     afx_msg BOOL OnQueryEndSession();
@@ -164,6 +180,12 @@ protected:
 
 private:
     std::vector<CControlBar*> AllBars() const;
+    CDockBar* DockFor(const CControlBar& bar, UINT dockBarId);
+    void TakeControlBar(CControlBar* bar);
+    void UpdateFloatingFrames();
+    void FitToBars();
+    void RestoreDocked(const CDockState& state);
+    void RestoreFloating(const CControlBarInfo& info, CControlBar& bar);
     void UpdateMenuItems(CMenu& menu);
     CMenu* ParentOf(const CMenu& menu) const;
     bool IsMainWindow() const;

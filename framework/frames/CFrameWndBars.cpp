@@ -40,33 +40,30 @@ CControlBar* CFrameWnd::GetControlBar(UINT id)
     return nullptr;
 }
 
-void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL delay)
-{
-    bar->DelayShow(show);
-    if (delay)
-    {
-        DelayRecalcLayout(FALSE);
-        return;
-    }
-    const UINT flags = bar->RecalcDelayShow(nullptr);
-    if (flags)
-        bar->SetWindowPos(nullptr, 0, 0, 0, 0, flags | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    RecalcLayout(FALSE);
-}
-
-void CFrameWnd::EnableDocking(DWORD)
-{
-    // Bars are laid out along the edges; each side is open to the bars that may go there.
-}
-
 void CFrameWnd::RecalcLayout(BOOL)
 {
     if (m_layingOut || !m_hWnd)
         return;
     m_layingOut = true;
     m_nIdleFlags &= ~static_cast<UINT>(idleLayout | idleNotify);
-    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder);
+    if (GetStyle() & FWS_SNAPTOBARS)
+        FitToBars();
+    else
+        RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder);
     m_layingOut = false;
+}
+
+/// Makes the frame as large as its bars want to be.
+void CFrameWnd::FitToBars()
+{
+    constexpr int kNoLimit = 32767;
+    CRect rect(0, 0, kNoLimit, kNoLimit);
+    const CRect all = rect;
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposQuery, &rect, &all, FALSE);
+    const CRect client = rect;
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder, &client, TRUE);
+    CalcWindowRect(&rect);
+    SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CFrameWnd::DelayRecalcLayout(BOOL notify)
@@ -95,19 +92,13 @@ void CFrameWnd::GetDockState(CDockState& state) const
     state.Clear();
     for (const CControlBar* bar : AllBars())
     {
+        if (bar->IsDockBar())
+            continue;
         CControlBarInfo info;
         bar->GetBarInfo(&info);
         state.m_bars.push_back(info);
     }
     state.SetScreenSize(CSize(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)));
-}
-
-void CFrameWnd::SetDockState(const CDockState& state)
-{
-    for (const CControlBarInfo& info : state.m_bars)
-        if (CControlBar* bar = GetControlBar(info.m_nBarID))
-            bar->SetBarInfo(&info, this);
-    RecalcLayout();
 }
 
 void CFrameWnd::LoadBarState(LPCTSTR profileName)

@@ -141,7 +141,10 @@ LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM)
     if (work & idleTitle)
         OnUpdateFrameTitle(TRUE);
     if (work & idleLayout)
+    {
         RecalcLayout((work & idleNotify) != 0);
+        UpdateFloatingFrames(); // those that are hidden are not visited themselves
+    }
     if (work)
         UpdateWindow();
     return 0;

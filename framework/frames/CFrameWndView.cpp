@@ -1,6 +1,7 @@
 #include "framework/frames/CDocument.h"
 #include "framework/frames/CFrameWnd.h"
 #include "framework/frames/CView.h"
+#include "framework/frames/SyncedCaptions.h"
 #include "framework/include/afxres.h"
 #include "framework/window/CWinApp.h"
 
@@ -86,6 +87,7 @@ void CFrameWnd::OnSetFocus(CWnd* former)
 void CFrameWnd::OnActivate(UINT state, CWnd* other, BOOL minimized)
 {
     CWnd::OnActivate(state, other, minimized);
+    vorn::SyncCaptions(m_hWnd, state != WA_INACTIVE, other->GetSafeHwnd());
     CView* view = m_pViewActive;
     if (!view)
         return;
