@@ -28,6 +28,8 @@ static_assert(offsetof(vorn::LateFunction, target) == 0);
             ".text\n")
 
 LATE_FUNCTION("comctl32.dll", CreateMappedBitmap, 20);
+LATE_FUNCTION("comctl32.dll", CreatePropertySheetPageA, 4);
+LATE_FUNCTION("comctl32.dll", DestroyPropertySheetPage, 4);
 LATE_FUNCTION("comctl32.dll", ImageList_Add, 12);
 LATE_FUNCTION("comctl32.dll", ImageList_AddMasked, 12);
 LATE_FUNCTION("comctl32.dll", ImageList_Create, 20);
@@ -46,6 +48,7 @@ LATE_FUNCTION("comctl32.dll", ImageList_SetBkColor, 8);
 LATE_FUNCTION("comctl32.dll", ImageList_SetImageCount, 8);
 LATE_FUNCTION("comctl32.dll", ImageList_SetOverlayImage, 12);
 LATE_FUNCTION("comctl32.dll", InitCommonControlsEx, 4);
+LATE_FUNCTION("comctl32.dll", PropertySheetA, 4);
 
 LATE_FUNCTION("comdlg32.dll", ChooseColorA, 4);
 LATE_FUNCTION("comdlg32.dll", ChooseFontA, 4);

@@ -1,0 +1,10 @@
+#pragma once
+
+#define IDD_PAGE_ONE 400
+#define IDD_PAGE_TWO 401
+#define IDD_PAGE_THREE 402
+#define IDS_CAPTION 500
+#define IDS_SHEET 501
+#define IDS_HEADER 502
+#define IDC_PAGE_EDIT 1001
+#define IDC_PAGE_BUTTON 1002
