@@ -98,6 +98,7 @@ private:
     CString m_caption;
     CString m_headerTitle;
     CString m_headerSubTitle;
-    std::unique_ptr<vorn::LoadedDialogTemplate> m_loaded; ///< where it was found, and its bytes, which the system changes
+    std::unique_ptr<vorn::LoadedDialogTemplate>
+        m_loaded; ///< where it was found, and its bytes, which the system changes
     CPropertySheet* m_sheet = nullptr;
 };

@@ -202,13 +202,22 @@ LRESULT CPropertySheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return result;
 }
 
+/// A sheet without Cancel, often a part of another window, is not closed by the key.
+bool CPropertySheet::IsIdleEscape(const MSG& message) const
+{
+    if (!m_bModeless || message.message != WM_KEYDOWN || message.wParam != VK_ESCAPE)
+        return false;
+    const HWND cancel = ::GetDlgItem(m_hWnd, IDCANCEL);
+    return !cancel || !(::GetWindowLongA(cancel, GWL_STYLE) & WS_VISIBLE);
+}
+
 BOOL CPropertySheet::PreTranslateMessage(MSG* message)
 {
     if (CWnd::PreTranslateMessage(message))
         return TRUE;
     if (IsPageKey(*message) && SendMessage(PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(message)))
         return TRUE;
-    return PreTranslateInput(message);
+    return !IsIdleEscape(*message) && PreTranslateInput(message);
 }
 
 BOOL CPropertySheet::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)

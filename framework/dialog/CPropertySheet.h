@@ -38,8 +38,8 @@ public:
     explicit CPropertySheet(UINT captionId, CWnd* parent = nullptr, UINT selectPage = 0);
     explicit CPropertySheet(LPCTSTR caption, CWnd* parent = nullptr, UINT selectPage = 0);
     /// With the bitmaps of newer wizards, which stay the caller's.
-    CPropertySheet(UINT captionId, CWnd* parent, UINT selectPage, HBITMAP watermark, HPALETTE watermarkPalette = nullptr,
-                   HBITMAP header = nullptr);
+    CPropertySheet(UINT captionId, CWnd* parent, UINT selectPage, HBITMAP watermark,
+                   HPALETTE watermarkPalette = nullptr, HBITMAP header = nullptr);
     CPropertySheet(LPCTSTR caption, CWnd* parent, UINT selectPage, HBITMAP watermark,
                    HPALETTE watermarkPalette = nullptr, HBITMAP header = nullptr);
     ~CPropertySheet() override;
@@ -120,7 +120,8 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     CWnd* m_pParentWnd = nullptr;
-    BOOL m_bModeless = FALSE; ///< opened by Create; a derived OnInitDialog that clears it for the base's keeps the buttons
+    BOOL m_bModeless =
+        FALSE; ///< opened by Create; a derived OnInitDialog that clears it for the base's keeps the buttons
     BOOL m_bStacked = TRUE;
 
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
@@ -146,6 +147,7 @@ private:
     int RunModal(vorn::ModalOwner& owner);
     void FinishModal(vorn::ModalOwner& owner);
     void RemoveButtons();
+    bool IsIdleEscape(const MSG& message) const;
 
     CString m_caption;
     std::vector<CPropertyPage*> m_pages;

@@ -18,8 +18,7 @@ void TakeSizingFrame(CWnd& window)
     window.GetWindowRect(&outer);
     window.GetClientRect(&after);
     window.SetWindowPos(nullptr, 0, 0, outer.Width() + before.Width() - after.Width(),
-                        outer.Height() + before.Height() - after.Height(),
-                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+                        outer.Height() + before.Height() - after.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 } // namespace LayoutManagement

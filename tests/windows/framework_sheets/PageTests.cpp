@@ -90,8 +90,7 @@ TEST_F(SheetPages, AcceptingLeavesTheShownPageAndAppliesThoseThatWereShown)
     Open();
     m_sheet.SetActivePage(1);
     m_sheet.SetActivePage(0);
-    EXPECT_EQ(AfterCommand(IDOK),
-              (Journal{"Route: leave", "Route: apply", "Route: ok", "Fuel: apply", "Fuel: ok"}));
+    EXPECT_EQ(AfterCommand(IDOK), (Journal{"Route: leave", "Route: apply", "Route: ok", "Fuel: apply", "Fuel: ok"}));
 }
 
 TEST_F(SheetPages, APageThatWasNeverShownIsNotApplied)

@@ -50,9 +50,9 @@ public:
 
     HWND Edit() const;
 
-    bool m_accepts = true;       ///< what OnSetActive answers
-    bool m_releases = true;      ///< what OnKillActive answers
-    bool m_applies = true;       ///< what OnApply answers
+    bool m_accepts = true;  ///< what OnSetActive answers
+    bool m_releases = true; ///< what OnKillActive answers
+    bool m_applies = true;  ///< what OnApply answers
     bool m_mayBeCancelled = true;
     bool m_finishes = true;
     LRESULT m_next = 0;

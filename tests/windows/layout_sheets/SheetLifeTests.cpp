@@ -20,7 +20,7 @@ protected:
     PlannerSheet* NewSheet()
     {
         auto* sheet = new PlannerSheet; // its test deletes it, or it does
-        auto* page = new PlannerPage; // likewise
+        auto* page = new PlannerPage;   // likewise
         sheet->m_deaths = &m_sheetsGone;
         page->m_deaths = &m_pagesGone;
         sheet->AddPage(page);
