@@ -28,7 +28,7 @@ public:
     /// The number of characters, a line's end counting as two.
     long GetTextLength() const;
     long GetTextLengthEx(DWORD flags, UINT codePage = CP_ACP) const;
-    /// Copies the characters first to last - 1. @return how many were copied
+    /// Copies the characters first to last - 1; a `last` of -1 means to the end. @return how many were copied
     int GetTextRange(int first, int last, CString& text) const;
     int GetLineCount() const;
     /// Copies a line without terminator. The first word of `buffer` must hold its size; or `maxLength` does.

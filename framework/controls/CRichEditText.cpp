@@ -22,7 +22,7 @@ long CRichEditCtrl::GetTextLengthEx(DWORD flags, UINT codePage) const
 int CRichEditCtrl::GetTextRange(int first, int last, CString& text) const
 {
     const int most = last < 0 ? static_cast<int>(GetTextLength()) - first : last - first;
-    TEXTRANGEA range{{first, last}, text.GetBuffer(std::max(most, 0))};
+    TEXTRANGEA range{{first, first + most}, text.GetBuffer(std::max(most, 0))};
     range.lpstrText[0] = '\0';
     const int copied = most > 0 ? static_cast<int>(Ask(*this, EM_GETTEXTRANGE, 0, &range)) : 0;
     text.ReleaseBuffer(copied);

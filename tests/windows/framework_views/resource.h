@@ -1,0 +1,9 @@
+#pragma once
+
+#define IDD_WEIGHT 400
+#define IDD_WINDOW_OF_ITS_OWN 401
+#define IDC_NAME 1001
+#define IDC_WEIGHT 1002
+#define IDC_KIND 1003
+#define IDC_FREIGHT 1004
+#define IDC_COMPUTE 1005

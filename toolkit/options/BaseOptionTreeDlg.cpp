@@ -1,0 +1,149 @@
+#include "toolkit/options/BaseOptionTreeDlg.h"
+
+#include "framework/window/MessageMap.h"
+
+#include <cstdarg>
+#include <utility>
+#include <vector>
+
+IMPLEMENT_DYNAMIC(BaseOptionTreeDlg, LayoutManagement::LayoutDialog)
+
+BEGIN_MESSAGE_MAP(BaseOptionTreeDlg, LayoutManagement::LayoutDialog)
+ON_MESSAGE(OptionTree::kSelectionMessage, &BaseOptionTreeDlg::OnCategoryMessage)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr UINT kBuckets = 10; // at first; the map grows
+
+/// The style, not whether it can be seen: the dialog itself may be hidden yet.
+bool IsShown(HWND control)
+{
+    return (::GetWindowLongPtr(control, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+} // namespace
+
+BaseOptionTreeDlg::BaseOptionTreeDlg(UINT nIDTemplate, CWnd* parent)
+    : LayoutDialog(nIDTemplate, parent, nullptr, false, true)
+{
+    m_categories.InitHashTable(kBuckets);
+}
+
+BaseOptionTreeDlg::~BaseOptionTreeDlg()
+{
+    if (m_hWnd != nullptr)
+    {
+        DestroyWindow(); // while the tree still lives
+    }
+}
+
+OptionTree& BaseOptionTreeDlg::GetOptionTree()
+{
+    return mOptionTree;
+}
+
+BOOL BaseOptionTreeDlg::OnInitDialog()
+{
+    const BOOL setFocus = LayoutDialog::OnInitDialog();
+    BindTree();
+    mOptionTree.SetNotifyTarget(m_hWnd);
+    mOptionTree.Init();
+    return setFocus;
+}
+
+void BaseOptionTreeDlg::BindTree()
+{
+    const HWND tree = ::FindWindowEx(m_hWnd, nullptr, WC_TREEVIEWA, nullptr);
+    if (mOptionTree.m_hWnd == nullptr && tree != nullptr)
+    {
+        mOptionTree.SubclassWindow(tree);
+    }
+}
+
+// --- Which control belongs to which category ------------------------------------------------
+
+void BaseOptionTreeDlg::AddControlMapping(HTREEITEM item, std::initializer_list<UINT> ids)
+{
+    for (const UINT id : ids)
+    {
+        m_categories.SetAt(id, item);
+    }
+}
+
+void BaseOptionTreeDlg::AddControlMapping(HTREEITEM item, UINT id, ...)
+{
+    std::va_list more;
+    va_start(more, id);
+    for (; id != 0; id = va_arg(more, UINT))
+    {
+        m_categories.SetAt(id, item);
+    }
+    va_end(more);
+}
+
+void BaseOptionTreeDlg::RemoveControlMapping(std::initializer_list<UINT> ids)
+{
+    for (const UINT id : ids)
+    {
+        m_categories.RemoveKey(id);
+    }
+}
+
+void BaseOptionTreeDlg::RemoveControlMapping(UINT id, ...)
+{
+    std::va_list more;
+    va_start(more, id);
+    for (; id != 0; id = va_arg(more, UINT))
+    {
+        m_categories.RemoveKey(id);
+    }
+    va_end(more);
+}
+
+// --- Showing a category -----------------------------------------------------------------------
+
+LRESULT BaseOptionTreeDlg::OnCategoryMessage(WPARAM, LPARAM lParam)
+{
+    OnSelectCategory(reinterpret_cast<HTREEITEM>(lParam));
+    return 0;
+}
+
+void BaseOptionTreeDlg::OnSelectCategory(HTREEITEM item)
+{
+    // What a control does on being shown may change the mapping.
+    std::vector<std::pair<UINT, bool>> controls;
+    for (const auto* entry = m_categories.PGetFirstAssoc(); entry != nullptr; entry = m_categories.PGetNextAssoc(entry))
+    {
+        controls.emplace_back(entry->key, item != nullptr && entry->value == item);
+    }
+    for (const auto& [id, show] : controls)
+    {
+        ShowControl(::GetDlgItem(m_hWnd, static_cast<int>(id)), show);
+    }
+    UpdateLayout(true);
+}
+
+void BaseOptionTreeDlg::ShowControl(HWND control, bool show)
+{
+    if (control == nullptr || show == IsShown(control))
+    {
+        return;
+    }
+    if (!show)
+    {
+        LeaveControl(control);
+    }
+    ::ShowWindow(control, show ? SW_SHOWNA : SW_HIDE);
+}
+
+/// The focus must not stay in what cannot be seen.
+void BaseOptionTreeDlg::LeaveControl(HWND control)
+{
+    const HWND focus = ::GetFocus();
+    if (focus != nullptr && (focus == control || ::IsChild(control, focus)))
+    {
+        mOptionTree.SetFocus();
+    }
+}
