@@ -1,5 +1,6 @@
 #include "bench/core/PictureCases.h"
 #include "files/core/PngRead.h"
+#include "files/core/PngRows.h"
 #include "files/core/PngWrite.h"
 
 #include <algorithm>
@@ -27,6 +28,14 @@ void FlushNothing(png_structp)
 {
 }
 
+void SetAsOurs(png_structp png, PngPlan plan)
+{
+    constexpr int kFilters[] = {PNG_FILTER_NONE, PNG_FILTER_SUB, PNG_FILTER_UP};
+    png_set_filter(png, 0, kFilters[static_cast<int>(plan.filter)]);
+    png_set_compression_level(png, 3);
+    png_set_compression_buffer_size(png, kPngPiece);
+}
+
 /// With the library's defaults, or as we choose.
 std::string ByLibpng(const ImageView& image, bool hasDefaults)
 {
@@ -35,10 +44,7 @@ std::string ByLibpng(const ImageView& image, bool hasDefaults)
     png_infop info = png_create_info_struct(png);
     png_set_write_fn(png, &file, Append, FlushNothing);
     if (!hasDefaults)
-    {
-        png_set_filter(png, 0, PNG_FILTER_SUB);
-        png_set_compression_level(png, 3);
-    }
+        SetAsOurs(png, PngPlanOf(image));
     png_set_IHDR(png, info, static_cast<png_uint_32>(image.width), static_cast<png_uint_32>(image.height), 8,
                  image.depth == 8 ? PNG_COLOR_TYPE_PALETTE : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
@@ -149,11 +155,11 @@ void WriteNoisy(benchmark::State& state)
 }
 VORN_BENCH_PICTURES(WriteNoisy, "Pictures/PNG of noise written to libpng with the same settings");
 
-void WriteFlat(benchmark::State& state)
+void WriteIndexedFlat(benchmark::State& state)
 {
-    Writing(state, ColorPicture(Scene::Flat).View(), false);
+    Writing(state, IndexedPicture(Scene::Flat).View(), false);
 }
-VORN_BENCH_PICTURES(WriteFlat, "Pictures/PNG of a chart written to libpng with the same settings");
+VORN_BENCH_PICTURES(WriteIndexedFlat, "Pictures/PNG of an indexed chart written to libpng with the same settings");
 
 void DefaultsNoisy(benchmark::State& state)
 {
