@@ -91,6 +91,8 @@ bool DIB::To24Bit(DIB* target) const
 {
     if (!target)
         return false;
+    if (target == this && Depth() == 24 && !m_section && View().hasRows)
+        return true;
     // The memory of a picture that was made before serves again: fresh pages cost more than all pixels.
     const bool isSameOrder =
         m_info && target->m_info && (m_info->bmiHeader.biHeight < 0) == (target->m_info->bmiHeader.biHeight < 0);

@@ -30,21 +30,33 @@ void RowConverter::Convert(const unsigned char* from, unsigned char* to) const
         std::memcpy(to, from, static_cast<std::size_t>(m_source.width) * 3);
     else if (m_source.depth == 8)
         ConvertBytes(from, to);
-    else if (m_source.depth < 8)
-        ConvertBits(from, to);
+    else if (m_source.depth == 4)
+        ConvertBits<4>(from, to);
+    else if (m_source.depth == 1)
+        ConvertBits<1>(from, to);
     else if (m_source.depth == 32 && !m_source.isMasked)
         ConvertChannels(from, to);
     else
         ConvertWords(from, to);
 }
 
+// Four bytes a store: the next pixel takes the last of them, and the last pixel stores three.
+template <int DEPTH>
 void RowConverter::ConvertBits(const unsigned char* from, unsigned char* to) const
 {
-    for (int x = 0; x < m_source.width; ++x, to += 3)
-        PutThreeBytes(to, m_colors[StoredPixel(from, x, m_source.depth)]);
+    constexpr unsigned kMask = (1U << DEPTH) - 1;
+    const unsigned char* last = to + std::ptrdiff_t{m_source.width - 1} * 3;
+    for (;; ++from)
+        for (int shift = 8 - DEPTH; shift >= 0; shift -= DEPTH, to += 3)
+        {
+            const DWORD color = m_colors[*from >> shift & kMask];
+            if (to == last)
+                return PutThreeBytes(to, color);
+            std::memcpy(to, &color, 4);
+        }
 }
 
-// Four bytes a store: the next pixel takes the last of them, and the last pixel stores three. Four indices a load.
+// Likewise. Four indices a load.
 void RowConverter::ConvertBytes(const unsigned char* from, unsigned char* to) const
 {
     const unsigned char* last = from + m_source.width - 1;
@@ -64,8 +76,9 @@ void RowConverter::ConvertBytes(const unsigned char* from, unsigned char* to) co
 
 void RowConverter::ConvertChannels(const unsigned char* from, unsigned char* to) const
 {
-    for (int x = 0; x < m_source.width; ++x, from += 4, to += 3)
-        std::memcpy(to, from, 3);
+    for (int x = 1; x < m_source.width; ++x, from += 4, to += 3)
+        std::memcpy(to, from, 4);
+    std::memcpy(to, from, 3);
 }
 
 void RowConverter::ConvertWords(const unsigned char* from, unsigned char* to) const

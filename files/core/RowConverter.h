@@ -18,6 +18,7 @@ public:
     void Convert(const unsigned char* from, unsigned char* to) const;
 
 private:
+    template <int DEPTH>
     void ConvertBits(const unsigned char* from, unsigned char* to) const;
     void ConvertBytes(const unsigned char* from, unsigned char* to) const;
     void ConvertChannels(const unsigned char* from, unsigned char* to) const;

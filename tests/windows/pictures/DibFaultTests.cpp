@@ -1,59 +1,17 @@
 #include "files/PaletteMapper.h"
-#include "tests/support/ImportRedirect.h"
+#include "tests/support/MemoryRefusal.h"
 #include "tests/support/ScratchFolder.h"
 #include "tests/windows/pictures/DrawnOn.h"
 #include "tests/windows/pictures/OutsideFiles.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <functional>
 #include <memory>
-#include <new>
 
 namespace
 {
 using namespace vorn::test;
-
-/// Requests for memory that the library may still make; below 0: any number.
-int g_allowed = -1;
-int g_refused = 0;
-
-bool IsRefused()
-{
-    if (g_allowed < 0)
-        return false;
-    if (g_allowed > 0)
-    {
-        --g_allowed;
-        return false;
-    }
-    ++g_refused;
-    return true;
-}
-
-void* __cdecl MeteredCalloc(std::size_t count, std::size_t size)
-{
-    return IsRefused() ? nullptr : std::calloc(count, size);
-}
-
-void* __cdecl MeteredMalloc(std::size_t size)
-{
-    return IsRefused() ? nullptr : std::malloc(size);
-}
-
-void* MeteredNew(std::size_t size)
-{
-    void* memory = IsRefused() ? nullptr : std::malloc(size);
-    if (!memory)
-        throw std::bad_alloc();
-    return memory;
-}
-
-void* MeteredNewOrNull(std::size_t size, const std::nothrow_t&) noexcept
-{
-    return IsRefused() ? nullptr : std::malloc(size);
-}
 
 /// Lets operations run with less and less memory refused, until they need no more.
 class DibFaults : public testing::Test
@@ -70,11 +28,9 @@ protected:
     {
         for (int allowed = 0; allowed < 1000; ++allowed)
         {
-            g_refused = 0;
-            g_allowed = allowed;
+            m_memory.RefuseAfter(allowed);
             const bool succeeded = action();
-            g_allowed = -1;
-            if (g_refused == 0)
+            if (m_memory.Stop() == 0)
             {
                 EXPECT_TRUE(succeeded);
                 EXPECT_GE(allowed, 1) << "no memory was asked for";
@@ -86,14 +42,7 @@ protected:
     }
 
     ScratchFolder m_folder;
-
-private:
-    ImportRedirect m_calloc{"VornCommon.dll", "calloc", reinterpret_cast<const void*>(MeteredCalloc)};
-    ImportRedirect m_malloc{"VornCommon.dll", "malloc", reinterpret_cast<const void*>(MeteredMalloc)};
-    ImportRedirect m_new{"VornCommon.dll", "_Znwj", reinterpret_cast<const void*>(MeteredNew)};
-    ImportRedirect m_arrayNew{"VornCommon.dll", "_Znaj", reinterpret_cast<const void*>(MeteredNew)};
-    ImportRedirect m_newOrNull{"VornCommon.dll", "_ZnwjRKSt9nothrow_t",
-                               reinterpret_cast<const void*>(MeteredNewOrNull)};
+    MemoryRefusal m_memory{"VornCommon.dll"};
 };
 
 TEST_F(DibFaults, ImagesAreNotMade)
@@ -189,23 +138,23 @@ TEST_F(DibFaults, CodedFilesFail)
     for (const std::string& path : {Write(outside::PngInterlaced(), "png"), Write(outside::JpegColor(), "jpg")})
         for (int allowed = 0; allowed < 200; ++allowed)
         {
-            g_allowed = allowed;
+            m_memory.RefuseAfter(allowed);
             DIB image;
             const bool isRead = image.ReadUnknown(path.c_str());
-            g_allowed = -1;
+            m_memory.Stop();
             EXPECT_EQ(IsWithoutImage(image), !isRead);
         }
     const DIB image = FromLetters("RG|BY");
     const std::string path = m_folder.File("out");
     for (int allowed = 0; allowed < 100; ++allowed)
     {
-        g_allowed = allowed;
+        m_memory.RefuseAfter(allowed);
         const bool png = image.WritePNG(path.c_str());
         EXPECT_EQ(std::filesystem::exists(path), png) << "no half files";
         std::filesystem::remove(path);
         const bool jpeg = image.WriteJPEG(path.c_str(), 75, 1, nullptr);
         EXPECT_EQ(std::filesystem::exists(path), jpeg);
-        g_allowed = -1;
+        m_memory.Stop();
         std::filesystem::remove(path);
     }
 }

@@ -201,8 +201,10 @@ TEST(DibTo24Bit, TargetMayBeTheImage)
     EXPECT_TRUE(image.To24Bit(&image));
     EXPECT_EQ(Colors(image), "gg|gg");
     EXPECT_EQ(image.Depth(), 24);
+    const BITMAPINFO* block = image.BitmapInfo();
     EXPECT_TRUE(image.To24Bit(&image));
     EXPECT_EQ(Colors(image), "gg|gg");
+    EXPECT_EQ(image.BitmapInfo(), block) << "there was nothing to do";
 }
 
 TEST(DibTo24Bit, TargetOfTheSameSizeGivesItsBlock)
