@@ -159,6 +159,56 @@ TEST(DrawMorse, EveryLetterLooksAsItReads)
     }
 }
 
+TEST(DrawMorse, LongTextsHaveEveryBlock)
+{
+    std::string text;
+    for (int letters = 1; letters <= 60; ++letters)
+    {
+        text += static_cast<char>('A' + letters * 7 % 26);
+        ASSERT_EQ(Drawn({900, 3}, 3, 1, 1, 0, text.c_str()), Expected({900, 3}, 3, 1, 1, 0, text)) << text;
+    }
+}
+
+TEST(DrawMorse, FollowsTheOriginsOfWindowAndViewport)
+{
+    Canvas canvas(14, 3);
+    canvas.dc.SetWindowOrg(100, 200);
+    canvas.dc.SetViewportOrg(3, 1);
+    DrawMorse(&canvas.dc, kBlack, 101, 200, 1, 0, "A");
+    EXPECT_EQ(canvas.Picture(), "..............\n"
+                                "....#.####....\n"
+                                "..............\n");
+}
+
+TEST(DrawMorse, UpwardAxesTurnNoBlockUpsideDown)
+{
+    Canvas canvas(10, 4);
+    canvas.dc.SetMapMode(MM_ANISOTROPIC);
+    canvas.dc.SetWindowExt(1, 1);
+    canvas.dc.SetViewportExt(1, -1);
+    canvas.dc.SetViewportOrg(0, 3);
+    Canvas pixels(10, 4);
+    pixels.dc.SetMapMode(MM_ANISOTROPIC);
+    pixels.dc.SetWindowExt(1, 1);
+    pixels.dc.SetViewportExt(1, -1);
+    pixels.dc.SetViewportOrg(0, 3);
+    DrawMorse(&canvas.dc, kBlack, 1, 1, 1, 0, "A");
+    for (const int x : {1, 3, 4, 5, 6})
+    {
+        pixels.dc.SetPixel(x, 1, kBlack);
+    }
+    EXPECT_EQ(canvas.Picture(), pixels.Picture());
+}
+
+TEST(DrawMorse, TheBrushColourOfTheContextStays)
+{
+    Canvas canvas(40, 4);
+    ::SetDCBrushColor(canvas.dc, kGreen);
+    DrawMorse(&canvas.dc, kRed, 0, 0, 1, 0, "SEA");
+    EXPECT_EQ(::GetDCBrushColor(canvas.dc), kGreen);
+    EXPECT_EQ(canvas.Count(kGreen), 0);
+}
+
 TEST(DrawMorse, HugeUnitsAreCutToWhatIsSeen)
 {
     EXPECT_EQ(Drawn({4, 3}, 1, 1, INT_MAX, 0, "E"), "....\n.###\n.###\n");
