@@ -49,13 +49,17 @@ NightTables::NightTables(const NightScales& scales)
     for (std::size_t i = 0; i < 256; ++i)
     {
         const auto value = static_cast<BYTE>(i);
-        m_dimmed.red[i] = m_dimmed.green[i] = m_dimmed.blue[i] = value;
-        vorn::Dim(m_dimmed.red[i], m_dimmed.green[i], m_dimmed.blue[i], scales);
-        const COLORREF undimmed = vorn::Undimmed(PaletteColor(value, value, value), scales);
-        m_undimmed.red[i] = RedOf(undimmed);
-        m_undimmed.green[i] = GreenOf(undimmed);
-        m_undimmed.blue[i] = BlueOf(undimmed);
+        const COLORREF grey = PaletteColor(value, value, value);
+        Enter(m_dimmed, i, vorn::Dimmed(grey, scales));
+        Enter(m_undimmed, i, vorn::Undimmed(grey, scales));
     }
+}
+
+void NightTables::Enter(Tables& tables, std::size_t value, COLORREF made)
+{
+    tables.red[value] = made & 0x000000FF;
+    tables.green[value] = made & 0x0000FF00;
+    tables.blue[value] = made & 0x00FF0000;
 }
 
 } // namespace vorn

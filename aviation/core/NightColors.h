@@ -65,9 +65,9 @@ public:
     }
     void Dim(BYTE& red, BYTE& green, BYTE& blue) const
     {
-        red = m_dimmed.red[red];
-        green = m_dimmed.green[green];
-        blue = m_dimmed.blue[blue];
+        red = RedOf(m_dimmed.red[red]);
+        green = GreenOf(m_dimmed.green[green]);
+        blue = BlueOf(m_dimmed.blue[blue]);
     }
     COLORREF Undimmed(COLORREF color) const
     {
@@ -75,17 +75,19 @@ public:
     }
 
 private:
-    using Bytes = std::array<BYTE, 256>;
+    /// What each value of a component adds to the colour, in the component's place.
+    using Parts = std::array<COLORREF, 256>;
     struct Tables
     {
-        Bytes red{};
-        Bytes green{};
-        Bytes blue{};
+        Parts red{};
+        Parts green{};
+        Parts blue{};
     };
 
+    static void Enter(Tables& tables, std::size_t value, COLORREF made);
     static COLORREF Looked(const Tables& tables, COLORREF color)
     {
-        return PaletteColor(tables.red[RedOf(color)], tables.green[GreenOf(color)], tables.blue[BlueOf(color)]);
+        return kPaletteFlag | tables.red[RedOf(color)] | tables.green[GreenOf(color)] | tables.blue[BlueOf(color)];
     }
 
     Tables m_dimmed;

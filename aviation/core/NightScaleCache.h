@@ -23,7 +23,7 @@ public:
     /// Whether the settings were read and gave a red scale that is not negative.
     bool IsRead() const
     {
-        return !(m_scales.red < 0);
+        return m_isRead;
     }
 
     /// The scales. If they are not read yet, read(section, key, otherwise) gives each one's text, and then
@@ -47,7 +47,7 @@ public:
 private:
     /// Apart from the question whether it is needed, which is asked for every colour.
     template <typename Read, typename Write>
-    void Load(Read& read, Write& write)
+    [[gnu::noinline]] void Load(Read& read, Write& write)
     {
         const auto red = read(kSection, kRedKey, kDefault);
         const auto green = read(kSection, kGreenKey, kDefault);
@@ -57,8 +57,10 @@ private:
         write(kSection, kBlueKey, blue);
         m_scales = {NightScaleOf(red), NightScaleOf(green), NightScaleOf(blue)};
         m_tables = NightTables(m_scales);
+        m_isRead = !(m_scales.red < 0);
     }
 
+    bool m_isRead = false;
     NightScales m_scales = {-1, -1, -1};
     NightTables m_tables;
 };
