@@ -2,6 +2,7 @@
 
 #include "aviation/core/OldViewText.h"
 #include "config/AppRegMgr.h"
+#include "files/core/NoThrow.h"
 
 namespace
 {
@@ -40,6 +41,10 @@ bool LoadViewDef(ViewDefinition* view, const char* section, const char* name)
         return false;
     }
     const char* const key = name ? name : "";
-    view->LoadKey(key);
-    return view->Parse(ViewText(section ? section : "", key).c_str());
+    return vorn::NoThrow(false,
+                         [&]
+                         {
+                             view->LoadKey(key);
+                             return view->Parse(ViewText(section ? section : "", key).c_str());
+                         });
 }

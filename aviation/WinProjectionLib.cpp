@@ -3,6 +3,7 @@
 #include "aviation/ReadableText.h"
 #include "family/VornChart/core/ExternalProj.h"
 #include "family/VornChart/core/VornLog.h"
+#include "files/core/NoThrow.h"
 #include "frame/QuietErrors.h"
 
 #include <algorithm>
@@ -26,6 +27,8 @@ Function* EntryOf(HMODULE module, const char* name)
 {
     return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(GetProcAddress(module, name)));
 }
+
+constexpr int kDestroyEntry = 1; // of an ExternalProj
 
 /// Only with a full path may a module's own folder come first in the search for what it needs.
 bool IsFullPath(const char* path)
@@ -69,7 +72,16 @@ bool WinProjectionLib::Init(char** paths, int count)
         return false;
     }
     mpInstance = new (std::nothrow) WinProjectionLib; // Deinit deletes it
-    return ProjectionLib::Init(paths, count);
+    const bool isReady = vorn::NoThrow(false,
+                                       [=]
+                                       {
+                                           return ProjectionLib::Init(paths, count);
+                                       });
+    if (!isReady)
+    {
+        Deinit();
+    }
+    return isReady;
 }
 
 void WinProjectionLib::Deinit()
@@ -83,8 +95,8 @@ bool WinProjectionLib::sInit(char** paths, int count)
     FreeModules();
     if (paths && count > 0)
     {
-        m_modules.reset(new (std::nothrow) HMODULE[static_cast<std::size_t>(count)]{});
-        std::for_each_n(paths, m_modules ? count : 0,
+        m_modules = std::make_unique<HMODULE[]>(static_cast<std::size_t>(count));
+        std::for_each_n(paths, count,
                         [this](const char* path)
                         {
                             LoadModule(path);
@@ -134,16 +146,20 @@ Projection* WinProjectionLib::CreateProjection(int index)
     {
         return nullptr;
     }
-    if (Projection* builtIn = Projection::CreateProjection(index))
-    {
-        return builtIn;
-    }
-    const int slot = index - NumBuiltIn();
-    return slot < m_moduleCount ? CreateFromModule(slot) : nullptr; // fewer modules than names once one was dropped
+    return vorn::NoThrow<Projection*>(nullptr,
+                                      [this, index]
+                                      {
+                                          Projection* const builtIn = Projection::CreateProjection(index);
+                                          return builtIn ? builtIn : CreateFromModule(index - NumBuiltIn());
+                                      });
 }
 
 Projection* WinProjectionLib::CreateFromModule(int slot)
 {
+    if (slot >= m_moduleCount)
+    {
+        return nullptr; // there are fewer modules than names once one was dropped
+    }
     HMODULE const module = m_modules[static_cast<std::size_t>(slot)];
     auto* const create = EntryOf<decltype(::CreateProjection)>(module, "CreateProjection");
     if (!create)
@@ -151,10 +167,16 @@ Projection* WinProjectionLib::CreateFromModule(int slot)
         DropModule(slot);
         return nullptr;
     }
-    auto projection = std::make_unique<ExternalProj>(create());
+    // Memory first: without it the module is not asked for a projection that nobody could end.
+    std::unique_ptr<ExternalProj> projection(new (std::nothrow) ExternalProj(create()));
+    if (!projection)
+    {
+        return nullptr;
+    }
     for (int i = 0; i < ExternalProj::kEntryPoints; ++i)
     {
-        projection->Bind(i, GetProcAddress(module, ExternalProj::EntryPointName(i)));
+        const int entry = (i + kDestroyEntry) % ExternalProj::kEntryPoints; // first of all the one that ends it
+        projection->Bind(entry, GetProcAddress(module, ExternalProj::EntryPointName(entry)));
     }
     projection->Init(); // what it answers is the projection's own affair
     return projection.release();
