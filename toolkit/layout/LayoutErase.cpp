@@ -1,11 +1,15 @@
+#include "files/core/NoThrow.h"
 #include "framework/gdi/CDC.h"
 #include "framework/window/CWnd.h"
 #include "toolkit/layout/LayoutMgr.h"
+#include "toolkit/layout/core/UncoveredArea.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
-#include <iterator>
+#include <cstring>
+#include <utility>
+#include <vector>
 
 // The background of a laid-out window, painted around its controls.
 namespace LayoutManagement
@@ -13,12 +17,23 @@ namespace LayoutManagement
 namespace
 {
 
-/// A region that ends with its scope.
+/// A region of rectangles from the top down that ends with its scope; null when there is no memory for it.
 class Region
 {
 public:
-    explicit Region(const RECT& rect) : m_region(CreateRectRgnIndirect(&rect))
+    Region(const RECT& bounds, const std::vector<RECT>& rects)
     {
+        RGNDATAHEADER head{};
+        head.rcBound = bounds;
+        head.dwSize = sizeof head;
+        head.iType = RDH_RECTANGLES;
+        head.nCount = static_cast<DWORD>(rects.size());
+        head.nRgnSize = static_cast<DWORD>(rects.size() * sizeof(RECT));
+        std::vector<char> data(sizeof head + head.nRgnSize);
+        std::memcpy(data.data(), &head, sizeof head);
+        std::copy(rects.begin(), rects.end(), reinterpret_cast<RECT*>(data.data() + sizeof head));
+        m_region =
+            ExtCreateRegion(nullptr, static_cast<DWORD>(data.size()), reinterpret_cast<const RGNDATA*>(data.data()));
     }
     ~Region()
     {
@@ -36,30 +51,68 @@ private:
     HRGN m_region;
 };
 
-bool IsNamed(const char* className, const char* name)
+/// What the background depends on in a control's class.
+enum class ControlClass
 {
-    return lstrcmpiA(className, name) == 0;
-}
+    Button,
+    Static,
+    Tab,
+    Other
+};
+
+/// The classes of many controls: each one's name is looked at once.
+class ControlClasses
+{
+public:
+    ControlClass Of(HWND control, ATOM atom)
+    {
+        for (const auto& [known, kind] : m_known)
+        {
+            if (known == atom)
+            {
+                return kind;
+            }
+        }
+        m_known.emplace_back(atom, ByName(control));
+        return m_known.back().second;
+    }
+
+private:
+    static ControlClass ByName(HWND control)
+    {
+        char name[32] = {};
+        GetClassNameA(control, name, sizeof name);
+        const auto is = [&name](const char* other)
+        {
+            return lstrcmpiA(name, other) == 0;
+        };
+        return is("Button")         ? ControlClass::Button
+               : is("Static")       ? ControlClass::Static
+               : is(WC_TABCONTROLA) ? ControlClass::Tab
+                                    : ControlClass::Other;
+    }
+
+    std::vector<std::pair<ATOM, ControlClass>> m_known;
+};
 
 /// Frames around other controls, and what shows the background through itself.
-bool IsSeenThrough(HWND control, const char* className, LONG style)
+bool IsSeenThrough(ControlClass kind, const WINDOWINFO& info)
 {
-    const LONG type = style & SS_TYPEMASK;
-    if (IsNamed(className, "Button"))
+    const DWORD type = info.dwStyle & SS_TYPEMASK;
+    if (kind == ControlClass::Button)
     {
-        return (style & 0xF) == BS_GROUPBOX;
+        return (info.dwStyle & 0xF) == BS_GROUPBOX;
     }
-    if (IsNamed(className, "Static") && (type == SS_ETCHEDFRAME || (type >= SS_BLACKFRAME && type <= SS_WHITEFRAME)))
+    if (kind == ControlClass::Static && (type == SS_ETCHEDFRAME || (type >= SS_BLACKFRAME && type <= SS_WHITEFRAME)))
     {
         return true;
     }
-    return (GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_TRANSPARENT) != 0;
+    return (info.dwExStyle & WS_EX_TRANSPARENT) != 0;
 }
 
-/// Body and tabs of a tab control whose tabs stand at the top in one row; the rest of the row belongs to the
+/// A tab control: its body and, where its tabs stand at the top in one row, those; the rest of the row belongs to the
 /// background.
-/// @return null for any other
-HRGN TabRegion(HWND tab, const RECT& bounds, LONG style)
+void AppendTab(HWND tab, const RECT& bounds, DWORD style, std::vector<RECT>& covers)
 {
     const int count = static_cast<int>(SendMessageA(tab, TCM_GETITEMCOUNT, 0, 0));
     RECT first{};
@@ -68,80 +121,95 @@ HRGN TabRegion(HWND tab, const RECT& bounds, LONG style)
         !SendMessageA(tab, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&first)) ||
         !SendMessageA(tab, TCM_GETITEMRECT, static_cast<WPARAM>(count - 1), reinterpret_cast<LPARAM>(&last)))
     {
-        return nullptr;
+        covers.push_back(bounds);
+        return;
     }
     constexpr LONG kOutstanding = 2; // of the selected tab, on both sides
     const LONG body = bounds.top + first.bottom;
-    const LONG left = std::max(bounds.left, bounds.left + first.left - kOutstanding);
-    const LONG right = std::min(bounds.right, bounds.left + last.right + kOutstanding);
-    const POINT corners[] = {{left, bounds.top},
-                             {right, bounds.top},
-                             {right, body},
-                             {bounds.right, body},
-                             {bounds.right, bounds.bottom},
-                             {bounds.left, bounds.bottom},
-                             {bounds.left, body},
-                             {left, body}};
-    return CreatePolygonRgn(corners, static_cast<int>(std::size(corners)), WINDING);
+    covers.push_back({std::max(bounds.left, bounds.left + first.left - kOutstanding), bounds.top,
+                      std::min(bounds.right, bounds.left + last.right + kOutstanding), body});
+    covers.push_back({bounds.left, body, bounds.right, bounds.bottom});
 }
 
-/// The client area without what the visible controls cover.
-class Background
+/// Turns rectangles on the screen into such of a client area.
+class ClientMapping
 {
 public:
-    explicit Background(HWND window)
-        : m_window(window), m_around(ClientOf(window)), m_covered(RECT{}), m_control(RECT{})
+    explicit ClientMapping(HWND window)
+        : m_window(window), m_isMirrored((GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0)
     {
-        // One call for the whole list; going from window to window asks the system for each.
-        EnumChildWindows(window, Cover, reinterpret_cast<LPARAM>(this));
-        CombineRgn(m_around.Get(), m_around.Get(), m_covered.Get(), RGN_DIFF);
+        ClientToScreen(window, &m_origin);
     }
-    HRGN Get() const
+    RECT Of(RECT rect) const
     {
-        return m_around.Get();
-    }
-    static RECT ClientOf(HWND window)
-    {
-        RECT client{};
-        GetClientRect(window, &client);
-        return client;
+        if (m_isMirrored)
+        {
+            MapWindowPoints(nullptr, m_window, reinterpret_cast<POINT*>(&rect), 2);
+            return rect;
+        }
+        return {rect.left - m_origin.x, rect.top - m_origin.y, rect.right - m_origin.x, rect.bottom - m_origin.y};
     }
 
 private:
-    static BOOL CALLBACK Cover(HWND control, LPARAM background)
-    {
-        reinterpret_cast<Background*>(background)->Cover(control);
-        return TRUE;
-    }
-    void Cover(HWND control)
-    {
-        const LONG style = GetWindowLongA(control, GWL_STYLE);
-        char className[32] = {};
-        GetClassNameA(control, className, sizeof className);
-        if ((style & WS_VISIBLE) == 0 || GetParent(control) != m_window || IsSeenThrough(control, className, style))
-        {
-            return;
-        }
-        RECT bounds{};
-        GetWindowRect(control, &bounds);
-        MapWindowPoints(nullptr, m_window, reinterpret_cast<POINT*>(&bounds), 2);
-        const HRGN tabs = IsNamed(className, WC_TABCONTROLA) ? TabRegion(control, bounds, style) : nullptr;
-        SetRectRgn(m_control.Get(), bounds.left, bounds.top, bounds.right, bounds.bottom);
-        CombineRgn(m_covered.Get(), m_covered.Get(), tabs != nullptr ? tabs : m_control.Get(), RGN_OR);
-        if (tabs != nullptr)
-        {
-            DeleteObject(tabs);
-        }
-    }
-
     HWND m_window;
-    Region m_around;
-    Region m_covered;
-    Region m_control; ///< of one control
+    bool m_isMirrored;
+    POINT m_origin{};
 };
 
+/// The children, which are asked for nothing yet: what is asked of a control may change their order.
+std::vector<HWND> ChildrenOf(HWND window)
+{
+    constexpr std::size_t kMost = 65536;
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr && children.size() < kMost;
+         child = GetWindow(child, GW_HWNDNEXT))
+    {
+        children.push_back(child);
+    }
+    return children;
+}
+
+/// What the visible controls cover of a client area.
+std::vector<RECT> Covered(HWND window)
+{
+    std::vector<RECT> covers;
+    ControlClasses classes;
+    const ClientMapping mapping(window);
+    for (const HWND control : ChildrenOf(window))
+    {
+        WINDOWINFO info{};
+        info.cbSize = sizeof info;
+        if (!GetWindowInfo(control, &info) || (info.dwStyle & WS_VISIBLE) == 0)
+        {
+            continue;
+        }
+        const ControlClass kind = classes.Of(control, info.atomWindowType);
+        const RECT bounds = mapping.Of(info.rcWindow);
+        if (IsSeenThrough(kind, info))
+        {
+            continue;
+        }
+        if (kind == ControlClass::Tab)
+        {
+            AppendTab(control, bounds, info.dwStyle, covers);
+        }
+        else
+        {
+            covers.push_back(bounds);
+        }
+    }
+    return covers;
+}
+
+RECT ClientOf(HWND window)
+{
+    RECT client{};
+    GetClientRect(window, &client);
+    return client;
+}
+
 /// The class's own brush; small numbers stand for the system's colours.
-HBRUSH BackgroundOf(HWND window)
+HBRUSH BrushOf(HWND window)
 {
     const ULONG_PTR brush = GetClassLongPtrA(window, GCLP_HBRBACKGROUND);
     constexpr ULONG_PTR kLastColor = 31;
@@ -152,6 +220,28 @@ HBRUSH BackgroundOf(HWND window)
     return brush <= kLastColor ? GetSysColorBrush(static_cast<int>(brush) - 1) : reinterpret_cast<HBRUSH>(brush);
 }
 
+void Erase(HWND window, HDC dc)
+{
+    const RECT client = ClientOf(window);
+    POINT origin{};
+    GetViewportOrgEx(dc, &origin);
+    std::vector<RECT> pieces = vorn::UncoveredArea(client, Covered(window));
+    for (RECT& piece : pieces)
+    {
+        OffsetRect(&piece, origin.x, origin.y); // clip regions are in device units
+    }
+    if (pieces.empty())
+    {
+        return;
+    }
+    const Region around({origin.x, origin.y, client.right + origin.x, client.bottom + origin.y}, pieces);
+    const int saved = SaveDC(dc);
+    ExtSelectClipRgn(dc, around.Get(), RGN_AND);
+    SetBrushOrgEx(dc, origin.x, origin.y, nullptr);
+    FillRect(dc, &client, BrushOf(window));
+    RestoreDC(dc, saved);
+}
+
 } // namespace
 
 void LayoutMgr::EraseBkgnd(CDC* pDC)
@@ -160,17 +250,12 @@ void LayoutMgr::EraseBkgnd(CDC* pDC)
     {
         return;
     }
-    const HWND window = m_pWnd->m_hWnd;
-    const RECT client = Background::ClientOf(window);
-    const Background around(window);
-    const int saved = SaveDC(pDC->m_hDC);
-    POINT origin{};
-    GetViewportOrgEx(pDC->m_hDC, &origin);
-    OffsetRgn(around.Get(), origin.x, origin.y); // clip regions are in device units
-    ExtSelectClipRgn(pDC->m_hDC, around.Get(), RGN_AND);
-    SetBrushOrgEx(pDC->m_hDC, origin.x, origin.y, nullptr);
-    FillRect(pDC->m_hDC, &client, BackgroundOf(window));
-    RestoreDC(pDC->m_hDC, saved);
+    vorn::NoThrow(false,
+                  [this, pDC]
+                  {
+                      Erase(m_pWnd->m_hWnd, pDC->m_hDC);
+                      return true;
+                  });
 }
 
 } // namespace LayoutManagement
