@@ -33,7 +33,8 @@ enum ColorState : int
     COLORSTATE_DUSK = 2
 };
 
-/// The colours in force in the whole process. Used from one thread.
+/// The colours in force in the whole process. Any thread may ask for them, also while another one changes the state;
+/// what a thread draws during the change may have colours of both states.
 class VORNCHART_API ColorContext
 {
 public:
