@@ -113,6 +113,25 @@ TEST(ChartScene, HasNoLabelOverAnotherOverASymbolOrUnderAPanelAtAnyScale)
     }
 }
 
+TEST(ChartScene, ShowsLabelsWholeOrNotAtAll)
+{
+    MercatorSphere plane;
+    PlainMeter meter;
+    const ChartModel model = ModelOf(Region(), "AAX BBX CCX");
+    ChartView view = View(plane, 1'000'000);
+    LabelMemory memory;
+    for (int step = 0; step < 60; ++step) // many symbols pass the edges
+    {
+        view.Pan(11, -5);
+        const ChartScene scene = SceneOf(model, view, meter, {}, memory);
+        memory = scene.memory;
+        for (const SceneLabel& label : scene.labels)
+            ASSERT_TRUE(label.box.left >= 0 && label.box.top >= 0 && label.box.right <= view.Width() &&
+                        label.box.bottom <= view.Height())
+                << step << ": " << label.text.front().text;
+    }
+}
+
 TEST(ChartScene, IsTheSameForTheSameView)
 {
     MercatorSphere plane;

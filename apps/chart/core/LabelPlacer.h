@@ -16,7 +16,7 @@ struct LabelRequest
 {
     int id = 0;                       ///< of its own; ties are settled by it, and it is known by it in the next drawing
     int priority = 0;                 ///< larger ones choose first
-    std::vector<PixelBox> candidates; ///< where it may stand, the best place first
+    std::vector<PixelBox> candidates; ///< where it may stand, the best place first; an empty one is none
 };
 
 struct PlacedLabel

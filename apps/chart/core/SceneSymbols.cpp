@@ -1,0 +1,166 @@
+#include "apps/chart/core/SceneDraft.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+namespace vorn::chart
+{
+
+namespace
+{
+
+// Pixels of a 96-dpi screen.
+constexpr double kLabelGap = 2.5;
+constexpr double kRoseRadius = 46;
+constexpr double kTrueRunway = 22; // a runway of this length is drawn to scale
+constexpr double kRunwayHalf = 1.6;
+
+constexpr double kRosesBelow = 1'200'000; // scale
+constexpr double kFeetPerMile = 6076.115;
+
+SymbolShape Turned(SymbolShape shape, double degrees)
+{
+    const double sine = std::sin(degrees * std::numbers::pi / 180);
+    const double cosine = std::cos(degrees * std::numbers::pi / 180);
+    for (ShapePart& part : shape.parts)
+    {
+        for (PixelPoint& point : part.points)
+            point = {point.x * cosine - point.y * sine, point.x * sine + point.y * cosine};
+    }
+    return shape;
+}
+
+void AddSymbol(SceneDraft& draft, SceneSymbol symbol)
+{
+    draft.labels.AvoidSymbol(symbol.at, symbol.shape.reach * draft.scene.symbolUnit * 0.9);
+    draft.scene.symbols.push_back(std::move(symbol));
+}
+
+/// A label beside a symbol.
+struct SymbolLabel
+{
+    int id;
+    int priority;
+    LabelText text;
+    Ink ink;
+    double reach; ///< of the symbol
+    bool hasRose; ///< it may also stand outside the rose
+};
+
+void WishForLabel(SceneDraft& draft, SymbolLabel label, PixelPoint at)
+{
+    if (label.text.empty())
+        return;
+    const PixelSize size = draft.labels.Measure(label.text);
+    std::vector<PixelBox> places =
+        PlacesAround(at, label.reach * draft.scene.symbolUnit + draft.Px(kLabelGap), size.width, size.height);
+    if (label.hasRose)
+    {
+        const std::vector<PixelBox> outer =
+            PlacesAround(at, draft.Px(kRoseRadius + 2 * kLabelGap), size.width, size.height);
+        places.insert(places.end(), outer.begin(), outer.end());
+    }
+    draft.labels.Wish({{label.id, label.priority, std::move(places)}, std::move(label.text), label.ink, false});
+}
+
+Ink InkOf(AidKind kind)
+{
+    return HasRadials(kind) || kind == AidKind::Dme || kind == AidKind::Tacan ? Ink::Aid : Ink::Beacon;
+}
+
+/// What is said of a place: at least its ident on the route.
+Detail DetailOf(const SceneDraft& draft, bool onRoute)
+{
+    return onRoute ? std::max(draft.detail, Detail::Idents) : draft.detail;
+}
+
+void AddRose(SceneDraft& draft, const Aid& aid, PixelPoint at)
+{
+    const double north = NorthAt(draft.view, aid.position) + aid.variation;
+    draft.scene.roses.push_back({at, CompassRose(kRoseRadius, north), Ink::Aid});
+    const double radius = draft.Px(kRoseRadius);
+    for (int degrees = 0; degrees < 360; degrees += 5)
+    {
+        const double angle = degrees * std::numbers::pi / 180;
+        draft.labels.AvoidPlace({at.x + radius * std::sin(angle), at.y - radius * std::cos(angle)}, draft.Px(3));
+    }
+}
+
+void AddAid(SceneDraft& draft, int id, const Aid& aid)
+{
+    const bool onRoute = draft.IsOnRoute(aid.ident, aid.position);
+    if (!IsShown(aid, draft.detail) && !onRoute)
+        return;
+    const std::optional<PixelPoint> at = draft.WithinReach(aid.position);
+    if (!at)
+        return;
+    const Ink ink = InkOf(aid.kind);
+    const bool hasRose = HasRadials(aid.kind) && draft.view.Scale() <= kRosesBelow;
+    if (hasRose)
+        AddRose(draft, aid, *at);
+    const SymbolShape& shape = ShapeOf(aid.kind);
+    WishForLabel(draft,
+                 {id, onRoute ? kRoutePriority : PriorityOf(aid), LabelOf(aid, DetailOf(draft, onRoute)), ink,
+                  shape.reach, hasRose},
+                 *at);
+    AddSymbol(draft, {*at, shape, ink});
+}
+
+/// Draws the runways to scale when they are large enough. @return how far they reach; 0 when they are not.
+double AddTrueRunways(SceneDraft& draft, const Aerodrome& field, PixelPoint at)
+{
+    const double length = field.Longest().length / kFeetPerMile * draft.view.PixelsPerMile();
+    if (length < draft.Px(kTrueRunway))
+        return 0;
+    double reach = draft.Px(4);
+    for (const Runway& runway : field.runways)
+    {
+        const std::optional<PixelPoint> low = draft.view.ToPixel(runway.low);
+        const std::optional<PixelPoint> high = draft.view.ToPixel(runway.high);
+        if (!low || !high)
+            continue;
+        draft.scene.runways.push_back(BarBetween(*low, *high, draft.Px(kRunwayHalf)));
+        for (const PixelPoint& end : {*low, *high})
+            reach = std::max({reach, std::abs(end.x - at.x), std::abs(end.y - at.y)});
+    }
+    return (reach + draft.Px(kRunwayHalf)) / draft.scene.symbolUnit;
+}
+
+void AddField(SceneDraft& draft, std::size_t index)
+{
+    const Aerodrome& field = draft.model.data.aerodromes[index];
+    const bool onRoute = draft.IsOnRoute(field.ident, field.position);
+    const std::optional<PixelPoint> at = draft.WithinReach(field.position);
+    if (!at || (!IsShown(field, draft.detail) && !onRoute))
+        return;
+    SymbolShape shape = Turned(draft.model.fields[index], NorthAt(draft.view, field.position));
+    if (const double reach = AddTrueRunways(draft, field, *at); reach > 0)
+    {
+        shape = SymbolShape();
+        shape.reach = reach;
+    }
+    WishForLabel(draft,
+                 {kFieldIds + static_cast<int>(index), onRoute ? kRoutePriority : PriorityOf(field),
+                  LabelOf(field, DetailOf(draft, onRoute)), Ink::Field, shape.reach, false},
+                 *at);
+    AddSymbol(draft, {*at, std::move(shape), Ink::Field});
+}
+
+} // namespace
+
+void AddAids(SceneDraft& draft)
+{
+    int id = kAidIds;
+    for (const Aid& aid : draft.model.data.aids)
+        AddAid(draft, ++id, aid);
+}
+
+void AddFields(SceneDraft& draft)
+{
+    for (std::size_t i = 0; i < draft.model.data.aerodromes.size(); ++i)
+        AddField(draft, i);
+}
+
+} // namespace vorn::chart
