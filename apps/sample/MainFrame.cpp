@@ -2,6 +2,7 @@
 
 #include "apps/sample/AboutDialog.h"
 #include "apps/sample/PageView.h"
+#include "apps/sample/ProjectionsMenu.h"
 #include "apps/sample/Snapshot.h"
 #include "apps/sample/UnitsMenu.h"
 #include "apps/sample/resource.h"
@@ -12,6 +13,7 @@ namespace
 {
 
 constexpr int kViewMenu = 1; // places in the menu bar of IDR_MAINFRAME
+constexpr int kChartMenu = 3;
 constexpr int kUnitsMenu = 5;
 constexpr SIZE kSmallest = {560, 420};
 
@@ -71,8 +73,9 @@ bool MainFrame::FillMenus()
 {
     CMenu* const bar = GetMenu();
     CMenu* const view = bar != nullptr ? bar->GetSubMenu(kViewMenu) : nullptr;
+    CMenu* const chart = bar != nullptr ? bar->GetSubMenu(kChartMenu) : nullptr;
     CMenu* const units = bar != nullptr ? bar->GetSubMenu(kUnitsMenu) : nullptr;
-    if (view == nullptr || units == nullptr)
+    if (view == nullptr || chart == nullptr || units == nullptr || !ProjectionsMenu::Fill(*chart))
         return false;
     for (std::size_t index = 0; index < m_view->Pages().size(); ++index)
     {
