@@ -50,10 +50,10 @@ std::optional<std::string> NameOf(HMODULE module)
 
 void LogSkipped(const char* path, const char* reason)
 {
-    if (VornLog::mpSingleInst)
+    if (VornLog* const log = VornLog::Shared())
     {
         const std::string text = std::string("Projection module ") + path + " skipped: " + reason;
-        VornLog::mpSingleInst->LogMsg(text, LOG_WARNING);
+        log->LogMsg(text, LOG_WARNING);
     }
 }
 } // namespace

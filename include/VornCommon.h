@@ -14,6 +14,9 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include "family/TarnComm/core/ProxyInfo.h"
+#include "family/TarnComm/core/ProxySet.h"
+#include "family/TarnComm/core/URI.h"
 #include "family/TarnUtil/core/ColorMap.h"
 #include "family/TarnUtil/core/FixCase.h"
 #include "family/TarnUtil/core/LatLon.h"
@@ -40,6 +43,8 @@
 #include "config/DefinedPathSetting.h"
 #include "config/GlobalRegData.h"
 #include "config/PathMgr.h"
+#include "config/ProxyConfigDlg.h"
+#include "config/ProxySettings.h"
 #include "config/Registry.h"
 #include "files/BrowseForDirectory.h"
 #include "files/DIB.h"
@@ -54,6 +59,7 @@
 #include "frame/SystemVersion.h"
 #include "frame/TimerMgr.h"
 #include "frame/VornCommonApp.h"
+#include "frame/VornCommonLog.h"
 #include "frame/VornStrings.h"
 #include "frame/Win32CriticalSection.h"
 #include "frame/WindowPlacement.h"

@@ -28,16 +28,16 @@ std::vector<std::string> PartsOf(const std::string& text, char separator)
 }
 
 // What the registry says of the modules that it skips; in its place while it starts.
-class RegistryLog
+class RegistryLog : private VornLog
 {
 public:
     RegistryLog()
     {
-        VornLog::mpSingleInst = &m_log;
+        mpSingleInst = this;
     }
-    ~RegistryLog()
+    ~RegistryLog() override
     {
-        VornLog::mpSingleInst = m_before;
+        mpSingleInst = m_before;
     }
     RegistryLog(const RegistryLog&) = delete;
     RegistryLog& operator=(const RegistryLog&) = delete;
@@ -46,15 +46,14 @@ public:
     std::string FirstLine()
     {
         char* raw = nullptr;
-        m_log.GetLog(raw);
+        GetLog(raw);
         const std::unique_ptr<char[]> text(raw);
         const std::string lines = text ? text.get() : "";
         return lines.substr(0, lines.find('\r'));
     }
 
 private:
-    VornLog m_log;
-    VornLog* m_before = VornLog::mpSingleInst;
+    VornLog* m_before = Shared();
 };
 
 // A full path in the library's code page: a bare name would be looked for among the system's modules.

@@ -65,6 +65,9 @@ LATE_FUNCTION("shell32.dll", SHGetMalloc, 4);
 LATE_FUNCTION("shell32.dll", SHGetPathFromIDListA, 8);
 LATE_FUNCTION("shell32.dll", ShellExecuteA, 24);
 
+LATE_FUNCTION("crypt32.dll", CryptProtectData, 28);
+LATE_FUNCTION("crypt32.dll", CryptUnprotectData, 28);
+
 LATE_FUNCTION("ole32.dll", CoInitialize, 4);
 LATE_FUNCTION("ole32.dll", CoTaskMemFree, 4);
 LATE_FUNCTION("ole32.dll", CoUninitialize, 0);

@@ -143,9 +143,35 @@ TEST(VornLog, ErrorsAreShownFirstWarningsInTheTalkativeDisplay)
     EXPECT_EQ(log.mAltDisplayLevel, LOG_WARNING);
 }
 
+TEST(VornLog, BothThresholdsAreSetTogether)
+{
+    OpenLog log;
+    log.SetDisplayThresholds(LOG_DEBUG, LOG_FATAL);
+    EXPECT_EQ(log.mDisplayLevel, LOG_DEBUG);
+    EXPECT_EQ(log.mAltDisplayLevel, LOG_FATAL);
+}
+
+TEST(VornLog, MessagesOfEveryWeightAreLoggedWhateverTheThresholds)
+{
+    VornLog log;
+    log.SetDisplayThresholds(LOG_FATAL, LOG_FATAL);
+    for (const LogStatus level : {LOG_FATAL, LOG_ERROR, LOG_WARNING, LOG_INFO, LOG_DEBUG, static_cast<LogStatus>(-7)})
+    {
+        log.LogMsg("x", level);
+    }
+    EXPECT_EQ(TextOf(log).size(), 6u * 3u);
+}
+
+TEST(VornLog, FormatCharactersAreTakenLiterally)
+{
+    VornLog log;
+    log.LogMsg("100%s %n%d\\", LOG_INFO);
+    EXPECT_EQ(TextOf(log), "100%s %n%d\\\r\n");
+}
+
 TEST(VornLog, NobodyMakesTheSharedLogByItself)
 {
-    EXPECT_EQ(VornLog::mpSingleInst, nullptr);
+    EXPECT_EQ(VornLog::Shared(), nullptr);
 }
 
 TEST_F(LogFile, HoldsEachMessageAsSoonAsItIsLogged)

@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr const char* kLineEnd = "\r\n";
+constexpr std::string_view kLineEnd = "\r\n";
 
 } // namespace
 
@@ -64,41 +64,52 @@ bool VornLog::InitLog(const char* file)
     return true;
 }
 
-void VornLog::LogMsg(const char* text, LogStatus level)
+void VornLog::LogMsg(const char* text, LogStatus)
 {
-    if (text == nullptr)
+    if (text != nullptr)
     {
-        return;
-    }
-    try
-    {
-        LogMsg(std::string(text), level);
-    }
-    catch (const std::exception&)
-    {
-        // A log that is out of memory must not end the program that it reports on.
+        Add(text);
     }
 }
 
 void VornLog::LogMsg(const std::string& text, LogStatus)
 {
+    Add(text);
+}
+
+void VornLog::Add(std::string_view text)
+{
     if (m_file != nullptr)
     {
         std::fwrite(text.data(), 1, text.size(), m_file.get());
-        std::fputs(kLineEnd, m_file.get());
+        std::fwrite(kLineEnd.data(), 1, kLineEnd.size(), m_file.get());
         std::fflush(m_file.get());
     }
+    const std::size_t before = m_text.size();
     try
     {
-        m_text.append(text + kLineEnd);
+        m_text.append(text);
+        m_text.append(kLineEnd);
     }
     catch (const std::exception&)
     {
-        // As above; the file has the message.
+        // A log that is out of memory must not end the program that it reports on; the file has the message.
+        m_text.resize(before);
     }
 }
 
 void VornLog::ClearLog()
 {
     m_text.clear();
+}
+
+void VornLog::SetDisplayThresholds(LogStatus normal, LogStatus alternative)
+{
+    mDisplayLevel = normal;
+    mAltDisplayLevel = alternative;
+}
+
+VornLog* VornLog::Shared()
+{
+    return mpSingleInst;
 }

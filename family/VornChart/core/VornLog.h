@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <string_view>
 
 /// Weight of a log message; the smaller, the graver.
 enum LogStatus : int
@@ -46,10 +47,17 @@ public:
     /// Empties the collected text; the file keeps what it has and stays open.
     void ClearLog();
 
-    /// The log that the whole process shares; null until someone makes it. Who makes it deletes it.
-    static VornLog* mpSingleInst;
+    /// The weight up to which messages are worth showing to the user, and the same for the alternative, more talkative
+    /// display. Everything is logged in any case.
+    void SetDisplayThresholds(LogStatus normal, LogStatus alternative);
+
+    /// The log that the whole process shares; null until someone makes it.
+    static VornLog* Shared();
 
 protected:
+    /// The shared log, for the derived class that makes it; who makes it deletes it.
+    static VornLog* mpSingleInst;
+
     /// A message of this weight or graver is worth showing to the user; LOG_ERROR at first.
     LogStatus mDisplayLevel = LOG_ERROR;
 
@@ -64,6 +72,8 @@ private:
             std::fclose(file);
         }
     };
+
+    void Add(std::string_view text);
 
     std::string m_text;
     std::unique_ptr<std::FILE, FileCloser> m_file;

@@ -1,3 +1,4 @@
+#include "family/TarnComm/core/ProxySet.h"
 #include "family/TarnUtil/core/FixCase.h"
 #include "family/TarnUtil/core/TarnObject.h"
 #include "family/TarnUtil/core/Units.h"
@@ -9,6 +10,25 @@
 #include <memory>
 
 // The companions as their users meet them: through the exports of their libraries.
+
+namespace
+{
+
+/// Makes the shared log, as derived classes may.
+struct LogMaker : VornLog
+{
+    static void Make()
+    {
+        mpSingleInst = new VornLog; // deleted below
+    }
+    static void Delete()
+    {
+        delete mpSingleInst;
+        mpSingleInst = nullptr;
+    }
+};
+
+} // namespace
 
 TEST(Companions, UnitTableIsReachedThroughTheLibrary)
 {
@@ -33,18 +53,28 @@ TEST(Companions, TextAndFieldsAreReachedThroughTheLibrary)
 
 TEST(Companions, AllUsersShareOneLogPointer)
 {
-    ASSERT_EQ(VornLog::mpSingleInst, nullptr);
-    const auto log = std::make_unique<VornLog>();
-    VornLog::mpSingleInst = log.get();
-    VornLog::mpSingleInst->LogMsg("shared", LOG_INFO);
+    ASSERT_EQ(VornLog::Shared(), nullptr);
+    LogMaker::Make();
+    VornLog::Shared()->LogMsg("shared", LOG_INFO);
     char* raw = nullptr;
-    EXPECT_EQ(VornLog::mpSingleInst->GetLog(raw), 8);
+    EXPECT_EQ(VornLog::Shared()->GetLog(raw), 8);
     const std::unique_ptr<char[]> text(raw);
     EXPECT_STREQ(text.get(), "shared\r\n");
-    VornLog::mpSingleInst = nullptr;
+    LogMaker::Delete();
 }
 
 TEST(Companions, TheLogsTextComesFromItsDerivedClass)
 {
     EXPECT_EQ(vorn::test::SlotOf(&VornLog::GetLog), 2);
+}
+
+TEST(Companions, AProxySetFreesWhatItsUserMade)
+{
+    ProxySet proxies;
+    auto* const proxy = new ProxyInfo; // the set's, from the next line on
+    ASSERT_TRUE(proxies.AddProxy(proxy));
+    EXPECT_TRUE(proxy->mAddress.Parse("joe:secret@[::1]:1080"));
+    EXPECT_STREQ(proxies.GetAt(0)->mAddress.mpHost, "[::1]");
+    EXPECT_TRUE(proxies.DeleteProxy(proxy));
+    EXPECT_EQ(proxies.GetCount(), 0);
 }

@@ -12,6 +12,19 @@ namespace
 {
 constexpr int kBuiltIn = 6;
 
+/// The process's log while it lives.
+struct SharedLog : VornLog
+{
+    SharedLog()
+    {
+        mpSingleInst = this;
+    }
+    ~SharedLog() override
+    {
+        mpSingleInst = nullptr;
+    }
+};
+
 class WinProjectionLibTest : public ProjectionRegistry
 {
 };
@@ -250,12 +263,10 @@ TEST_F(WinProjectionLibTest, ProjectionsOutliveTheRegistry)
 
 TEST_F(WinProjectionLibTest, TheLogNamesWhatIsSkipped)
 {
-    const std::unique_ptr<VornLog> log = std::make_unique<VornLog>();
-    VornLog::mpSingleInst = log.get();
+    SharedLog log;
     EXPECT_TRUE(StartWith({"null_name", "first"}));
-    VornLog::mpSingleInst = nullptr;
     char* raw = nullptr;
-    log->GetLog(raw);
+    log.GetLog(raw);
     const std::unique_ptr<char[]> text(raw);
     ASSERT_NE(text, nullptr);
     EXPECT_EQ(std::string(text.get()),

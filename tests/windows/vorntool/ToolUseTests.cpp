@@ -31,7 +31,12 @@ const std::vector<std::vector<std::string>> kCommands = {{"settings", "get"},
                                                          {"image", "resize"},
                                                          {"image", "rotate"},
                                                          {"morse"},
-                                                         {"stats"}};
+                                                         {"stats"},
+                                                         {"proxy", "list"},
+                                                         {"proxy", "add"},
+                                                         {"proxy", "delete"},
+                                                         {"uri", "parse"},
+                                                         {"log", "show"}};
 
 std::string Joined(const std::vector<std::string>& words)
 {
