@@ -48,13 +48,13 @@ BOOL CDialogBar::Create(CWnd* parent, LPCTSTR templateName, UINT style, UINT id)
 
 LRESULT CDialogBar::HandleInitDialog(WPARAM, LPARAM)
 {
-    const LRESULT result = Default();
+    Default();
     CRect window;
     GetWindowRect(&window);
     m_sizeDefault = window.Size();
     ExecuteDlgInit(m_templateName);
     UpdateData(FALSE);
-    return result;
+    return FALSE; // a bar that appears leaves the focus where it is
 }
 
 CSize CDialogBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)

@@ -138,7 +138,12 @@ void CDockBar::PutIn(CControlBar& bar, vorn::DockRowChoice choice, int wanted)
         former->RemoveControlBar(&bar);
     }
     if (::GetParent(bar.m_hWnd) != m_hWnd)
+    {
+        // The focus must not go along into a window that is not the active one.
+        if (bar.m_pDockSite && ::IsChild(bar.m_hWnd, ::GetFocus()))
+            bar.m_pDockSite->SetFocus();
         ::SetParent(bar.m_hWnd, m_hWnd);
+    }
     InsertEntry(bar, choice, wanted);
     bar.m_pDockBar = this;
     bar.SetBarStyle(StyleFor(bar));

@@ -57,8 +57,11 @@ void CFloatingBarFrame::FitBar()
 {
     const bool visible = m_dock.GetDockedVisibleCount() > 0 && ::IsWindowVisible(::GetWindow(m_hWnd, GW_OWNER));
     RecalcLayout(FALSE);
-    if (visible != (IsWindowVisible() != FALSE))
-        ShowWindow(visible ? SW_SHOWNA : SW_HIDE);
+    if (visible == (IsWindowVisible() != FALSE))
+        return;
+    ShowWindow(visible ? SW_SHOWNA : SW_HIDE);
+    if (visible && ::GetActiveWindow() == ::GetWindow(m_hWnd, GW_OWNER))
+        SendMessage(WM_NCACTIVATE, TRUE);
 }
 
 BOOL CFloatingBarFrame::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)

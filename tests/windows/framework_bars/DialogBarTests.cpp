@@ -86,6 +86,17 @@ TEST_F(DialogBars, AreInitialisedLikeDialogs)
     EXPECT_EQ(2, bar.SendDlgItemMessage(ID_TEST_LIST, CB_GETCOUNT)) << "first contents from the resources";
 }
 
+TEST_F(DialogBars, LeaveTheFocusWhereItIs)
+{
+    ::SetFocus(frame->m_hWnd);
+    CDialogBar other;
+    ASSERT_TRUE(other.Create(frame, IDD_PLAN_BAR, CBRS_TOP, kSecond));
+    EXPECT_EQ(frame->m_hWnd, ::GetFocus());
+    ::SetFocus(*bar.GetDlgItem(ID_TEST_NAME));
+    frame->FloatControlBar(&bar, CPoint(400, 420));
+    EXPECT_EQ(frame->m_hWnd, ::GetFocus()) << "not in a window that is not the active one";
+}
+
 TEST_F(DialogBars, DockAndFloatInTheirSize)
 {
     frame->DockControlBar(&bar, AFX_IDW_DOCKBAR_BOTTOM);

@@ -85,7 +85,8 @@ TEST_F(Docking, NeedsASideThatBothAllow)
     fixed.EnableDocking(0);
     frame->DockControlBar(&fixed);
     EXPECT_EQ(nullptr, fixed.GetDockBar());
-    EXPECT_EQ(CRect(0, 0, 400, 20), PlaceOf(fixed)) << "it stays at its fixed place, as long as the frame";
+    frame->RecalcLayout();
+    EXPECT_EQ(CRect(30, 0, 400, 20), PlaceOf(fixed)) << "it stays at its fixed place, as long as the docks leave it";
     frame->DockControlBar(nullptr);
     frame->DockControlBar(&bar, 12345);
     EXPECT_EQ(frame->Dock(AFX_IDW_DOCKBAR_LEFT), bar.GetDockBar());
