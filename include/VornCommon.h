@@ -86,3 +86,7 @@
 #include "toolkit/options/BaseOptionTreeDlg.h"
 #include "toolkit/options/OptionTree.h"
 #include "toolkit/textlayout/TextLayout.h"
+#include "toolkit/tooltips/InfoTip.h"
+#include "toolkit/tooltips/ToolTipCtrlEx.h"
+#include "toolkit/tooltips/ToolTipDlg.h"
+#include "toolkit/tooltips/TrackingToolTip.h"

@@ -13,9 +13,9 @@ constexpr UINT kLastBar = 0xE8FF;
 
 } // namespace
 
-IMPLEMENT_DYNAMIC(LayoutDialog, CDialog)
+IMPLEMENT_DYNAMIC(LayoutDialog, ToolTipDlg)
 
-BEGIN_MESSAGE_MAP(LayoutDialog, CDialog)
+BEGIN_MESSAGE_MAP(LayoutDialog, ToolTipDlg)
 ON_WM_SIZE()
 ON_WM_GETMINMAXINFO()
 ON_WM_ERASEBKGND()
@@ -24,13 +24,13 @@ ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 LayoutDialog::LayoutDialog(UINT nIDTemplate, CWnd* parent, LPCSTR section, bool bStatusBar, bool bResizable)
-    : CDialog(nIDTemplate, parent), LayoutMgr(this), m_strSection(section), m_bStatusBar(bStatusBar),
+    : ToolTipDlg(nIDTemplate, parent), LayoutMgr(this), m_strSection(section), m_bStatusBar(bStatusBar),
       m_bResizable(bResizable)
 {
 }
 
 LayoutDialog::LayoutDialog(LPCTSTR templateName, CWnd* parent, LPCSTR section, bool bStatusBar, bool bResizable)
-    : CDialog(templateName, parent), LayoutMgr(this), m_strSection(section), m_bStatusBar(bStatusBar),
+    : ToolTipDlg(templateName, parent), LayoutMgr(this), m_strSection(section), m_bStatusBar(bStatusBar),
       m_bResizable(bResizable)
 {
 }
@@ -45,7 +45,7 @@ LayoutDialog::~LayoutDialog()
 
 BOOL LayoutDialog::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    ToolTipDlg::OnInitDialog();
     if (m_bResizable)
     {
         TakeSizingFrame();
@@ -75,6 +75,21 @@ void LayoutDialog::TakeSizingFrame()
     GetClientRect(&after);
     SetWindowPos(nullptr, 0, 0, window.Width() + before.Width() - after.Width(),
                  window.Height() + before.Height() - after.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    MatchSystemMenu();
+}
+
+/// The menu was made for the template's frame.
+void LayoutDialog::MatchSystemMenu()
+{
+    ::GetSystemMenu(m_hWnd, TRUE);
+    const HMENU menu = ::GetSystemMenu(m_hWnd, FALSE);
+    const auto match = [this, menu](UINT command, DWORD style)
+    {
+        const UINT state = (GetStyle() & style) != 0 ? MF_ENABLED : MF_GRAYED;
+        ::EnableMenuItem(menu, command, MF_BYCOMMAND | state);
+    };
+    match(SC_SIZE, WS_THICKFRAME);
+    match(SC_MAXIMIZE, WS_MAXIMIZEBOX);
 }
 
 void LayoutDialog::AddStatusBar()
@@ -86,6 +101,12 @@ void LayoutDialog::AddStatusBar()
         m_statusBar.SetIndicators(&pane, 1);
         RepositionBars(kFirstBar, kLastBar, 0);
     }
+}
+
+void LayoutDialog::UpdateLayout(bool bRedraw)
+{
+    LayoutMgr::UpdateLayout(bRedraw);
+    GetToolTipCtrl().UpdateTipRects();
 }
 
 CRect LayoutDialog::GetRect()
@@ -102,7 +123,7 @@ CRect LayoutDialog::GetRect()
 
 void LayoutDialog::OnSize(UINT type, int cx, int cy)
 {
-    CDialog::OnSize(type, cx, cy);
+    ToolTipDlg::OnSize(type, cx, cy);
     if (cx != 0 || cy != 0)
     {
         UpdateLayout(false);
@@ -112,7 +133,7 @@ void LayoutDialog::OnSize(UINT type, int cx, int cy)
 
 void LayoutDialog::OnGetMinMaxInfo(MINMAXINFO* info)
 {
-    CDialog::OnGetMinMaxInfo(info);
+    ToolTipDlg::OnGetMinMaxInfo(info);
     LimitTrackSizes(info);
 }
 
@@ -125,7 +146,7 @@ BOOL LayoutDialog::OnEraseBkgnd(CDC* dc)
 /// Not every system tells a dialog its size when it is first shown.
 void LayoutDialog::OnShowWindow(BOOL show, UINT status)
 {
-    CDialog::OnShowWindow(show, status);
+    ToolTipDlg::OnShowWindow(show, status);
     if (show)
     {
         UpdateLayout(false);
@@ -139,7 +160,7 @@ void LayoutDialog::OnDestroy()
         Save(m_strSection);
     }
     ReleaseRoot();
-    CDialog::OnDestroy();
+    ToolTipDlg::OnDestroy();
 }
 
 } // namespace LayoutManagement

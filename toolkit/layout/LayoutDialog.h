@@ -1,17 +1,17 @@
 #pragma once
 
 /// @file
-/// A dialog that lays out its controls.
+/// A dialog that lays out its controls and explains them.
 #include "framework/bars/CStatusBar.h"
-#include "framework/dialog/CDialog.h"
 #include "toolkit/layout/LayoutMgr.h"
+#include "toolkit/tooltips/ToolTipDlg.h"
 
 namespace LayoutManagement
 {
 
-/// A dialog whose OnInitDialog() declares its panes, after that of this class, and calls UpdateLayout(false). Sizes,
-/// limits, background and placement follow by themselves.
-class VORNCOMMON_API LayoutDialog : public CDialog, protected LayoutMgr
+/// A dialog whose OnInitDialog() declares its panes, after that of this class, and calls UpdateLayout(false); there it
+/// adds its tips, too. Sizes, limits, background and placement follow by themselves.
+class VORNCOMMON_API LayoutDialog : public ToolTipDlg, protected LayoutMgr
 {
     DECLARE_DYNAMIC(LayoutDialog)
 
@@ -23,7 +23,11 @@ public:
     LayoutDialog(LPCTSTR templateName, CWnd* parent, LPCSTR section, bool bStatusBar = false, bool bResizable = true);
     ~LayoutDialog() override;
 
+    /// In this order: controls, icon and tips; the sizing frame; the status bar; the placement.
+    /// @return TRUE
     BOOL OnInitDialog() override;
+    void UpdateLayout(bool bRedraw = false) override;
+    using LayoutMgr::UpdateLayout;
     /// The client rectangle without the status bar.
     CRect GetRect() override;
 
@@ -43,6 +47,7 @@ protected:
 
 private:
     void TakeSizingFrame();
+    void MatchSystemMenu();
     void AddStatusBar();
 };
 

@@ -3,6 +3,7 @@
 #include "framework/window/CWinApp.h"
 
 #include <cstring>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -17,6 +18,10 @@ public:
     BOOL GetProfileBinary(LPCTSTR section, LPCTSTR entry, LPBYTE* data, UINT* size) override
     {
         ++reads;
+        if (whenRead)
+        {
+            whenRead();
+        }
         const auto found = stored.find(Key(section, entry));
         if (found == stored.end())
         {
@@ -29,6 +34,10 @@ public:
     }
     BOOL WriteProfileBinary(LPCTSTR section, LPCTSTR entry, LPBYTE data, UINT size) override
     {
+        if (whenWritten)
+        {
+            whenWritten();
+        }
         stored[Key(section, entry)].assign(data, data + size);
         return TRUE;
     }
@@ -39,6 +48,8 @@ public:
 
     std::map<std::string, std::vector<BYTE>> stored;
     int reads = 0;
+    std::function<void()> whenRead;
+    std::function<void()> whenWritten;
 };
 
 /// The test program's application.

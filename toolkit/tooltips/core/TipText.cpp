@@ -1,0 +1,34 @@
+#include "toolkit/tooltips/core/TipText.h"
+
+namespace vorn
+{
+namespace
+{
+constexpr int kInfoBoxWidth = 300;
+} // namespace
+
+CString TipField(const CString& text, int index, char separator)
+{
+    int start = 0;
+    for (int field = 0; index >= 0; ++field)
+    {
+        const int end = text.Find(separator, start);
+        if (field == index)
+        {
+            return end < 0 ? text.Mid(start) : text.Mid(start, end - start);
+        }
+        if (end < 0)
+        {
+            break;
+        }
+        start = end + 1;
+    }
+    return CString();
+}
+
+int TipWrapWidth(int maxWidth, bool infoBox)
+{
+    return maxWidth > 0 ? maxWidth : infoBox ? kInfoBoxWidth : 0;
+}
+
+} // namespace vorn
