@@ -89,4 +89,6 @@
 #include "toolkit/tooltips/InfoTip.h"
 #include "toolkit/tooltips/ToolTipCtrlEx.h"
 #include "toolkit/tooltips/ToolTipDlg.h"
+#include "toolkit/tooltips/ToolTipDlgBar.h"
+#include "toolkit/tooltips/ToolTipPropertyPage.h"
 #include "toolkit/tooltips/TrackingToolTip.h"
