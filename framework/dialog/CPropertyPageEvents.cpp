@@ -53,8 +53,10 @@ BOOL CPropertyPage::OnWizardFinish()
 
 BOOL CPropertyPage::PreTranslateMessage(MSG* message)
 {
-    // Keys are the sheet's, or Tab would never leave the page and Return never reach the sheet's buttons.
-    return CWnd::PreTranslateMessage(message);
+    // What dialogs do with keys is the sheet's to do, or Tab would never leave the page and Return never reach the
+    // sheet's buttons.
+    FilterToolTipMessage(message);
+    return FALSE;
 }
 
 bool CPropertyPage::AnswerSheet(UINT code, LRESULT& answer)

@@ -125,6 +125,14 @@ TEST_F(LayoutSheet, HelpTakesPartOnlyWithItsFlag)
     ExpectRow({IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP});
 }
 
+TEST_F(LayoutSheet, HelpStaysHiddenWhenOnlyTheSheetHasTheFlag)
+{
+    m_sheet.m_psh.dwFlags |= PSH_HASHELP;
+    ASSERT_TRUE(m_sheet.Create());
+    EXPECT_FALSE(::IsWindowEnabled(m_sheet.Part(IDHELP))) << "the shown page has no help";
+    EXPECT_LE(m_sheet.Place(ID_APPLY_NOW).right, m_sheet.Client().cx - 5);
+}
+
 TEST_F(LayoutSheet, ApplyIsLeftOutWithItsFlag)
 {
     m_sheet.m_psh.dwFlags |= PSH_NOAPPLYNOW;
@@ -198,6 +206,28 @@ TEST_F(LayoutSheet, MinimisedItKeepsItsLayout)
     m_sheet.ShowWindow(SW_RESTORE);
     EXPECT_EQ(tabs, m_sheet.Tabs());
     EXPECT_EQ(page, m_sheet.PlaceOf(m_route));
+}
+
+TEST_F(LayoutSheet, SheetAndPagePaintTheirOwnBackground)
+{
+    ASSERT_TRUE(m_sheet.Create());
+    const HDC dc = ::GetDC(m_sheet.m_hWnd);
+    EXPECT_EQ(TRUE, m_sheet.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc)));
+    EXPECT_EQ(TRUE, m_route.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc)));
+    ::ReleaseDC(m_sheet.m_hWnd, dc);
+}
+
+TEST_F(LayoutSheet, ThatIsPartOfAnotherWindowHasNoFrameOfItsOwn)
+{
+    CWnd owner;
+    ASSERT_TRUE(owner.CreateEx(0, "STATIC", "", WS_POPUP, 0, 0, 600, 400, nullptr, nullptr));
+    ASSERT_TRUE(m_sheet.Create(&owner, WS_CHILD | WS_VISIBLE, 0));
+    EXPECT_EQ(0U, m_sheet.GetStyle() & WS_THICKFRAME);
+    m_sheet.MoveWindow(0, 0, 580, 390);
+    EXPECT_EQ(CSize(580, 390), m_sheet.Client());
+    EXPECT_EQ(m_sheet.PageArea(), m_sheet.PlaceOf(m_route));
+    m_sheet.DestroyWindow();
+    owner.DestroyWindow();
 }
 
 TEST_F(LayoutSheet, WithoutPagesNothingIsOpened)
