@@ -7,9 +7,9 @@
 namespace LayoutManagement
 {
 
-IMPLEMENT_DYNAMIC(LayoutPropertyPage, CPropertyPage)
+IMPLEMENT_DYNAMIC(LayoutPropertyPage, ToolTipPropertyPage)
 
-BEGIN_MESSAGE_MAP(LayoutPropertyPage, CPropertyPage)
+BEGIN_MESSAGE_MAP(LayoutPropertyPage, ToolTipPropertyPage)
 ON_WM_SIZE()
 ON_WM_GETMINMAXINFO()
 ON_WM_ERASEBKGND()
@@ -23,12 +23,12 @@ LayoutPropertyPage::LayoutPropertyPage() : LayoutMgr(this)
 }
 
 LayoutPropertyPage::LayoutPropertyPage(UINT nIDTemplate, UINT nIDCaption)
-    : CPropertyPage(nIDTemplate, nIDCaption), LayoutMgr(this)
+    : ToolTipPropertyPage(nIDTemplate, nIDCaption), LayoutMgr(this)
 {
 }
 
 LayoutPropertyPage::LayoutPropertyPage(LPCTSTR templateName, UINT nIDCaption)
-    : CPropertyPage(templateName, nIDCaption), LayoutMgr(this)
+    : ToolTipPropertyPage(templateName, nIDCaption), LayoutMgr(this)
 {
 }
 
@@ -36,13 +36,13 @@ LayoutPropertyPage::~LayoutPropertyPage() = default;
 
 BOOL LayoutPropertyPage::OnInitDialog()
 {
-    CPropertyPage::OnInitDialog();
+    ToolTipPropertyPage::OnInitDialog();
     return TRUE;
 }
 
 BOOL LayoutPropertyPage::OnSetActive()
 {
-    const BOOL result = CPropertyPage::OnSetActive();
+    const BOOL result = ToolTipPropertyPage::OnSetActive();
     UpdateLayout(false);
     return result;
 }
@@ -54,7 +54,7 @@ CRect LayoutPropertyPage::GetRect()
 
 void LayoutPropertyPage::OnSize(UINT type, int cx, int cy)
 {
-    CPropertyPage::OnSize(type, cx, cy);
+    ToolTipPropertyPage::OnSize(type, cx, cy);
     if (cx != 0 || cy != 0)
     {
         UpdateLayout(false);
@@ -64,7 +64,7 @@ void LayoutPropertyPage::OnSize(UINT type, int cx, int cy)
 
 void LayoutPropertyPage::OnGetMinMaxInfo(MINMAXINFO* info)
 {
-    CPropertyPage::OnGetMinMaxInfo(info);
+    ToolTipPropertyPage::OnGetMinMaxInfo(info);
     LimitTrackSizes(info);
 }
 
@@ -77,7 +77,7 @@ BOOL LayoutPropertyPage::OnEraseBkgnd(CDC* dc)
 /// Wherever the system puts the page when it is shown, it stands in the sheet's page area.
 void LayoutPropertyPage::OnWindowPosChanging(WINDOWPOS* position)
 {
-    CPropertyPage::OnWindowPosChanging(position);
+    ToolTipPropertyPage::OnWindowPosChanging(position);
     auto* const sheet = dynamic_cast<LayoutPropertySheet*>(GetParentSheet());
     CRect area;
     if (sheet != nullptr && sheet->GetPageArea(area))
@@ -92,7 +92,7 @@ void LayoutPropertyPage::OnWindowPosChanging(WINDOWPOS* position)
 
 void LayoutPropertyPage::OnWindowPosChanged(WINDOWPOS* position)
 {
-    CPropertyPage::OnWindowPosChanged(position);
+    ToolTipPropertyPage::OnWindowPosChanged(position);
     if ((position->flags & SWP_NOSIZE) == 0)
     {
         UpdateLayout(false);
@@ -102,7 +102,7 @@ void LayoutPropertyPage::OnWindowPosChanged(WINDOWPOS* position)
 void LayoutPropertyPage::OnDestroy()
 {
     ReleaseRoot();
-    CPropertyPage::OnDestroy();
+    ToolTipPropertyPage::OnDestroy();
 }
 
 } // namespace LayoutManagement

@@ -1,16 +1,16 @@
 #pragma once
 
 /// @file
-/// A property page that lays out its controls.
-#include "framework/dialog/CPropertyPage.h"
+/// A property page that lays out its controls and explains them.
 #include "toolkit/layout/LayoutMgr.h"
+#include "toolkit/tooltips/ToolTipPropertyPage.h"
 
 namespace LayoutManagement
 {
 
 /// A page whose OnInitDialog() declares its panes, after that of this class. In a LayoutPropertySheet it fills the
 /// sheet's page area at every size; in another sheet it has the size that the sheet gives it.
-class VORNCOMMON_API LayoutPropertyPage : public CPropertyPage, protected LayoutMgr
+class VORNCOMMON_API LayoutPropertyPage : public ToolTipPropertyPage, protected LayoutMgr
 {
     DECLARE_DYNAMIC(LayoutPropertyPage)
 

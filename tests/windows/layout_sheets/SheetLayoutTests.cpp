@@ -208,6 +208,15 @@ TEST_F(LayoutSheet, MinimisedItKeepsItsLayout)
     EXPECT_EQ(page, m_sheet.PlaceOf(m_route));
 }
 
+TEST_F(LayoutSheet, PagesCanExplainTheirControls)
+{
+    ASSERT_TRUE(m_sheet.Create());
+    EXPECT_TRUE(m_route.IsKindOf(RUNTIME_CLASS(ToolTipPropertyPage)));
+    EXPECT_NE(nullptr, m_route.GetToolTipCtrl().m_hWnd);
+    m_sheet.DestroyWindow();
+    EXPECT_EQ(nullptr, m_route.GetToolTipCtrl().m_hWnd);
+}
+
 TEST_F(LayoutSheet, SheetAndPagePaintTheirOwnBackground)
 {
     ASSERT_TRUE(m_sheet.Create());
