@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <cstddef>
 
 namespace
 {
@@ -15,7 +14,7 @@ COLORREF PureColor(HDC dc, COLORREF color)
     return nearest != CLR_INVALID ? nearest : color; // metafiles have no pixels
 }
 
-/// Fills rectangles with one colour, on any device and with any mapping.
+/// Fills rectangles with one colour.
 class SolidFill
 {
 public:
@@ -43,78 +42,6 @@ private:
     HDC m_dc;
     HBRUSH m_brush;
     HGDIOBJ m_former;
-};
-
-/// Fills rectangles that come from left to right, many with one call: for most devices that call is dearer than what it
-/// paints.
-class GatheredFill
-{
-public:
-    GatheredFill(HDC dc, COLORREF color) : m_dc(dc), m_former(::SetDCBrushColor(dc, PureColor(dc, color)))
-    {
-    }
-    ~GatheredFill()
-    {
-        Flush();
-        ::SetDCBrushColor(m_dc, m_former);
-    }
-    GatheredFill(const GatheredFill&) = delete;
-    GatheredFill& operator=(const GatheredFill&) = delete;
-
-    /// Where such a fill gives the same pixels as single ones do.
-    static bool IsPossible(HDC dc)
-    {
-        const DWORD type = ::GetObjectType(dc);
-        return (type == OBJ_MEMDC || type == OBJ_DC) && ::GetMapMode(dc) == MM_TEXT &&
-               ::GetGraphicsMode(dc) == GM_COMPATIBLE && ::GetROP2(dc) == R2_COPYPEN;
-    }
-
-    void Fill(LONG left, LONG top, LONG right, LONG bottom)
-    {
-        if (left >= right || top >= bottom)
-        {
-            return;
-        }
-        m_data.rects[m_data.head.nCount++] = {left, top, right, bottom};
-        if (m_data.head.nCount == kMost)
-        {
-            Flush();
-        }
-    }
-
-private:
-    static constexpr DWORD kMost = 24; // an ident of letters has no more
-
-    /// RGNDATA with room.
-    struct Data
-    {
-        RGNDATAHEADER head{};
-        RECT rects[kMost]; // as many as the head counts
-    };
-    static_assert(offsetof(Data, rects) == offsetof(RGNDATA, Buffer));
-
-    void Flush()
-    {
-        RGNDATAHEADER& head = m_data.head;
-        if (head.nCount == 0)
-        {
-            return;
-        }
-        const RECT& first = m_data.rects[0];
-        head.dwSize = sizeof head;
-        head.iType = RDH_RECTANGLES;
-        head.nRgnSize = head.nCount * static_cast<DWORD>(sizeof(RECT));
-        head.rcBound = {first.left, first.top, m_data.rects[head.nCount - 1].right, first.bottom};
-        const HRGN region =
-            ::ExtCreateRegion(nullptr, head.dwSize + head.nRgnSize, reinterpret_cast<const RGNDATA*>(&m_data));
-        ::FillRgn(m_dc, region, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
-        ::DeleteObject(region);
-        head.nCount = 0;
-    }
-
-    HDC m_dc;
-    COLORREF m_former;
-    Data m_data;
 };
 
 constexpr LONG kFar = 1 << 14;          // from here on the system's own arithmetic is not trusted
@@ -152,31 +79,6 @@ RECT VisiblePart(HDC dc)
     return {held(left), held(top), held(right), held(bottom)};
 }
 
-/// An ident as it is asked for.
-struct Ident
-{
-    int x;
-    int y;
-    int unit;
-    int align;
-    const char* text;
-};
-
-/// Fills the blocks of an ident, cut to the bounds.
-template <class Fill>
-void FillBlocks(Fill&& fill, const Ident& ident, const RECT& bounds)
-{
-    const LONG top = Within(ident.y, bounds.top, bounds.bottom);
-    const LONG bottom = Within(static_cast<long long>(ident.y) + ident.unit, bounds.top, bounds.bottom);
-    vorn::VisitMorse(ident.x, ident.unit, ident.align, ident.text,
-                     [&](const vorn::MorseBlock& block)
-                     {
-                         const LONG left = Within(block.left, bounds.left, bounds.right);
-                         const LONG right = Within(block.right, bounds.left, bounds.right);
-                         fill.Fill(left, top, right, bottom);
-                     });
-}
-
 } // namespace
 
 void DrawMorse(CDC* dc, COLORREF color, int x, int y, int unit, int align, const char* text)
@@ -187,14 +89,16 @@ void DrawMorse(CDC* dc, COLORREF color, int x, int y, int unit, int align, const
     {
         return;
     }
-    const Ident ident = {x, y, unit, align, text};
     const bool isNear = IsNear(x) && IsNear(y) && IsNear(unit) && IsNear(width);
-    if (isNear && GatheredFill::IsPossible(output))
-    {
-        FillBlocks(GatheredFill(output, color), ident, Around(4 * kFar));
-    }
-    else
-    {
-        FillBlocks(SolidFill(output, color), ident, isNear ? Around(4 * kFar) : VisiblePart(output));
-    }
+    const RECT bounds = isNear ? Around(4 * kFar) : VisiblePart(output);
+    const LONG top = Within(y, bounds.top, bounds.bottom);
+    const LONG bottom = Within(static_cast<long long>(y) + unit, bounds.top, bounds.bottom);
+    const SolidFill fill(output, color);
+    vorn::VisitMorse(x, unit, align, text,
+                     [&](const vorn::MorseBlock& block)
+                     {
+                         const LONG left = Within(block.left, bounds.left, bounds.right);
+                         const LONG right = Within(block.right, bounds.left, bounds.right);
+                         fill.Fill(left, top, right, bottom);
+                     });
 }

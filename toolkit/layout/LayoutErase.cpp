@@ -96,23 +96,23 @@ private:
 };
 
 /// Frames around other controls, and what shows the background through itself.
-bool IsSeenThrough(ControlClass kind, const WINDOWINFO& info)
+bool IsSeenThrough(HWND control, ControlClass kind, LONG style)
 {
-    const DWORD type = info.dwStyle & SS_TYPEMASK;
+    const LONG type = style & SS_TYPEMASK;
     if (kind == ControlClass::Button)
     {
-        return (info.dwStyle & 0xF) == BS_GROUPBOX;
+        return (style & 0xF) == BS_GROUPBOX;
     }
     if (kind == ControlClass::Static && (type == SS_ETCHEDFRAME || (type >= SS_BLACKFRAME && type <= SS_WHITEFRAME)))
     {
         return true;
     }
-    return (info.dwExStyle & WS_EX_TRANSPARENT) != 0;
+    return (GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_TRANSPARENT) != 0;
 }
 
 /// A tab control: its body and, where its tabs stand at the top in one row, those; the rest of the row belongs to the
 /// background.
-void AppendTab(HWND tab, const RECT& bounds, DWORD style, std::vector<RECT>& covers)
+void AppendTab(HWND tab, const RECT& bounds, LONG style, std::vector<RECT>& covers)
 {
     const int count = static_cast<int>(SendMessageA(tab, TCM_GETITEMCOUNT, 0, 0));
     RECT first{};
@@ -177,21 +177,21 @@ std::vector<RECT> Covered(HWND window)
     const ClientMapping mapping(window);
     for (const HWND control : ChildrenOf(window))
     {
-        WINDOWINFO info{};
-        info.cbSize = sizeof info;
-        if (!GetWindowInfo(control, &info) || (info.dwStyle & WS_VISIBLE) == 0)
+        const LONG style = GetWindowLongA(control, GWL_STYLE);
+        RECT bounds{};
+        if ((style & WS_VISIBLE) == 0 || !GetWindowRect(control, &bounds))
         {
             continue;
         }
-        const ControlClass kind = classes.Of(control, info.atomWindowType);
-        const RECT bounds = mapping.Of(info.rcWindow);
-        if (IsSeenThrough(kind, info))
+        const ControlClass kind = classes.Of(control, static_cast<ATOM>(GetClassLongA(control, GCW_ATOM)));
+        if (IsSeenThrough(control, kind, style))
         {
             continue;
         }
+        bounds = mapping.Of(bounds);
         if (kind == ControlClass::Tab)
         {
-            AppendTab(control, bounds, info.dwStyle, covers);
+            AppendTab(control, bounds, style, covers);
         }
         else
         {
