@@ -18,9 +18,14 @@ int FontHeight(HWND window, HFONT font)
     return static_cast<int>(metrics.tmHeight);
 }
 
-CSize CheckSize()
+int CheckWidth()
 {
-    return {::GetSystemMetrics(SM_CXMENUCHECK), ::GetSystemMetrics(SM_CYMENUCHECK)};
+    return ::GetSystemMetrics(SM_CXMENUCHECK);
+}
+
+int CheckHeight()
+{
+    return ::GetSystemMetrics(SM_CYMENUCHECK);
 }
 
 UINT CheckLook(int check)
@@ -40,7 +45,7 @@ UINT CheckLook(int check)
 int CCheckListBox::ItemHeight() const
 {
     const auto font = reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));
-    return std::max(FontHeight(m_hWnd, font), static_cast<int>(CheckSize().cy) + 2);
+    return std::max(FontHeight(m_hWnd, font), CheckHeight() + 2);
 }
 
 void CCheckListBox::MeasureItem(LPMEASUREITEMSTRUCT item)
@@ -55,9 +60,9 @@ CRect CCheckListBox::OnGetCheckPosition(CRect, CRect checkBox)
 
 CRect CCheckListBox::CheckRect(const CRect& item)
 {
-    const CSize size = CheckSize();
-    const CPoint corner(item.left + 1, item.top + std::max(0, (item.Height() - static_cast<int>(size.cy)) / 2));
-    return OnGetCheckPosition(item, CRect(corner, size));
+    const int left = static_cast<int>(item.left) + 1;
+    const int top = static_cast<int>(item.top) + std::max(0, (item.Height() - CheckHeight()) / 2);
+    return OnGetCheckPosition(item, CRect(left, top, left + CheckWidth(), top + CheckHeight()));
 }
 
 BOOL CCheckListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)

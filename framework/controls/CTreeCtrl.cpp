@@ -181,7 +181,7 @@ CEdit* CTreeCtrl::GetEditControl() const
 
 BOOL CTreeCtrl::GetItemRect(HTREEITEM item, LPRECT rect, BOOL textOnly) const
 {
-    std::memcpy(rect, &item, sizeof(item)); // the item travels in the rectangle's place
+    std::memcpy(rect, &item, sizeof(HTREEITEM)); // the item travels in the rectangle's place
     return Ask(*this, TVM_GETITEMRECT, static_cast<WPARAM>(textOnly), rect);
 }
 

@@ -3,6 +3,8 @@
 
 #include "framework/gdi/CClientDC.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr UINT kNoCode = 0xFF;
@@ -75,19 +77,13 @@ BOOL CScrollView::OnScrollBy(CSize pixels, BOOL doScroll)
 {
     if (m_mapMode == kFit || m_mapMode == kUnset)
         return FALSE;
-    const CPoint before = m_position;
     const CSize farthest = Farthest();
-    const CPoint wanted = before + pixels;
-    const CPoint after(static_cast<int>(wanted.x < 0             ? 0
-                                        : wanted.x > farthest.cx ? farthest.cx
-                                                                 : wanted.x),
-                       static_cast<int>(wanted.y < 0             ? 0
-                                        : wanted.y > farthest.cy ? farthest.cy
-                                                                 : wanted.y));
-    if (after == before)
+    const LONG x = std::clamp(m_position.x + pixels.cx, 0L, farthest.cx);
+    const LONG y = std::clamp(m_position.y + pixels.cy, 0L, farthest.cy);
+    if (x == m_position.x && y == m_position.y)
         return FALSE;
     if (doScroll)
-        MoveTo(after);
+        MoveTo(CPoint(static_cast<int>(x), static_cast<int>(y)));
     return TRUE;
 }
 
