@@ -14,9 +14,9 @@ constexpr UINT kLastBar = 0xE8FF;
 
 } // namespace
 
-IMPLEMENT_DYNAMIC(LayoutDialogBar, CDialogBar)
+IMPLEMENT_DYNAMIC(LayoutDialogBar, ToolTipDlgBar)
 
-BEGIN_MESSAGE_MAP(LayoutDialogBar, CDialogBar)
+BEGIN_MESSAGE_MAP(LayoutDialogBar, ToolTipDlgBar)
 ON_MESSAGE(WM_INITDIALOG, &LayoutDialogBar::OnInitBar)
 ON_WM_SIZE()
 ON_WM_GETMINMAXINFO()
@@ -69,7 +69,7 @@ CSize LayoutDialogBar::LayoutMinimum()
 
 CSize LayoutDialogBar::CalcDynamicLayout(int length, DWORD mode)
 {
-    const CSize size = CDialogBar::CalcDynamicLayout(length, mode);
+    const CSize size = ToolTipDlgBar::CalcDynamicLayout(length, mode);
     const CSize least = LayoutMinimum();
     if (least == CSize(0, 0))
     {
@@ -84,11 +84,12 @@ CSize LayoutDialogBar::CalcDynamicLayout(int length, DWORD mode)
 void LayoutDialogBar::UpdateLayout(bool bRedraw)
 {
     LayoutMgr::UpdateLayout(bRedraw);
+    UpdateToolRects();
 }
 
 void LayoutDialogBar::OnSize(UINT type, int cx, int cy)
 {
-    CDialogBar::OnSize(type, cx, cy);
+    ToolTipDlgBar::OnSize(type, cx, cy);
     if (cx != 0 || cy != 0)
     {
         UpdateLayout(false);
@@ -98,7 +99,7 @@ void LayoutDialogBar::OnSize(UINT type, int cx, int cy)
 
 void LayoutDialogBar::OnGetMinMaxInfo(MINMAXINFO* info)
 {
-    CDialogBar::OnGetMinMaxInfo(info);
+    ToolTipDlgBar::OnGetMinMaxInfo(info);
     LimitTrackSizes(info);
 }
 
@@ -115,7 +116,7 @@ void LayoutDialogBar::OnDestroy()
         Save(m_strSection);
     }
     ReleaseRoot();
-    CDialogBar::OnDestroy();
+    ToolTipDlgBar::OnDestroy();
 }
 
 } // namespace LayoutManagement

@@ -1,16 +1,16 @@
 #pragma once
 
 /// @file
-/// A control bar that lays out its controls.
-#include "framework/bars/CDialogBar.h"
+/// A control bar that lays out its controls and explains them.
 #include "toolkit/layout/LayoutMgr.h"
+#include "toolkit/tooltips/ToolTipDlgBar.h"
 
 namespace LayoutManagement
 {
 
-/// A dialog bar whose OnInitDialog() declares its panes, after that of this class. The bar is never smaller than
-/// its layout asks for, and its controls follow its size, wherever it is docked or floats.
-class VORNCOMMON_API LayoutDialogBar : public CDialogBar, protected LayoutMgr
+/// A dialog bar whose OnInitDialog() declares its panes, after that of this class, and adds its tips. The bar is never
+/// smaller than its layout asks for, and its controls follow its size, wherever it is docked or floats.
+class VORNCOMMON_API LayoutDialogBar : public ToolTipDlgBar, protected LayoutMgr
 {
     DECLARE_DYNAMIC(LayoutDialogBar)
 
@@ -22,6 +22,7 @@ public:
     /// The size that the framework would give it, at least the layout's smallest with the root borders and the bar's
     /// own frame.
     CSize CalcDynamicLayout(int length, DWORD mode) override;
+    /// Tells the tips where the controls are, too.
     void UpdateLayout(bool bRedraw = false) override;
     using LayoutMgr::UpdateLayout;
 

@@ -91,6 +91,24 @@ TEST_F(LayoutBar, CountsItsGripperWhereItLies)
     EXPECT_EQ(least, OnScreen(bar).Size());
 }
 
+TEST_F(LayoutBar, ExplainsItsControls)
+{
+    PlainBar bar;
+    Make(bar, CBRS_ALIGN_TOP);
+    const UINT tips[] = {IDC_SHOW, 700, IDC_FIND, 701, 999, 702};
+    bar.AddTips(tips, 3);
+    EXPECT_EQ(2, bar.GetToolTipCtrl().GetToolCount()) << "one of the controls does not exist";
+    frame->RecalcLayout();
+    const CPoint before = OnScreen(*bar.GetDlgItem(IDC_SHOW)).CenterPoint();
+    EXPECT_NE(nullptr, bar.GetToolTipCtrl().FindToolFromPoint(before));
+    CRect outer = OnScreen(*frame);
+    frame->SetWindowPos(nullptr, 0, 0, outer.Width() + 200, outer.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(nullptr, bar.GetToolTipCtrl().FindToolFromPoint(before)) << "the button has moved";
+    EXPECT_NE(nullptr, bar.GetToolTipCtrl().FindToolFromPoint(before + CSize(200, 0)));
+    bar.DestroyWindow();
+    EXPECT_EQ(nullptr, bar.GetToolTipCtrl().m_hWnd);
+}
+
 TEST_F(LayoutBar, FillsItsBackgroundBesideTheControls)
 {
     PlainBar bar;
