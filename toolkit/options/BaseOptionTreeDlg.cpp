@@ -1,6 +1,7 @@
 #include "toolkit/options/BaseOptionTreeDlg.h"
 
 #include "framework/window/MessageMap.h"
+#include "toolkit/options/PaintingHeldBack.h"
 
 #include <cstdarg>
 #include <utility>
@@ -120,6 +121,14 @@ void BaseOptionTreeDlg::OnSelectCategory(HTREEITEM item)
     }
     for (const auto& [id, show] : controls)
     {
+        if (!show)
+        {
+            LeaveControl(::GetDlgItem(m_hWnd, static_cast<int>(id)));
+        }
+    }
+    const vorn::PaintingHeldBack heldBack(*this);
+    for (const auto& [id, show] : controls)
+    {
         ShowControl(::GetDlgItem(m_hWnd, static_cast<int>(id)), show);
     }
     UpdateLayout(true);
@@ -127,22 +136,17 @@ void BaseOptionTreeDlg::OnSelectCategory(HTREEITEM item)
 
 void BaseOptionTreeDlg::ShowControl(HWND control, bool show)
 {
-    if (control == nullptr || show == IsShown(control))
+    if (control != nullptr && show != IsShown(control))
     {
-        return;
+        ::ShowWindow(control, show ? SW_SHOWNA : SW_HIDE);
     }
-    if (!show)
-    {
-        LeaveControl(control);
-    }
-    ::ShowWindow(control, show ? SW_SHOWNA : SW_HIDE);
 }
 
 /// The focus must not stay in what cannot be seen.
 void BaseOptionTreeDlg::LeaveControl(HWND control)
 {
     const HWND focus = ::GetFocus();
-    if (focus != nullptr && (focus == control || ::IsChild(control, focus)))
+    if (control != nullptr && focus != nullptr && (focus == control || ::IsChild(control, focus)))
     {
         mOptionTree.SetFocus();
     }

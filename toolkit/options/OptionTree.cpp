@@ -2,6 +2,7 @@
 
 #include "framework/window/MessageMap.h"
 #include "toolkit/core/CategoryPath.h"
+#include "toolkit/options/PaintingHeldBack.h"
 
 IMPLEMENT_DYNAMIC(OptionTree, CTreeCtrl)
 
@@ -13,33 +14,6 @@ END_MESSAGE_MAP()
 
 namespace
 {
-
-/// A visible tree paints itself on every insertion, which takes a minute for a thousand items.
-class PaintingHeldBack
-{
-public:
-    explicit PaintingHeldBack(CWnd& window) : m_window(window), m_visible((window.GetStyle() & WS_VISIBLE) != 0)
-    {
-        if (m_visible) // a hidden window would be made visible by the other message
-        {
-            m_window.SetRedraw(FALSE);
-        }
-    }
-    ~PaintingHeldBack()
-    {
-        if (m_visible && IsWindow(m_window.GetSafeHwnd()))
-        {
-            m_window.SetRedraw(TRUE);
-            m_window.Invalidate(TRUE);
-        }
-    }
-    PaintingHeldBack(const PaintingHeldBack&) = delete;
-    PaintingHeldBack& operator=(const PaintingHeldBack&) = delete;
-
-private:
-    CWnd& m_window;
-    bool m_visible;
-};
 
 std::string KeyOf(LPCSTR path)
 {
@@ -80,7 +54,7 @@ void OptionTree::Init()
     }
     HTREEITEM first = nullptr;
     {
-        const PaintingHeldBack heldBack(*this);
+        const vorn::PaintingHeldBack heldBack(*this);
         for (int i = 0; i < GetCategoryCount(); ++i)
         {
             const HTREEITEM item = InsertCategory(i);
