@@ -161,9 +161,9 @@ void ResizableDialogBar::OnNcPaint()
 
 void ResizableDialogBar::DrawGripper(CDC& dc)
 {
-    CRect window;
-    GetWindowRect(&window);
-    CRect band(CPoint(0, 0), window.Size());
+    CRect band(0, 0, 0, 0);
+    GetWindowRect(&band);
+    band.OffsetRect(-band.left, -band.top);
     const vorn::BarMargins edges = vorn::BarFrameOf(Side(), false);
     band.DeflateRect(edges.left, edges.top, edges.right, edges.bottom);
     const bool lying = IsHorz() != FALSE;

@@ -94,9 +94,11 @@ void CDockBar::PlaceBars(const vorn::DockArrangement& arrangement)
                 continue;
             }
             const vorn::DockBox& box = arrangement.boxes[i][shown++];
-            const CRect place = IsHorizontal() ? CRect(CPoint(box.along, box.across), CSize(box.length, box.thickness))
-                                               : CRect(CPoint(box.across, box.along), CSize(box.thickness, box.length));
-            bar.SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(), flags);
+            const int x = IsHorizontal() ? box.along : box.across;
+            const int y = IsHorizontal() ? box.across : box.along;
+            const int width = IsHorizontal() ? box.length : box.thickness;
+            const int height = IsHorizontal() ? box.thickness : box.length;
+            bar.SetWindowPos(nullptr, x, y, width, height, flags);
         }
     }
 }

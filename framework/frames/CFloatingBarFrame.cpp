@@ -66,10 +66,11 @@ void CFloatingBarFrame::FitBar()
 
 BOOL CFloatingBarFrame::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)
 {
-    if (CWnd::OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
+    // The frame first: this one would ask the application before it.
     CFrameWnd* frame = GetDockingFrame();
-    return frame && frame->OnCmdMsg(id, code, extra, handlerInfo);
+    if (frame && frame->OnCmdMsg(id, code, extra, handlerInfo))
+        return TRUE;
+    return CMiniFrameWnd::OnCmdMsg(id, code, extra, handlerInfo);
 }
 
 void CFloatingBarFrame::OnClose()
