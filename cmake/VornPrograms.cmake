@@ -3,6 +3,10 @@ file(GLOB_RECURSE chart_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/apps/ch
 add_library(vorn_chart STATIC ${chart_sources})
 target_link_libraries(vorn_chart PRIVATE vorn_flags PUBLIC VornCommon)
 
+# What the sample applications tell of their data.
+add_library(vorn_datasets STATIC "${PROJECT_SOURCE_DIR}/apps/datasets/DataSets.cpp")
+target_link_libraries(vorn_datasets PRIVATE vorn_flags PUBLIC VornCommon)
+
 function(vorn_program name folder)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.rc")
     set(shell ${sources})
@@ -19,8 +23,14 @@ endfunction()
 
 vorn_program(vorntool apps/vorntool)
 vorn_program(VornSample apps/sample WIN32)
+vorn_program(VornUpdate apps/update WIN32)
+vorn_program(VornBriefing apps/briefing WIN32)
+foreach(program VornSample VornUpdate VornBriefing)
+    target_link_libraries(${program} PRIVATE vorn_datasets)
+endforeach()
 
 if(TARGET VornSample)
+    add_dependencies(VornSample VornUpdate) # starts it
     find_package(PNG REQUIRED)
     target_include_directories(VornSample PRIVATE "${PROJECT_SOURCE_DIR}/apps/sample")
     target_link_libraries(VornSample PRIVATE PNG::PNG)

@@ -85,6 +85,7 @@
 #include "toolkit/layout/LayoutPropertySheet.h"
 #include "toolkit/options/BaseOptionTreeDlg.h"
 #include "toolkit/options/OptionTree.h"
+#include "toolkit/startup/CStartupDlg.h"
 #include "toolkit/textlayout/TextLayout.h"
 #include "toolkit/tooltips/InfoTip.h"
 #include "toolkit/tooltips/ToolTipCtrlEx.h"

@@ -1,7 +1,16 @@
 #include "apps/sample/AboutDialog.h"
 
+#include "apps/datasets/DataSets.h"
 #include "apps/sample/model/ModuleVersions.h"
 #include "apps/sample/resource.h"
+
+namespace
+{
+
+constexpr const char* kPage = "https://www.vornwald.example/";
+constexpr const char* kLicences = "..\\share\\doc\\vorn\\licences\\README.txt"; // in an installed package
+
+} // namespace
 
 AboutDialog::AboutDialog(CWnd* parent) : CDialog(IDD_ABOUT, parent)
 {
@@ -14,7 +23,16 @@ BOOL AboutDialog::OnInitDialog()
     for (const ModuleVersion& module : LoadedModules())
         text.AppendFormat("%s  %s\r\n", module.fileName.c_str(), module.version.c_str());
     SetDlgItemText(IDC_ABOUT_VERSIONS, text);
+    AddLinks();
     CenterWindow();
     GetDlgItem(IDOK)->SetFocus(); // otherwise the list of versions comes up selected
     return FALSE;
+}
+
+void AboutDialog::AddLinks()
+{
+    m_page.SubclassDlgItem(IDC_ABOUT_PAGE, this, kPage);
+    const std::string licences = ProgramFolder() + kLicences;
+    m_licences.SubclassDlgItem(IDC_ABOUT_LICENCES, this, licences.c_str());
+    m_licences.ShowWindow(FileExists(licences.c_str()) ? SW_SHOW : SW_HIDE);
 }

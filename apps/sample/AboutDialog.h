@@ -2,7 +2,8 @@
 
 #include <VornCommon.h>
 
-/// Names the sample, the libraries that it stands on, and their versions.
+/// Names the sample, the libraries that it stands on, and their versions; links lead to the family's page and to the
+/// licences where they are installed.
 class AboutDialog : public CDialog
 {
 public:
@@ -10,4 +11,10 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
+
+private:
+    void AddLinks();
+
+    HyperLink m_page;
+    HyperLink m_licences;
 };

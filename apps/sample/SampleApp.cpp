@@ -1,8 +1,10 @@
 #include "apps/sample/SampleApp.h"
 
+#include "apps/sample/LeftOver.h"
 #include "apps/sample/MainFrame.h"
 #include "apps/sample/PageView.h"
 #include "apps/sample/Snapshot.h"
+#include "apps/sample/StartupDialog.h"
 #include "apps/sample/core/ReportTable.h"
 #include "apps/sample/model/Usage.h"
 #include "apps/sample/resource.h"
@@ -46,6 +48,15 @@ std::string TakeOptions(PageView& view, const StartOptions& options)
     return {};
 }
 
+void FreeSingletons()
+{
+    VornCommonApp::FreeInst();
+    TimerMgr::FreeInst();
+    ResMgr::FreeInst();
+    PathMgr::FreeInst();
+    AppRegMgr::FreeInst();
+}
+
 } // namespace
 
 SampleApp::SampleApp() : CWinApp("VornSample")
@@ -67,7 +78,12 @@ BOOL SampleApp::InitInstance()
     VornCommonApp::Inst(this);
     SetRegistryKey("Vornwald"); // the bars' state stands beside the settings
     CountUse(UsageEvent::Start);
-    if (!CreateMainFrame(options) || !ApplyOptions(options))
+    if (options.rounds > 0)
+    {
+        RunRounds(options);
+        return FALSE;
+    }
+    if (!ShowStartup(options) || !CreateMainFrame(options) || !ApplyOptions(options))
         return FALSE;
     if (options.IsUnattended())
     {
@@ -75,6 +91,54 @@ BOOL SampleApp::InitInstance()
         return FALSE;
     }
     return TRUE;
+}
+
+// Whole lives of the application, one after the other: startup dialog, main window with each of its pages, the end of
+// every singleton.
+void SampleApp::RunRounds(const StartOptions& options)
+{
+    for (int round = 1; round <= options.rounds && m_exitCode == 0; ++round)
+    {
+        VornCommonApp::Inst(this);
+        StartupDialog dialog(Currency::Mixed);
+        dialog.RunUnattended(true, "");
+        if (dialog.DoModal() == -1 || !CreateMainFrame(options))
+        {
+            m_exitCode = kFailed;
+            break;
+        }
+        PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
+        for (std::size_t page = 0; page < view.Pages().size(); ++page)
+        {
+            view.ShowPage(page);
+            PumpPending();
+        }
+        m_pMainWnd->DestroyWindow();
+        PumpPending(); // the request to quit among them
+        FreeSingletons();
+        const LeftOver left = CountLeftOver();
+        Print(STD_OUTPUT_HANDLE, "round " + std::to_string(round) + ": " + std::to_string(left.heapBlocks) +
+                                     " heap blocks, " + std::to_string(left.gdiObjects) + " GDI objects\n");
+    }
+}
+
+// Goes on to the main window unless nobody is there to look.
+bool SampleApp::ShowStartup(const StartOptions& options)
+{
+    if (!options.ShowsStartup() || (options.startup.empty() && GetSettingInt("Startup", "ShowDialog", 1) == 0))
+        return true;
+    StartupDialog dialog(CurrencyNamed(options.startup).value_or(Currency::Mixed));
+    dialog.RunUnattended(options.IsUnattended(), options.snapshotFile);
+    const bool shown = dialog.DoModal() != -1;
+    if (options.IsUnattended() && (!shown || dialog.HasFailed()))
+    {
+        Print(STD_ERROR_HANDLE, "VornSample: the startup dialog could not be shown or its picture not be written\n");
+        m_exitCode = kFailed;
+        return false;
+    }
+    if (options.summary)
+        Print(STD_OUTPUT_HANDLE, dialog.Summary());
+    return !options.IsUnattended();
 }
 
 bool SampleApp::CreateMainFrame(const StartOptions& options)
@@ -137,8 +201,6 @@ void SampleApp::RunUnattended(const StartOptions& options)
 int SampleApp::ExitInstance()
 {
     const int code = CWinApp::ExitInstance();
-    VornCommonApp::FreeInst();
-    PathMgr::FreeInst();
-    AppRegMgr::FreeInst();
+    FreeSingletons();
     return m_exitCode != 0 ? m_exitCode : code;
 }

@@ -16,6 +16,8 @@ public:
     int ExitInstance() override;
 
 private:
+    void RunRounds(const StartOptions& options);
+    bool ShowStartup(const StartOptions& options);
     bool CreateMainFrame(const StartOptions& options);
     bool ApplyOptions(const StartOptions& options);
     void RunUnattended(const StartOptions& options);

@@ -1,5 +1,7 @@
 #include "apps/sample/StartOptions.h"
 
+#include "apps/datasets/DataSets.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -32,6 +34,7 @@ constexpr std::array kTextOptions = {
     TextOption{"--find", &StartOptions::find},
     TextOption{"--view", &StartOptions::view},
     TextOption{"--picture", &StartOptions::picture},
+    TextOption{"--startup", &StartOptions::startup},
 };
 
 const TextOption* FindTextOption(std::string_view name)
@@ -44,19 +47,31 @@ const TextOption* FindTextOption(std::string_view name)
     return option == kTextOptions.end() ? nullptr : &*option;
 }
 
+bool ParseRounds(std::string_view text, StartOptions& options)
+{
+    constexpr int kMost = 1000;
+    const char* const end = text.data() + text.size();
+    const auto rounds = std::from_chars(text.data(), end, options.rounds);
+    return rounds.ptr == end && options.rounds > 0 && options.rounds <= kMost;
+}
+
 bool TakesValue(std::string_view name)
 {
-    return name == "--size" || FindTextOption(name) != nullptr;
+    return name == "--size" || name == "--rounds" || FindTextOption(name) != nullptr;
 }
 
 void TakeValue(StartOptions& options, std::string_view name, const char* value)
 {
     if (const TextOption* const option = FindTextOption(name))
         options.*option->text = value;
-    else if (!ParseSize(value, options))
+    else if (name == "--rounds" && !ParseRounds(value, options))
+        options.error = "--rounds wants a number from 1 to 1000";
+    else if (name == "--size" && !ParseSize(value, options))
         options.error = "--size wants WIDTHxHEIGHT, for example 1180x900";
     if (name == "--find" && options.find.find('=') == std::string::npos)
         options.error = "--find wants FIELD=VALUE, for example IDENT=SEA";
+    if (name == "--startup" && !CurrencyNamed(options.startup))
+        options.error = std::string("--startup wants ") + CurrencyWords();
 }
 
 } // namespace
@@ -72,6 +87,8 @@ StartOptions ParseStartOptions(int count, const char* const* arguments)
             options.summary = true;
         else if (argument == "--night")
             options.night = true;
+        else if (argument == "--no-startup")
+            options.noStartup = true;
         else if (argument == "--help")
             options.help = true;
         else if (!TakesValue(argument))
@@ -88,7 +105,8 @@ const char* StartOptionsHelp()
 {
     return "VornSample [--page NAME] [--table FILE.dbf] [--find FIELD=VALUE]\n"
            "           [--view TEXT] [--night] [--picture FILE]\n"
-           "           [--size WIDTHxHEIGHT] [--snapshot FILE.png] [--summary]\n"
+           "           [--startup CASE | --no-startup]\n"
+           "           [--size WIDTHxHEIGHT] [--snapshot FILE.png] [--summary] [--rounds N]\n"
            "\n"
            "Shows the family's programs and versions, the settings in force, values in your units, tables and "
            "pictures.\n"
@@ -99,7 +117,11 @@ const char* StartOptionsHelp()
            "  --view TEXT            show this view of the chart, as --page Chart --summary prints it\n"
            "  --night                show the chart in its colours for the night\n"
            "  --picture FILE         view this picture: BMP, PCX, GIF, PNG or JPEG\n"
+           "  --startup CASE         show the startup dialog with data of this case: mixed, valid, expiring or late;\n"
+           "                         a snapshot or summary is then of that dialog\n"
+           "  --no-startup           begin with the main window\n"
            "  --size WIDTHxHEIGHT    start with a window of this size\n"
            "  --snapshot FILE.png    save a picture of the window and exit\n"
+           "  --rounds N             open and close everything N times, and print what is left in memory after each\n"
            "  --summary              print what the pages show and exit\n";
 }

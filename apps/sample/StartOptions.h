@@ -14,6 +14,9 @@ struct StartOptions
     std::string view;         ///< text of the chart's view; empty for the stored one
     bool night = false;       ///< the chart's colours for the night
     std::string picture;      ///< file of the picture to view; empty for the sample's own
+    std::string startup;      ///< case of the startup dialog's data; empty for the usual one
+    bool noStartup = false;   ///< begin with the main window
+    int rounds = 0;           ///< how many lives to lead and report on; 0 for the one of every program
     int width = 0;            ///< of the window in pixels; 0 leaves it as stored
     int height = 0;
 
@@ -21,6 +24,12 @@ struct StartOptions
     bool IsUnattended() const
     {
         return summary || !snapshotFile.empty();
+    }
+
+    /// Whether the startup dialog comes before the main window.
+    bool ShowsStartup() const
+    {
+        return !startup.empty() || (!noStartup && !IsUnattended());
     }
 
     std::string error; ///< what is wrong with the command line; empty when nothing is

@@ -25,6 +25,7 @@ const CommandGroup& MorseCommands();
 const CommandGroup& ProjectionCommands();
 const CommandGroup& ChartCommands();
 const CommandGroup& ImageCommands();
+const CommandGroup& HelpCommands();
 
 /// The whole tool with all its commands.
 Tool VornTool();

@@ -68,9 +68,19 @@ ExitStatus RunInGroup(const CommandGroup& group, WordSpan words, Output& output)
                               : WrongUse(output, who, "unknown command " + Quoted(words[0]));
 }
 
-// "vorntool help settings get" is "vorntool settings get --help".
+// "vorntool help settings get" is "vorntool settings get --help", except where the tool has a group of that name with
+// such a command.
 ExitStatus RunHelp(const Tool& tool, WordSpan words, Output& output)
 {
+    const CommandGroup* const group = FindByName(tool.groups, "help");
+    if (group != nullptr && !words.empty() && FindByName(group->commands, words[0]) != nullptr)
+    {
+        return RunInGroup(*group, words, output);
+    }
+    if (group != nullptr && !words.empty() && words[0] == group->name)
+    {
+        return Print(output, HelpOn(*group));
+    }
     std::vector<std::string> turned(words.begin(), words.end());
     turned.emplace_back("--help");
     return RunTool(tool, turned, output);

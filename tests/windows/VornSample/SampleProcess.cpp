@@ -65,7 +65,7 @@ std::string ProgramPath()
 
 } // namespace
 
-SampleProcess::SampleProcess(const std::string& arguments, const std::string& outputFile)
+SampleProcess::SampleProcess(const std::string& arguments, const std::string& outputFile, Startup startup)
 {
     SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
     // Shared for writing: a process that has ended may keep its handle of the file for a moment.
@@ -75,7 +75,8 @@ SampleProcess::SampleProcess(const std::string& arguments, const std::string& ou
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
     start.hStdOutput = start.hStdError = output;
-    std::string command = '"' + ProgramPath() + "\" " + arguments;
+    const char* const first = startup == Startup::Skipped ? "--no-startup " : "";
+    std::string command = '"' + ProgramPath() + "\" " + first + arguments;
     CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &m_process);
     CloseHandle(output);
 }

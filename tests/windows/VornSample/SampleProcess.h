@@ -11,8 +11,15 @@ namespace vorn::test
 class SampleProcess
 {
 public:
+    /// Whether the sample begins with its startup dialog.
+    enum class Startup
+    {
+        Skipped,
+        Shown,
+    };
+
     /// Starts VornSample.exe, which stands beside the test program, with its standard output in a file.
-    SampleProcess(const std::string& arguments, const std::string& outputFile);
+    SampleProcess(const std::string& arguments, const std::string& outputFile, Startup startup = Startup::Skipped);
     ~SampleProcess();
     SampleProcess(const SampleProcess&) = delete;
     SampleProcess& operator=(const SampleProcess&) = delete;

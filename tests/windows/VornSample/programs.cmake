@@ -1,0 +1,2 @@
+# What the sample starts, and the application beside it.
+add_dependencies(windows_VornSample_tests VornUpdate VornBriefing)
