@@ -2,7 +2,8 @@
 
 #include "aviation/Date.h"
 #include "frame/core/Export.h"
-#include "framework/include/afxcmn.h"
+#include "framework/controls/CRichEditCtrl.h"
+#include "framework/core/Array.h"
 #include "framework/include/afxwin.h"
 #include "toolkit/WindowIcons.h"
 
