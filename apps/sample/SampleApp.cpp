@@ -75,6 +75,7 @@ BOOL SampleApp::InitInstance()
         return FALSE;
     }
 
+    m_unattended = options.IsUnattended() || options.rounds > 0;
     VornCommonApp::Inst(this);
     SetRegistryKey("Vornwald"); // the bars' state stands beside the settings
     CountUse(UsageEvent::Start);
@@ -202,5 +203,5 @@ int SampleApp::ExitInstance()
 {
     const int code = CWinApp::ExitInstance();
     FreeSingletons();
-    return m_exitCode != 0 ? m_exitCode : code;
+    return m_exitCode != 0 || m_unattended ? m_exitCode : code;
 }

@@ -23,4 +23,5 @@ private:
     void RunUnattended(const StartOptions& options);
 
     int m_exitCode = 0;
+    bool m_unattended = false; ///< no window ends the program with a status of its own
 };
