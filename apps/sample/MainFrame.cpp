@@ -1,5 +1,6 @@
 #include "apps/sample/MainFrame.h"
 
+#include "apps/planner/resource.h"
 #include "apps/sample/AboutDialog.h"
 #include "apps/sample/PageView.h"
 #include "apps/sample/ProjectionsMenu.h"
@@ -14,7 +15,7 @@ namespace
 
 constexpr int kViewMenu = 1; // places in the menu bar of IDR_MAINFRAME
 constexpr int kChartMenu = 3;
-constexpr int kUnitsMenu = 5;
+constexpr int kUnitsMenu = 6;
 constexpr SIZE kSmallest = {560, 420};
 
 } // namespace
@@ -28,6 +29,8 @@ ON_COMMAND(ID_FILE_SAVE_PICTURE, OnSavePicture)
 ON_COMMAND(ID_APP_ABOUT, OnAbout)
 ON_COMMAND_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, OnPage)
 ON_UPDATE_COMMAND_UI_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, OnUpdatePage)
+ON_COMMAND_RANGE(ID_PLANNER_FIRST, ID_PLANNER_LAST, OnPlanner)
+ON_UPDATE_COMMAND_UI_RANGE(ID_PLANNER_FIRST, ID_PLANNER_LAST, OnUpdatePlanner)
 ON_COMMAND_RANGE(ID_UNIT_FIRST, ID_UNIT_LAST, OnUnit)
 ON_UPDATE_COMMAND_UI_RANGE(ID_UNIT_FIRST, ID_UNIT_LAST, OnUpdateUnit)
 ON_UPDATE_COMMAND_UI(ID_INDICATOR_UNITS, OnUpdateUnitsIndicator)
@@ -36,6 +39,11 @@ END_MESSAGE_MAP()
 PageView* MainFrame::View() const
 {
     return m_view;
+}
+
+PlannerCommands& MainFrame::Planner()
+{
+    return m_planner;
 }
 
 BOOL MainFrame::PreCreateWindow(CREATESTRUCT& create)
@@ -136,6 +144,16 @@ void MainFrame::OnPage(UINT command)
 void MainFrame::OnUpdatePage(CCmdUI* item)
 {
     item->SetRadio(m_view->CurrentPage() == item->m_nID - ID_PAGE_FIRST);
+}
+
+void MainFrame::OnPlanner(UINT command)
+{
+    m_planner.Run(command);
+}
+
+void MainFrame::OnUpdatePlanner(CCmdUI* item)
+{
+    m_planner.Update(*item);
 }
 
 void MainFrame::OnUnit(UINT command)

@@ -2,6 +2,8 @@
 
 #include <VornCommon.h>
 
+#include "apps/sample/PlannerCommands.h"
+
 class PageView;
 
 /// The sample's main window: menu, status bar, and the view with the pages.
@@ -10,6 +12,8 @@ class MainFrame : public CFrameWnd
 public:
     /// The view, or null before the frame is created.
     PageView* View() const;
+
+    PlannerCommands& Planner();
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
@@ -23,6 +27,8 @@ protected:
     afx_msg void OnAbout();
     afx_msg void OnPage(UINT command);
     afx_msg void OnUpdatePage(CCmdUI* item);
+    afx_msg void OnPlanner(UINT command);
+    afx_msg void OnUpdatePlanner(CCmdUI* item);
     afx_msg void OnUnit(UINT command);
     afx_msg void OnUpdateUnit(CCmdUI* item);
     afx_msg void OnUpdateUnitsIndicator(CCmdUI* item);
@@ -34,4 +40,5 @@ private:
 
     CStatusBar m_statusBar;
     PageView* m_view = nullptr; // destroyed by the window itself
+    PlannerCommands m_planner{*this};
 };

@@ -1,6 +1,10 @@
 #include "apps/sample/SampleApp.h"
 
+<<<<<<< HEAD
 #include "apps/sample/LeftOver.h"
+=======
+#include "apps/planner/shots/ShotRun.h"
+>>>>>>> ffbf464 (Give the sample a planner of resizable dialogs, sheets and a flight log, and take pictures of them that check themselves)
 #include "apps/sample/MainFrame.h"
 #include "apps/sample/PageView.h"
 #include "apps/sample/Snapshot.h"
@@ -191,12 +195,29 @@ void SampleApp::RunUnattended(const StartOptions& options)
         Print(STD_ERROR_HANDLE, "VornSample: cannot write " + options.snapshotFile + '\n');
         m_exitCode = kFailed;
     }
+    if (!options.shotsFolder.empty())
+        TakeShots(options.shotsFolder);
     if (options.summary)
     {
         const PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
         Print(STD_OUTPUT_HANDLE, view.Pages()[view.CurrentPage()]->Summary());
     }
     m_pMainWnd->DestroyWindow();
+}
+
+void SampleApp::TakeShots(const std::string& folder)
+{
+    auto& frame = *static_cast<MainFrame*>(m_pMainWnd);
+    vorn::planner::ShotRun run(frame, frame.Planner().Data(), folder);
+    const bool written = run.TakeAll();
+    for (const std::string& fault : run.Faults())
+        Print(STD_OUTPUT_HANDLE, fault + '\n');
+    if (!written)
+        Print(STD_ERROR_HANDLE, "VornSample: cannot write all pictures into " + folder + '\n');
+    Print(STD_OUTPUT_HANDLE, std::to_string(run.Pictures()) + " pictures, " + std::to_string(run.Faults().size()) +
+                                 (run.Faults().size() == 1 ? " fault\n" : " faults\n"));
+    if (!written || !run.Faults().empty())
+        m_exitCode = kFailed;
 }
 
 int SampleApp::ExitInstance()

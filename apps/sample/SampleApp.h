@@ -21,6 +21,7 @@ private:
     bool CreateMainFrame(const StartOptions& options);
     bool ApplyOptions(const StartOptions& options);
     void RunUnattended(const StartOptions& options);
+    void TakeShots(const std::string& folder);
 
     int m_exitCode = 0;
     bool m_unattended = false; ///< no window ends the program with a status of its own

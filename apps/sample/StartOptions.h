@@ -8,6 +8,7 @@ struct StartOptions
     bool summary = false;     ///< print what the pages show to standard output
     bool help = false;        ///< print how to call the program
     std::string snapshotFile; ///< save a picture of the window there and exit
+    std::string shotsFolder;  ///< save pictures of the planner's windows there and exit
     std::string page;         ///< name of the page to show first, or its beginning
     std::string table;        ///< file of the table to browse; empty for the sample's own
     std::string find;         ///< FIELD=VALUE: the record to select there
@@ -23,7 +24,7 @@ struct StartOptions
     /// True when nobody is there to look: the program writes what it was asked for and ends.
     bool IsUnattended() const
     {
-        return summary || !snapshotFile.empty();
+        return summary || !snapshotFile.empty() || !shotsFolder.empty();
     }
 
     /// Whether the startup dialog comes before the main window.

@@ -128,6 +128,12 @@ void ChartPage::KeepView()
     VornCommonApp::Inst()->WriteSettingInt(kChart, kNight, IsNightVision() ? 1 : 0);
 }
 
+void ChartPage::CenterOn(const LatLon& position)
+{
+    m_chart.View().SetCentre(position);
+    m_window.Repaint();
+}
+
 void ChartPage::Leave()
 {
     KeepView();

@@ -32,6 +32,9 @@ public:
     void Run(UINT command) override;
     void Leave() override;
 
+    /// Brings a position into the middle of the chart.
+    void CenterOn(const LatLon& position);
+
 private:
     static constexpr std::size_t kButtons = 5;
 

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "apps/planner/PlannerDialog.h"
+
+namespace vorn::planner
+{
+
+/// Brings a position or a place into the middle of the chart.
+class GotoDialog : public PlannerDialog
+{
+public:
+    GotoDialog(PlannerData& data, CWnd* parent);
+
+protected:
+    void Fill() override;
+    void Arrange(Form& form) override;
+    bool Take() override;
+    void OnOK() override;
+    std::span<const Tip> Tips() const override;
+
+    afx_msg void OnPositionTyped();
+    afx_msg void OnPlaceTyped();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool ByPosition();
+    bool ByPlace();
+    void Refuse(UINT id, const char* why);
+
+    HotEdit m_latitude;
+    HotEdit m_longitude;
+    CComboBox m_place;
+    bool m_filled = false;
+};
+
+} // namespace vorn::planner

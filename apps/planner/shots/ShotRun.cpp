@@ -1,0 +1,252 @@
+#include "apps/planner/shots/ShotRun.h"
+
+#include "apps/planner/FlightLog.h"
+#include "apps/planner/FuelDialog.h"
+#include "apps/planner/GotoDialog.h"
+#include "apps/planner/LinksDialog.h"
+#include "apps/planner/NewFlightWizard.h"
+#include "apps/planner/PreferencesSheet.h"
+#include "apps/planner/PrintDialog.h"
+#include "apps/planner/RouteDialog.h"
+#include "apps/planner/Warning.h"
+#include "apps/planner/WeightDialog.h"
+#include "apps/planner/resource.h"
+#include "apps/planner/shots/Picture.h"
+#include "apps/planner/shots/WindowFacts.h"
+
+#include <array>
+#include <utility>
+
+namespace vorn::planner
+{
+
+namespace
+{
+
+constexpr UINT kLookMs = 20;
+constexpr double kLarge = 1.6;
+
+ShotRun* g_run = nullptr; // of the timer below
+
+void PumpWaiting()
+{
+    MSG message;
+    while (PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+    {
+        TranslateMessage(&message);
+        DispatchMessage(&message);
+    }
+}
+
+void PaintAll(HWND window)
+{
+    PumpWaiting();
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    PumpWaiting();
+    GdiFlush();
+}
+
+void Resize(HWND window, int width, int height)
+{
+    SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+std::string PrefixOfScreen()
+{
+    const HDC screen = GetDC(nullptr);
+    const std::string dots = std::to_string(GetDeviceCaps(screen, LOGPIXELSY));
+    ReleaseDC(nullptr, screen);
+    return std::string(dots.size() < 3 ? 3 - dots.size() : 0, '0') + dots + '-';
+}
+
+} // namespace
+
+ShotRun::ShotRun(CWnd& frame, PlannerData& data, std::string folder)
+    : m_frame(frame), m_data(data), m_folder(std::move(folder)), m_prefix(PrefixOfScreen())
+{
+    CreateDirectory(m_folder.c_str(), nullptr);
+}
+
+const std::vector<std::string>& ShotRun::Faults() const
+{
+    return m_faults;
+}
+
+int ShotRun::Pictures() const
+{
+    return m_pictures;
+}
+
+bool ShotRun::TakeAll()
+{
+    g_run = this;
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN), 0); // where nothing lights up below it
+    TakeDialogs();
+    TakeSheets();
+    TakeFlightLog();
+    g_run = nullptr;
+    return !m_failed && WriteContactSheet(m_folder);
+}
+
+void ShotRun::TakeDialogs()
+{
+    const auto takeSizes = [this](const char* name)
+    {
+        return [this, name](HWND window)
+        {
+            Sizes(window, name);
+        };
+    };
+    const auto run = [](auto&& dialog)
+    {
+        dialog.DoModal();
+    };
+    Open(
+        [&]
+        {
+            run(RouteDialog(m_data, &m_frame));
+        },
+        [this](HWND window)
+        {
+            Sizes(window, "route");
+            TabCtrl_SetCurFocus(::GetDlgItem(window, IDC_ROUTE_TAB), 1);
+            Sizes(window, "route-avoid");
+        });
+    Open(
+        [&]
+        {
+            run(WeightDialog(m_data, &m_frame));
+        },
+        takeSizes("weight"));
+    Open(
+        [&]
+        {
+            run(FuelDialog(m_data, &m_frame));
+        },
+        takeSizes("fuel"));
+    Open(
+        [&]
+        {
+            run(PrintDialog(m_data, &m_frame));
+        },
+        takeSizes("print"));
+    Open(
+        [&]
+        {
+            run(GotoDialog(m_data, &m_frame));
+        },
+        takeSizes("goto"));
+    Open(
+        [&]
+        {
+            run(LinksDialog(m_data, &m_frame));
+        },
+        takeSizes("links"));
+    Open(
+        [&]
+        {
+            ShowWarning(&m_frame);
+        },
+        [this](HWND window)
+        {
+            PaintAll(window);
+            Shot({window}, "warning", true);
+        });
+}
+
+/// Each page at each size, one page after the other.
+void ShotRun::TakePages(HWND sheet, const std::vector<std::string>& names)
+{
+    for (std::size_t page = 0; page < names.size(); ++page)
+    {
+        ::SendMessage(sheet, PSM_SETCURSEL, page, 0);
+        Sizes(sheet, names[page]);
+    }
+}
+
+void ShotRun::TakeSheets()
+{
+    Open(
+        [this]
+        {
+            PreferencesSheet(&m_frame, nullptr).DoModal();
+        },
+        [this](HWND sheet)
+        {
+            TakePages(sheet, {"preferences-1-general", "preferences-2-units", "preferences-3-chart"});
+        });
+    Open(
+        [this]
+        {
+            NewFlightWizard(m_data, &m_frame).Run();
+        },
+        [this](HWND sheet)
+        {
+            TakePages(sheet, {"new-flight-1-route", "new-flight-2-aircraft", "new-flight-3-summary"});
+        });
+}
+
+void ShotRun::TakeFlightLog()
+{
+    auto* const log = new FlightLogFrame(m_data); // deletes itself with its window
+    if (!log->Open(m_frame))
+    {
+        m_failed = true;
+        return;
+    }
+    log->ShowWindow(SW_SHOW);
+    Sizes(*log, "log");
+    log->DestroyWindow();
+}
+
+void ShotRun::Open(const std::function<void()>& open, const Look& look)
+{
+    m_look = look;
+    m_seen = false;
+    SetTimer(nullptr, 0, kLookMs, OnTimer);
+    open();
+    if (!m_seen)
+        m_failed = true;
+}
+
+void CALLBACK ShotRun::OnTimer(HWND, UINT, UINT_PTR timer, DWORD)
+{
+    const HWND window = GetLastActivePopup(g_run->m_frame);
+    if (window == g_run->m_frame.m_hWnd || !::IsWindowVisible(window))
+        return;
+    KillTimer(nullptr, timer);
+    g_run->m_seen = true;
+    g_run->m_look(window);
+    ::PostMessage(window, WM_COMMAND, IDCANCEL, 0);
+}
+
+void ShotRun::Sizes(HWND window, const std::string& name)
+{
+    CRect first;
+    ::GetWindowRect(window, &first);
+    PaintAll(window);
+    Shot({window}, name + "-2-first", true);
+    Resize(window, 1, 1);
+    PaintAll(window);
+    Shot({window}, name + "-1-small", true);
+    Resize(window, static_cast<int>(first.Width() * kLarge), static_cast<int>(first.Height() * kLarge));
+    PaintAll(window);
+    Shot({window}, name + "-3-large", true);
+    Resize(window, first.Width(), first.Height());
+}
+
+void ShotRun::Shot(const std::vector<HWND>& windows, const std::string& name, bool isChecked)
+{
+    const std::string full = m_prefix + name;
+    if (isChecked)
+    {
+        for (const std::string& fault : FaultsOf(FactsOf(windows.front())))
+            m_faults.push_back(full + ": " + fault);
+    }
+    DIB picture;
+    if (!TakePicture(windows, picture) || !picture.WritePNG((m_folder + '\\' + full + ".png").c_str()))
+        m_failed = true;
+    ++m_pictures;
+}
+
+} // namespace vorn::planner
