@@ -3,18 +3,16 @@ file(GLOB_RECURSE chart_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/apps/ch
 add_library(vorn_chart STATIC ${chart_sources})
 target_link_libraries(vorn_chart PRIVATE vorn_flags PUBLIC VornCommon)
 
-<<<<<<< HEAD
 # What the sample applications tell of their data.
 add_library(vorn_datasets STATIC "${PROJECT_SOURCE_DIR}/apps/datasets/DataSets.cpp")
 target_link_libraries(vorn_datasets PRIVATE vorn_flags PUBLIC VornCommon)
-=======
+
 # The planner's dialogs, which the sample and their tests open; the resources go with the program.
 file(GLOB_RECURSE planner_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/apps/planner/*.cpp")
 add_library(vorn_planner STATIC ${planner_sources})
 target_link_libraries(vorn_planner PRIVATE vorn_flags PUBLIC VornCommon)
 vorn_precompile(vorn_planner <VornCommon.h>)
 set(VORN_PLANNER_RESOURCES "${PROJECT_SOURCE_DIR}/apps/planner/planner.rc")
->>>>>>> ffbf464 (Give the sample a planner of resizable dialogs, sheets and a flight log, and take pictures of them that check themselves)
 
 function(vorn_program name folder)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.rc")

@@ -1,10 +1,7 @@
 #include "apps/sample/SampleApp.h"
 
-<<<<<<< HEAD
-#include "apps/sample/LeftOver.h"
-=======
 #include "apps/planner/shots/ShotRun.h"
->>>>>>> ffbf464 (Give the sample a planner of resizable dialogs, sheets and a flight log, and take pictures of them that check themselves)
+#include "apps/sample/LeftOver.h"
 #include "apps/sample/MainFrame.h"
 #include "apps/sample/PageView.h"
 #include "apps/sample/Snapshot.h"

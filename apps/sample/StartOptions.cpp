@@ -106,13 +106,9 @@ const char* StartOptionsHelp()
 {
     return "VornSample [--page NAME] [--table FILE.dbf] [--find FIELD=VALUE]\n"
            "           [--view TEXT] [--night] [--picture FILE]\n"
-<<<<<<< HEAD
            "           [--startup CASE | --no-startup]\n"
            "           [--size WIDTHxHEIGHT] [--snapshot FILE.png] [--summary] [--rounds N]\n"
-=======
-           "           [--size WIDTHxHEIGHT] [--snapshot FILE.png] [--summary]\n"
            "           [--shots FOLDER]\n"
->>>>>>> ffbf464 (Give the sample a planner of resizable dialogs, sheets and a flight log, and take pictures of them that check themselves)
            "\n"
            "Shows the family's programs and versions, the settings in force, values in your units, tables and "
            "pictures.\n"
@@ -128,11 +124,8 @@ const char* StartOptionsHelp()
            "  --no-startup           begin with the main window\n"
            "  --size WIDTHxHEIGHT    start with a window of this size\n"
            "  --snapshot FILE.png    save a picture of the window and exit\n"
-<<<<<<< HEAD
            "  --rounds N             open and close everything N times, and print what is left in memory after each\n"
-=======
            "  --shots FOLDER         save pictures of the planner's windows there, say what is cut or overlaps, and "
            "exit\n"
->>>>>>> ffbf464 (Give the sample a planner of resizable dialogs, sheets and a flight log, and take pictures of them that check themselves)
            "  --summary              print what the pages show and exit\n";
 }

@@ -39,13 +39,8 @@ target !~ /\// {
 index(areas, " " to " ") == 0 { say("\"" target "\" is not written from the root of the repository"); next }
 core && target !~ /\/core\// { say("a core file includes \"" target "\", which is in no core folder") }
 from == "apps" {
-<<<<<<< HEAD
-    if (to == "apps" ? app(target) != app(FILENAME) && app(target) !~ /^apps\/(chart|datasets)$/ : !core)
-        say("a program knows <VornCommon.h>, its own files, the chart and the data sets, not \"" target "\"")
-=======
-    if (to == "apps" ? app(target) != app(FILENAME) && app(target) !~ /^apps\/(chart|planner)$/ : !core)
-        say("a program knows <VornCommon.h>, its own files, the chart and the planner, not \"" target "\"")
->>>>>>> ffbf464 (Give the sample a planner of resizable dialogs, sheets and a flight log, and take pictures of them that check themselves)
+    if (to == "apps" ? app(target) != app(FILENAME) && app(target) !~ /^apps\/(chart|datasets|planner)$/ : !core)
+        say("a program knows <VornCommon.h>, its own files, the chart, the data sets and the planner, not \"" target "\"")
     next
 }
 # The application object owns the unit converter, which lives with the other values.
