@@ -1,7 +1,7 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/DialogTemplateBuilder.h"
 #include "tests/support/GdiCount.h"
-#include "tests/windows/tooltips/resource.h"
+#include "tests/windows/tooltips/TipTest.h"
 #include "toolkit/tooltips/ToolTipDlg.h"
 
 #include <gtest/gtest.h>
@@ -190,7 +190,7 @@ TEST(ToolTipDlg, RelaysTheMessagesOfItsControls)
     ASSERT_TRUE(dialog.Create());
     dialog.ShowWindow(SW_SHOWNA);
     const CPoint middle = MiddleOf(dialog, kName);
-    ::SetCursorPos(middle.x, middle.y);
+    vorn::test::PutCursor(middle);
     MSG move{};
     move.hwnd = dialog.GetDlgItem(kName)->m_hWnd;
     move.message = WM_MOUSEMOVE;

@@ -1,6 +1,6 @@
 #include "framework/include/afxdlgs.h"
 #include "framework/include/afxext.h"
-#include "tests/windows/tooltips/resource.h"
+#include "tests/windows/tooltips/TipTest.h"
 #include "toolkit/tooltips/ToolTipDlgBar.h"
 #include "toolkit/tooltips/ToolTipPropertyPage.h"
 
@@ -22,7 +22,7 @@ CRect PlaceOf(CWnd& window, int control)
 /// The mouse comes to a place of a host and rests; what the tip says then, empty without a tip.
 CString TipAt(CWnd& host, ToolTipCtrlEx& tips, CPoint point)
 {
-    ::SetCursorPos(point.x, point.y);
+    vorn::test::PutCursor(point);
     MSG move{};
     move.hwnd = host.m_hWnd;
     move.message = WM_MOUSEMOVE;
