@@ -4,16 +4,12 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET default)
 
+# Where headers are precompiled a compiler cache has little to give and costs more: it reads those headers, a hundred
+# megabytes, for each source.
 find_program(VORN_CCACHE ccache)
-if(VORN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # Told what it must know of precompiled headers, or it would pass every source that uses one by; and that a
-    # file of the same inode and time is the same: else it reads a hundred megabytes of headers for each source.
-    set(ccache_environment "CCACHE_SLOPPINESS=pch_defines,time_macros;CCACHE_INODECACHE=1")
-    if(NOT VORN_PRECOMPILE)
-        # What the compiler says it read is enough then; no source is preprocessed twice.
-        list(APPEND ccache_environment "CCACHE_DEPEND=1")
-    endif()
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND};-E;env;${ccache_environment};${VORN_CCACHE}")
+if(VORN_CCACHE AND NOT VORN_PRECOMPILE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    # What the compiler says it read is enough to know it again; no source is preprocessed twice.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND};-E;env;CCACHE_DEPEND=1;${VORN_CCACHE}")
 endif()
 
 add_library(vorn_flags INTERFACE)
