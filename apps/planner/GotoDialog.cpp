@@ -122,8 +122,15 @@ bool GotoDialog::ByPlace()
 
 void GotoDialog::Refuse(UINT id, const char* why)
 {
-    AfxMessageBox(why, MB_OK | MB_ICONEXCLAMATION);
-    GotoDlgCtrl(GetDlgItem(static_cast<int>(id)));
+    constexpr long kSystemsTime = -1;
+    CWnd& control = *GetDlgItem(static_cast<int>(id));
+    CRect place;
+    control.GetWindowRect(&place);
+    if (m_refusal.m_hWnd == nullptr)
+        m_refusal.Create(this);
+    MessageBeep(MB_ICONEXCLAMATION);
+    m_refusal.ShowTip(CPoint(place.left, place.bottom), "Not understood", why, TTI_ERROR, kSystemsTime);
+    GotoDlgCtrl(&control);
 }
 
 } // namespace vorn::planner

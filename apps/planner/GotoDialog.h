@@ -30,6 +30,7 @@ private:
     HotEdit m_latitude;
     HotEdit m_longitude;
     CComboBox m_place;
+    InfoTip m_refusal;
     bool m_filled = false;
 };
 

@@ -17,6 +17,8 @@ BOOL PlannerDialog::OnInitDialog()
     Arrange(form);
     UnlockLayout();
     UpdateLayout(false);
+    for (const Tip& tip : Tips())
+        AddTips(&tip.control, &tip.text, 1);
     return TRUE;
 }
 

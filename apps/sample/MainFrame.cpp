@@ -46,6 +46,22 @@ PlannerCommands& MainFrame::Planner()
     return m_planner;
 }
 
+vorn::planner::LegBar& MainFrame::Legs()
+{
+    return m_legs;
+}
+
+/// Hidden until it is asked for; the bars' state brings it back where it was.
+bool MainFrame::CreateLegBar()
+{
+    EnableDocking(CBRS_ALIGN_ANY);
+    if (!m_legs.Open(*this, ID_PLANNER_LEG_BAR))
+        return false;
+    DockControlBar(&m_legs, AFX_IDW_DOCKBAR_RIGHT);
+    ShowControlBar(&m_legs, FALSE, FALSE);
+    return true;
+}
+
 BOOL MainFrame::PreCreateWindow(CREATESTRUCT& create)
 {
     create.cx = 1180;
@@ -55,7 +71,7 @@ BOOL MainFrame::PreCreateWindow(CREATESTRUCT& create)
 
 int MainFrame::OnCreate(LPCREATESTRUCT create)
 {
-    if (CFrameWnd::OnCreate(create) == -1 || !CreateStatusBar() || !FillMenus())
+    if (CFrameWnd::OnCreate(create) == -1 || !CreateStatusBar() || !CreateLegBar() || !FillMenus())
         return -1;
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include <VornCommon.h>
 
+#include "apps/planner/LegBar.h"
 #include "apps/sample/PlannerCommands.h"
 
 class PageView;
@@ -14,6 +15,8 @@ public:
     PageView* View() const;
 
     PlannerCommands& Planner();
+
+    vorn::planner::LegBar& Legs();
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
@@ -37,8 +40,10 @@ protected:
 private:
     bool FillMenus();
     bool CreateStatusBar();
+    bool CreateLegBar();
 
     CStatusBar m_statusBar;
     PageView* m_view = nullptr; // destroyed by the window itself
     PlannerCommands m_planner{*this};
+    vorn::planner::LegBar m_legs{m_planner.Plan()};
 };

@@ -60,6 +60,11 @@ PlannerData& PlannerCommands::Data()
     return m_data;
 }
 
+PlannerData& PlannerCommands::Plan()
+{
+    return m_data;
+}
+
 void PlannerCommands::Load()
 {
     if (m_loaded)
@@ -76,8 +81,10 @@ void PlannerCommands::Load()
     {
         if (const FlightLogFrame* const log = Log())
             log->View().Refresh();
+        m_frame.Legs().Refresh();
     };
     m_data.Load();
+    m_frame.Legs().Refresh();
 }
 
 void PlannerCommands::ShowOnChart(const LatLon& position)
@@ -91,6 +98,8 @@ void PlannerCommands::ShowOnChart(const LatLon& position)
 void PlannerCommands::Update(CCmdUI& item)
 {
     item.Enable();
+    if (item.m_nID == ID_PLANNER_LEG_BAR)
+        item.SetCheck(m_frame.Legs().IsWindowVisible() ? 1 : 0);
 }
 
 /// One window, which comes to the front when it is there.
@@ -138,6 +147,9 @@ void PlannerCommands::Run(UINT command)
         return;
     case ID_PLANNER_LOG:
         return OpenLog();
+    case ID_PLANNER_LEG_BAR:
+        Load();
+        return m_frame.ShowControlBar(&m_frame.Legs(), !m_frame.Legs().IsWindowVisible(), FALSE);
     case ID_PLANNER_WARNING:
         return ShowWarning(&m_frame);
     default:

@@ -22,6 +22,8 @@ public:
 
     /// The plan with the region's places, read at the first use.
     vorn::planner::PlannerData& Data();
+    /// The same object, as far as it has been read.
+    vorn::planner::PlannerData& Plan();
 
 private:
     void Load();

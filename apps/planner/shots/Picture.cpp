@@ -147,7 +147,9 @@ bool WriteContactSheet(const std::string& folder)
         const int x = kGap + i % columns * (kCellWidth + kGap);
         const int y = kGap + i / columns * (kCellHeight + kLabel + kGap);
         const std::string& name = names[static_cast<std::size_t>(i)];
-        TextOut(sheet.DeviceContext(), x, y, name.c_str(), static_cast<int>(name.size()) - 4);
+        RECT label = {x, y, x + kCellWidth, y + kLabel};
+        DrawText(sheet.DeviceContext(), name.c_str(), static_cast<int>(name.size()) - 4, &label,
+                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
         PutSmall(sheet.Image(), folder + '\\' + name, x, y + kLabel);
     }
     SelectObject(sheet.DeviceContext(), former);

@@ -3,8 +3,10 @@
 #include "apps/planner/FlightLog.h"
 #include "apps/planner/FuelDialog.h"
 #include "apps/planner/GotoDialog.h"
+#include "apps/planner/LegBar.h"
 #include "apps/planner/LinksDialog.h"
 #include "apps/planner/NewFlightWizard.h"
+#include "apps/planner/PositionTip.h"
 #include "apps/planner/PreferencesSheet.h"
 #include "apps/planner/PrintDialog.h"
 #include "apps/planner/RouteDialog.h"
@@ -51,6 +53,43 @@ void Resize(HWND window, int width, int height)
     SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+/// Lets a tip come, which takes half a second.
+bool WaitFor(CWnd& tip)
+{
+    constexpr DWORD kPatienceMs = 5000;
+    const DWORD begin = GetTickCount();
+    while (!tip.IsWindowVisible() && GetTickCount() - begin < kPatienceMs)
+    {
+        PumpWaiting();
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, kLookMs, QS_ALLINPUT);
+    }
+    if (tip.IsWindowVisible())
+        PaintAll(tip);
+    return tip.IsWindowVisible() != FALSE;
+}
+
+BOOL CALLBACK CompareTip(HWND window, LPARAM parameter)
+{
+    HWND& found = *reinterpret_cast<HWND*>(parameter);
+    std::array<char, 32> name{};
+    GetClassName(window, name.data(), static_cast<int>(name.size()));
+    if (lstrcmpi(name.data(), TOOLTIPS_CLASSA) == 0 && IsWindowVisible(window))
+        found = window;
+    return found == nullptr;
+}
+
+/// The system's tip that stands beside a window now.
+HWND TipOf(HWND owner)
+{
+    PaintAll(owner);
+    HWND found = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), CompareTip, reinterpret_cast<LPARAM>(&found));
+    if (found == nullptr)
+        return owner;
+    PaintAll(found);
+    return found;
+}
+
 std::string PrefixOfScreen()
 {
     const HDC screen = GetDC(nullptr);
@@ -84,6 +123,8 @@ bool ShotRun::TakeAll()
     TakeDialogs();
     TakeSheets();
     TakeFlightLog();
+    TakeLegBar();
+    TakeTips();
     g_run = nullptr;
     return !m_failed && WriteContactSheet(m_folder);
 }
@@ -197,6 +238,101 @@ void ShotRun::TakeFlightLog()
     log->ShowWindow(SW_SHOW);
     Sizes(*log, "log");
     log->DestroyWindow();
+}
+
+/// Docked in a frame of its own at each side, and floating.
+void ShotRun::TakeLegBar()
+{
+    auto* const frame = new CFrameWnd; // deletes itself with its window
+    if (!frame->Create(nullptr, "Legs", WS_OVERLAPPEDWINDOW, CRect(100, 80, 760, 560), &m_frame))
+    {
+        m_failed = true;
+        return;
+    }
+    frame->EnableDocking(CBRS_ALIGN_ANY);
+    LegBar bar(m_data);
+    if (bar.Open(*frame, ID_PLANNER_LEG_BAR))
+    {
+        frame->ShowWindow(SW_SHOW);
+        const std::array<std::pair<UINT, const char*>, 3> sides = {{{AFX_IDW_DOCKBAR_RIGHT, "legs-1-right"},
+                                                                    {AFX_IDW_DOCKBAR_LEFT, "legs-2-left"},
+                                                                    {AFX_IDW_DOCKBAR_BOTTOM, "legs-3-bottom"}}};
+        for (const auto& [side, name] : sides)
+        {
+            frame->DockControlBar(&bar, side);
+            frame->RecalcLayout();
+            PaintAll(*frame);
+            Shot({frame->m_hWnd}, name, true);
+        }
+        frame->FloatControlBar(&bar, CPoint(300, 200));
+        const HWND floating = ::GetAncestor(bar, GA_ROOT);
+        PaintAll(*frame);
+        PaintAll(floating);
+        Shot({floating}, "legs-4-floating", true);
+    }
+    else
+    {
+        m_failed = true;
+    }
+    bar.DestroyWindow();
+    frame->DestroyWindow();
+}
+
+/// Beside what they explain: the helper's tip and its info box, the refusal, the position.
+void ShotRun::TakeTips()
+{
+    Open(
+        [this]
+        {
+            FuelDialog(m_data, &m_frame).DoModal();
+        },
+        [this](HWND window)
+        {
+            auto& dialog = *static_cast<FuelDialog*>(CWnd::FromHandlePermanent(window));
+            ToolTipCtrlEx& tip = dialog.GetToolTipCtrl();
+            CRect place;
+            ::GetWindowRect(::GetDlgItem(window, IDC_FUEL_CONTINGENCY), &place);
+            const CPoint middle = place.CenterPoint();
+            SetCursorPos(middle.x, middle.y);
+            MSG move{};
+            move.hwnd = ::GetDlgItem(window, IDC_FUEL_CONTINGENCY);
+            move.message = WM_MOUSEMOVE;
+            move.pt = middle;
+            tip.RelayEvent(&move);
+            if (!WaitFor(tip))
+            {
+                m_failed = true;
+                return;
+            }
+            Shot({window, tip.m_hWnd}, "tip-1-short", true);
+            tip.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
+            PaintAll(window);
+            PaintAll(tip);
+            Shot({window, tip.m_hWnd}, "tip-2-info-box", true);
+            tip.Pop();
+            SetCursorPos(GetSystemMetrics(SM_CXSCREEN), 0);
+        });
+    Open(
+        [this]
+        {
+            GotoDialog(m_data, &m_frame).DoModal();
+        },
+        [this](HWND window)
+        {
+            ::SetDlgItemText(window, IDC_GOTO_LATITUDE, "47 65 N");
+            ::SendMessage(window, WM_COMMAND, IDOK, 0);
+            Shot({window, TipOf(window)}, "tip-3-refusal", true);
+        });
+    if (m_data.showOnChart)
+        m_data.showOnChart(LatLon(47.449, -122.309)); // brings the chart to the front
+    PositionTip position;
+    CRect place;
+    m_frame.GetWindowRect(&place);
+    position.Show(m_frame, (LatToString(47.449) + "  " + LonToString(-122.309)).GetString(), place.CenterPoint());
+    PaintAll(m_frame);
+    PaintAll(position.Window());
+    Shot({m_frame.m_hWnd, position.Window()}, "tip-4-position", false);
+    position.Hide(m_frame);
 }
 
 void ShotRun::Open(const std::function<void()>& open, const Look& look)

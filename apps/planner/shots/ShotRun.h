@@ -31,6 +31,8 @@ private:
     void TakeSheets();
     void TakePages(HWND sheet, const std::vector<std::string>& names);
     void TakeFlightLog();
+    void TakeLegBar();
+    void TakeTips();
     /// Opens a window that stays until it is closed, and looks at it while it is open.
     void Open(const std::function<void()>& open, const Look& look);
     void Sizes(HWND window, const std::string& name);

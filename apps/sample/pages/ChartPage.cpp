@@ -1,6 +1,7 @@
 #include "apps/sample/pages/ChartPage.h"
 
 #include "apps/chart/core/ScaleBar.h"
+#include "apps/planner/PlannerData.h"
 #include "apps/sample/resource.h"
 
 #include <algorithm>
@@ -238,8 +239,22 @@ void ChartPage::ShowPosition()
     if (frame == nullptr)
         return;
     CString text;
-    if (const std::optional<LatLon> position = m_window.Pointed())
+    const std::optional<LatLon> position = m_window.Pointed();
+    ShowPositionTip(position);
+    if (position)
         text = LatToString(position->Lat()) + "   " + LonToString(position->Lon()) + "   ";
     text += vorn::chart::ScaleText(m_chart.View().Scale()).c_str();
     frame->SetMessageText(text);
+}
+
+/// Only while the pointer is over the chart, and the user has not put the note off.
+void ChartPage::ShowPositionTip(const std::optional<LatLon>& position)
+{
+    using namespace vorn::planner;
+    if (!position || !ReadSwitch(kPositionTip, true))
+        return m_tip.Hide(m_window);
+    CPoint pointer;
+    GetCursorPos(&pointer);
+    const CString text = LatToString(position->Lat()) + "  " + LonToString(position->Lon());
+    m_tip.Show(m_window, text.GetString(), pointer);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/chart/Chart.h"
+#include "apps/planner/PositionTip.h"
 #include "apps/sample/pages/Page.h"
 #include "apps/sample/ui/ChartWnd.h"
 
@@ -56,6 +57,7 @@ private:
     void ToggleNight();
     void Export();
     void ShowPosition();
+    void ShowPositionTip(const std::optional<LatLon>& position);
     void ShowState();
 
     mutable vorn::chart::Chart m_chart; // painting places its labels
@@ -66,6 +68,7 @@ private:
     bool m_placed = false; // the chart has a size and a view
     CWnd* m_view = nullptr;
     ChartWnd m_window;
+    vorn::planner::PositionTip m_tip;
     CComboBox m_projection;
     std::array<CButton, kButtons> m_buttons;
 };

@@ -134,6 +134,8 @@ void ChartPage::Activate(CWnd& view, bool active)
     }
     for (CWnd* const control : Controls())
         control->ShowWindow(active ? SW_SHOWNA : SW_HIDE);
+    if (!active)
+        m_tip.Hide(m_window);
     ShowState();
 }
 

@@ -21,6 +21,7 @@ ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDBLCLK()
 ON_WM_MOUSEMOVE()
+ON_WM_MOUSELEAVE()
 ON_WM_CAPTURECHANGED()
 ON_WM_MOUSEWHEEL()
 ON_WM_KEYDOWN()
@@ -133,6 +134,11 @@ void ChartWnd::OnCaptureChanged(CWnd* to)
 void ChartWnd::OnMouseMove(UINT flags, CPoint point)
 {
     CWnd::OnMouseMove(flags, point);
+    if (!m_pointer)
+    {
+        TRACKMOUSEEVENT leaving = {sizeof leaving, TME_LEAVE, m_hWnd, 0};
+        ::TrackMouseEvent(&leaving);
+    }
     m_pointer = point;
     if (m_grabbed)
     {
@@ -143,6 +149,14 @@ void ChartWnd::OnMouseMove(UINT flags, CPoint point)
     {
         m_moved();
     }
+}
+
+void ChartWnd::OnMouseLeave()
+{
+    CWnd::OnMouseLeave();
+    m_pointer.reset();
+    if (m_moved)
+        m_moved();
 }
 
 BOOL ChartWnd::OnMouseWheel(UINT, short delta, CPoint point)

@@ -138,6 +138,30 @@ TEST_F(GalleryValues, TheRouteIsEditedInItsList)
     EXPECT_EQ(m_data.plan.via, "ELN KYKM EPH");
 }
 
+TEST_F(GalleryValues, EveryTipHasAControlAndAText)
+{
+    const std::array<std::pair<const char*, int>, 6> tips = {
+        {{"Route", 18}, {"Weight", 15}, {"Fuel", 10}, {"Print", 13}, {"Goto", 3}, {"Links", 0}}};
+    for (const auto& [name, count] : tips)
+    {
+        std::unique_ptr<planner::PlannerDialog> dialog = Open(GalleryDialogNamed(name));
+        ToolTipCtrlEx& control = dialog->GetToolTipCtrl();
+        EXPECT_EQ(control.GetToolCount(), count) << name;
+        for (HWND child = GetWindow(*dialog, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+        {
+            TOOLINFOEX info;
+            CString text;
+            CWnd* const window = CWnd::FromHandle(child);
+            if (control.GetToolInfo(info, window, static_cast<UINT>(GetDlgCtrlID(child))))
+            {
+                control.GetText(text, window, static_cast<UINT>(GetDlgCtrlID(child)));
+                EXPECT_FALSE(text.IsEmpty()) << name << ' ' << GetDlgCtrlID(child);
+            }
+        }
+        Close(dialog);
+    }
+}
+
 TEST_F(GalleryValues, OnlyTheChosenTabShowsItsControls)
 {
     std::unique_ptr<planner::PlannerDialog> dialog = Open(GalleryDialogNamed("Route"));
