@@ -3,10 +3,23 @@
 #include <cstdio>
 #include <memory>
 
+/// A log into which the libraries write, too, as long as it lives.
+class SharedLog : public VornLog
+{
+public:
+    SharedLog()
+    {
+        mpSingleInst = this;
+    }
+    ~SharedLog() override
+    {
+        mpSingleInst = nullptr;
+    }
+};
+
 int main()
 {
-    VornLog log;
-    VornLog::mpSingleInst = &log; // from here on the libraries write into it, too
+    SharedLog log;
     if (!log.InitLog("example.log"))
         return 1;
     log.LogMsg("Loading tables", LOG_INFO);
@@ -22,6 +35,5 @@ int main()
     const int length = log.GetLog(text);
     const std::unique_ptr<char[]> owned(text);
     std::printf("%d characters\n%s", length, owned.get());
-    VornLog::mpSingleInst = nullptr;
     return 0;
 }
