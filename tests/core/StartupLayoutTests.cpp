@@ -45,9 +45,9 @@ void ExpectApart(const std::vector<CRect>& places)
 
 void ExpectTidy(const StartupParts& parts, const StartupPlaces& places)
 {
-    const std::array all = {places.title, places.copyright, places.disclaimer, places.area,
-                            places.check, places.update,    places.ok};
-    ExpectApart({all.begin(), all.end()});
+    const std::vector<CRect> all = {places.title, places.copyright, places.disclaimer, places.area,
+                                    places.check, places.update,    places.ok};
+    ExpectApart(all);
     for (const CRect& place : all)
     {
         EXPECT_GE(place.left, parts.margin.cx);
