@@ -21,7 +21,7 @@ VornCommonLog* VornCommonLog::Instance()
 
 void VornCommonLog::FreeInstance()
 {
-    delete mpSingleInst;
+    delete mpSingleInst; // who made it leaves it to this call
     mpSingleInst = nullptr;
 }
 

@@ -96,6 +96,7 @@ LayoutMgr::CPaneBase LayoutPropertySheet::ItemOfTabs()
         least.right = least.left + std::max(least.Width(), page.Width());
         least.bottom = least.top + std::max(least.Height(), page.Height());
     }
+    // The handle of a pane counts its references and deletes it with the last.
     return CPaneBase(new StandingItem(this, tabs->m_hWnd, Greedy, 0, 0, least.Width(), least.Height()));
 }
 
