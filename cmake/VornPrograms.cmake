@@ -2,18 +2,22 @@
 file(GLOB_RECURSE chart_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/apps/chart/*.cpp")
 add_library(vorn_chart STATIC ${chart_sources})
 target_link_libraries(vorn_chart PRIVATE vorn_flags PUBLIC VornCommon)
+vorn_precompile_host(vorn_chart)
 
 # What the sample applications tell of their data.
 add_library(vorn_datasets STATIC "${PROJECT_SOURCE_DIR}/apps/datasets/DataSets.cpp")
 target_link_libraries(vorn_datasets PRIVATE vorn_flags PUBLIC VornCommon)
+vorn_precompile_host(vorn_datasets)
 
 # The planner's dialogs, which the sample and their tests open; the resources go with the program.
 file(GLOB_RECURSE planner_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/apps/planner/*.cpp")
 add_library(vorn_planner STATIC ${planner_sources})
 target_link_libraries(vorn_planner PRIVATE vorn_flags PUBLIC VornCommon)
-vorn_precompile(vorn_planner <VornCommon.h>)
+target_compile_options(vorn_planner PRIVATE -O1)
+vorn_precompile_host(vorn_planner)
 set(VORN_PLANNER_RESOURCES "${PROJECT_SOURCE_DIR}/apps/planner/planner.rc")
 
+# The work is done in the libraries; what is left of a program needs little optimisation and is compiled often.
 function(vorn_program name folder)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.rc")
     set(shell ${sources})
@@ -24,7 +28,8 @@ function(vorn_program name folder)
     add_executable(${name} ${ARGN} ${sources})
     target_link_libraries(${name} PRIVATE vorn_flags vorn_chart VornCommon)
     target_compile_definitions(${name} PRIVATE VORN_VERSION="${PROJECT_VERSION}")
-    vorn_precompile(${name} <VornCommon.h>)
+    target_compile_options(${name} PRIVATE -O1)
+    vorn_precompile_host(${name})
     set_property(GLOBAL APPEND PROPERTY VORN_PROGRAMS ${name})
 endfunction()
 

@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::seconds kLongest{6}; // for one target
+constexpr std::chrono::seconds kLongest{3}; // for one target
 
 struct Seed
 {
