@@ -17,9 +17,19 @@ target_compile_options(vorn_planner PRIVATE -O1)
 vorn_precompile_host(vorn_planner)
 set(VORN_PLANNER_RESOURCES "${PROJECT_SOURCE_DIR}/apps/planner/planner.rc")
 
+# The sample's preferences, for their tests as well; the resources go with the program.
+file(GLOB preferences_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/apps/sample/preferences/*.cpp"
+     "${PROJECT_SOURCE_DIR}/apps/sample/preferences/core/*.cpp")
+add_library(vorn_preferences STATIC ${preferences_sources})
+target_link_libraries(vorn_preferences PRIVATE vorn_flags PUBLIC vorn_planner)
+target_compile_options(vorn_preferences PRIVATE -O1)
+vorn_precompile_host(vorn_preferences)
+set(VORN_PREFERENCES_RESOURCES "${PROJECT_SOURCE_DIR}/apps/sample/preferences/preferences.rc")
+
 # The work is done in the libraries; what is left of a program needs little optimisation and is compiled often.
 function(vorn_program name folder)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp" "${PROJECT_SOURCE_DIR}/${folder}/*.rc")
+    list(FILTER sources EXCLUDE REGEX "/apps/sample/preferences/.*\\.cpp$") # a library
     set(shell ${sources})
     list(FILTER shell EXCLUDE REGEX "/core/")
     if(NOT shell) # its portable part alone is no program yet
@@ -45,6 +55,6 @@ if(TARGET VornSample)
     add_dependencies(VornSample VornUpdate) # starts it
     find_package(PNG REQUIRED)
     target_include_directories(VornSample PRIVATE "${PROJECT_SOURCE_DIR}/apps/sample")
-    target_link_libraries(VornSample PRIVATE PNG::PNG vorn_planner)
+    target_link_libraries(VornSample PRIVATE PNG::PNG vorn_preferences vorn_planner)
     target_sources(VornSample PRIVATE "${VORN_PLANNER_RESOURCES}")
 endif()

@@ -61,6 +61,11 @@ Form::Pane Form::Line()
     return m_layout.pane(Layout::Horizontal, Layout::FixedHeight, X(kGap));
 }
 
+Form::Pane Form::Joined()
+{
+    return m_layout.pane(Layout::Horizontal, Layout::FixedBoth, 0);
+}
+
 Form::Pane Form::Column()
 {
     return m_layout.pane(Layout::Vertical, Layout::FixedWidth, Y(kGap));

@@ -28,6 +28,8 @@ public:
 
     /// Controls side by side, as high as the highest.
     Pane Line();
+    /// Controls side by side that touch, such as a field and its arrows.
+    Pane Joined();
     /// Controls one below the other, as wide as the widest.
     Pane Column();
     /// The same that takes its share of the room.

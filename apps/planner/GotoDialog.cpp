@@ -122,15 +122,7 @@ bool GotoDialog::ByPlace()
 
 void GotoDialog::Refuse(UINT id, const char* why)
 {
-    constexpr long kSystemsTime = -1;
-    CWnd& control = *GetDlgItem(static_cast<int>(id));
-    CRect place;
-    control.GetWindowRect(&place);
-    if (m_refusal.m_hWnd == nullptr)
-        m_refusal.Create(this);
-    MessageBeep(MB_ICONEXCLAMATION);
-    m_refusal.ShowTip(CPoint(place.left, place.bottom), "Not understood", why, TTI_ERROR, kSystemsTime);
-    GotoDlgCtrl(&control);
+    m_refusal.Show(*this, id, "Not understood", why);
 }
 
 } // namespace vorn::planner

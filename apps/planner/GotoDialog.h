@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/planner/PlannerDialog.h"
+#include "apps/planner/Refusal.h"
 
 namespace vorn::planner
 {
@@ -30,7 +31,7 @@ private:
     HotEdit m_latitude;
     HotEdit m_longitude;
     CComboBox m_place;
-    InfoTip m_refusal;
+    Refusal m_refusal;
     bool m_filled = false;
 };
 

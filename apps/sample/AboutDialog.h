@@ -4,7 +4,7 @@
 
 /// Names the sample, the libraries that it stands on, and their versions; links lead to the family's page and to the
 /// licences where they are installed.
-class AboutDialog : public CDialog
+class AboutDialog : public ToolTipDlg
 {
 public:
     explicit AboutDialog(CWnd* parent);

@@ -2,13 +2,23 @@
 
 #include "apps/sample/resource.h"
 
-BEGIN_MESSAGE_MAP(EditFieldDialog, CDialog)
+#include <array>
+
+namespace
+{
+
+// Control and tip by turns.
+constexpr std::array<UINT, 4> kTips = {IDC_EDIT_FIELD, IDS_TIP_EDIT_FIELD, IDC_EDIT_VALUE, IDS_TIP_EDIT_VALUE};
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(EditFieldDialog, ToolTipDlg)
 ON_CBN_SELCHANGE(IDC_EDIT_FIELD, OnFieldChosen)
 ON_EN_CHANGE(IDC_EDIT_VALUE, OnValueChanged)
 END_MESSAGE_MAP()
 
 EditFieldDialog::EditFieldDialog(CWnd* parent, vorn::DataTable& table, int row, int field)
-    : CDialog(IDD_EDIT_FIELD, parent), m_table(table), m_row(row), m_field(field)
+    : ToolTipDlg(IDD_EDIT_FIELD, parent), m_table(table), m_row(row), m_field(field)
 {
 }
 
@@ -19,7 +29,8 @@ int EditFieldDialog::Field() const
 
 BOOL EditFieldDialog::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    ToolTipDlg::OnInitDialog();
+    AddTips(kTips.data(), static_cast<int>(kTips.size() / 2));
     CString caption;
     caption.Format("Edit record %d", m_table.RecordOf(m_row));
     SetWindowText(caption);

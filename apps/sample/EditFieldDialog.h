@@ -6,7 +6,7 @@
 
 /// Changes one field of a record: the user chooses the field, types its value and sees whether it fits. The value is
 /// written when the dialog ends with IDOK; when that fails, the user is told and the dialog stays.
-class EditFieldDialog : public CDialog
+class EditFieldDialog : public ToolTipDlg
 {
 public:
     /// @param table must outlive the dialog

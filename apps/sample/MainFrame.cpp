@@ -6,6 +6,8 @@
 #include "apps/sample/ProjectionsMenu.h"
 #include "apps/sample/Snapshot.h"
 #include "apps/sample/UnitsMenu.h"
+#include "apps/sample/model/Usage.h"
+#include "apps/sample/preferences/PreferencesDialog.h"
 #include "apps/sample/resource.h"
 
 #include <array>
@@ -27,6 +29,8 @@ ON_WM_GETMINMAXINFO()
 ON_COMMAND(ID_VIEW_REFRESH, OnViewRefresh)
 ON_COMMAND(ID_FILE_SAVE_PICTURE, OnSavePicture)
 ON_COMMAND(ID_APP_ABOUT, OnAbout)
+ON_COMMAND(ID_VIEW_PREFERENCES, OnPreferences)
+ON_COMMAND(ID_VIEW_LOG, OnLog)
 ON_COMMAND_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, OnPage)
 ON_UPDATE_COMMAND_UI_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, OnUpdatePage)
 ON_COMMAND_RANGE(ID_PLANNER_FIRST, ID_PLANNER_LAST, OnPlanner)
@@ -150,6 +154,36 @@ void MainFrame::OnSavePicture()
 void MainFrame::OnAbout()
 {
     AboutDialog(this).DoModal();
+}
+
+void MainFrame::OnLog()
+{
+    VornCommonLog::Instance()->DisplayLog(LOG_FATAL, false);
+}
+
+vorn::preferences::Context MainFrame::PreferencesContext()
+{
+    return {[this]
+            {
+                TakePreferences();
+            },
+            [this]
+            {
+                return m_view->ChartCenter();
+            },
+            UsageText, ClearUsage};
+}
+
+void MainFrame::OnPreferences()
+{
+    vorn::preferences::PreferencesDialog(PreferencesContext(), this).DoModal();
+}
+
+/// All that is shown, in the page in front and in the planner's windows, is made anew.
+void MainFrame::TakePreferences()
+{
+    m_view->RefreshPage();
+    m_planner.Refresh();
 }
 
 void MainFrame::OnPage(UINT command)

@@ -4,6 +4,7 @@
 
 #include "apps/planner/LegBar.h"
 #include "apps/sample/PlannerCommands.h"
+#include "apps/sample/preferences/Category.h"
 
 class PageView;
 
@@ -18,6 +19,9 @@ public:
 
     vorn::planner::LegBar& Legs();
 
+    /// What the preferences dialog asks of this window.
+    vorn::preferences::Context PreferencesContext();
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     BOOL OnCreateClient(LPCREATESTRUCT create, CCreateContext* context) override;
@@ -28,6 +32,8 @@ protected:
     afx_msg void OnViewRefresh();
     afx_msg void OnSavePicture();
     afx_msg void OnAbout();
+    afx_msg void OnPreferences();
+    afx_msg void OnLog();
     afx_msg void OnPage(UINT command);
     afx_msg void OnUpdatePage(CCmdUI* item);
     afx_msg void OnPlanner(UINT command);
@@ -41,6 +47,7 @@ private:
     bool FillMenus();
     bool CreateStatusBar();
     bool CreateLegBar();
+    void TakePreferences();
 
     CStatusBar m_statusBar;
     PageView* m_view = nullptr; // destroyed by the window itself

@@ -1,5 +1,6 @@
 #include "apps/sample/PageView.h"
 
+#include "apps/sample/pages/ChartPage.h"
 #include "apps/sample/pages/PageList.h"
 #include "apps/sample/resource.h"
 #include "apps/sample/ui/BufferedDC.h"
@@ -189,6 +190,16 @@ bool PageView::MoveFocus(bool backwards)
         return false;
     ::SetFocus(next);
     return true;
+}
+
+LatLon PageView::ChartCenter() const
+{
+    for (const std::unique_ptr<Page>& page : m_pages)
+    {
+        if (const auto* const chart = dynamic_cast<const ChartPage*>(page.get()))
+            return chart->Center();
+    }
+    return {};
 }
 
 void PageView::RefreshPage()

@@ -22,6 +22,9 @@ public:
     /// several and none of exactly that name.
     bool ShowPage(const std::string& name);
 
+    /// Where the chart is centred.
+    LatLon ChartCenter() const;
+
     /// Takes all values anew and paints them.
     void RefreshPage();
 

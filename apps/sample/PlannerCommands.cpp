@@ -79,11 +79,16 @@ void PlannerCommands::Load()
     };
     m_data.changed = [this]
     {
-        if (const FlightLogFrame* const log = Log())
-            log->View().Refresh();
-        m_frame.Legs().Refresh();
+        Refresh();
     };
     m_data.Load();
+    m_frame.Legs().Refresh();
+}
+
+void PlannerCommands::Refresh()
+{
+    if (const FlightLogFrame* const log = Log())
+        log->View().Refresh();
     m_frame.Legs().Refresh();
 }
 

@@ -19,6 +19,8 @@ public:
 
     void Run(UINT command);
     void Update(CCmdUI& item);
+    /// Shows the plan anew in the windows that stay open.
+    void Refresh();
 
     /// The plan with the region's places, read at the first use.
     vorn::planner::PlannerData& Data();

@@ -3,21 +3,27 @@
 #include "apps/sample/resource.h"
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
 
 constexpr int kMost = 20000;
 
+// Control and tip by turns.
+constexpr std::array<UINT, 10> kTips = {
+    IDC_RESIZE_WIDTH,    IDS_TIP_RESIZE_WIDTH, IDC_RESIZE_HEIGHT,   IDS_TIP_RESIZE_HEIGHT, IDC_RESIZE_KEEP,
+    IDS_TIP_RESIZE_KEEP, IDC_RESIZE_AREA,      IDS_TIP_RESIZE_AREA, IDC_RESIZE_SYSTEM,     IDS_TIP_RESIZE_SYSTEM};
+
 } // namespace
 
-BEGIN_MESSAGE_MAP(ResizePictureDialog, CDialog)
+BEGIN_MESSAGE_MAP(ResizePictureDialog, ToolTipDlg)
 ON_EN_CHANGE(IDC_RESIZE_WIDTH, OnWidth)
 ON_EN_CHANGE(IDC_RESIZE_HEIGHT, OnHeight)
 END_MESSAGE_MAP()
 
 ResizePictureDialog::ResizePictureDialog(CWnd* parent, int width, int height)
-    : CDialog(IDD_RESIZE_PICTURE, parent), m_oldWidth(width), m_oldHeight(height), m_width(width), m_height(height)
+    : ToolTipDlg(IDD_RESIZE_PICTURE, parent), m_oldWidth(width), m_oldHeight(height), m_width(width), m_height(height)
 {
 }
 
@@ -38,7 +44,8 @@ bool ResizePictureDialog::IsByArea() const
 
 BOOL ResizePictureDialog::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    ToolTipDlg::OnInitDialog();
+    AddTips(kTips.data(), static_cast<int>(kTips.size() / 2));
     CheckDlgButton(IDC_RESIZE_KEEP, BST_CHECKED);
     CheckRadioButton(IDC_RESIZE_AREA, IDC_RESIZE_SYSTEM, IDC_RESIZE_AREA);
     m_isFollowing = true;
@@ -85,5 +92,5 @@ void ResizePictureDialog::OnOK()
     m_width = Typed(IDC_RESIZE_WIDTH);
     m_height = Typed(IDC_RESIZE_HEIGHT);
     m_isByArea = IsDlgButtonChecked(IDC_RESIZE_AREA) == BST_CHECKED;
-    CDialog::OnOK();
+    ToolTipDlg::OnOK();
 }

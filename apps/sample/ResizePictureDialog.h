@@ -3,7 +3,7 @@
 #include <VornCommon.h>
 
 /// Asks for a picture's new size and how it is to be made.
-class ResizePictureDialog : public CDialog
+class ResizePictureDialog : public ToolTipDlg
 {
 public:
     ResizePictureDialog(CWnd* parent, int width, int height);

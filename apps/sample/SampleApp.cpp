@@ -7,7 +7,9 @@
 #include "apps/sample/Snapshot.h"
 #include "apps/sample/StartupDialog.h"
 #include "apps/sample/core/ReportTable.h"
+#include "apps/sample/model/Messages.h"
 #include "apps/sample/model/Usage.h"
+#include "apps/sample/preferences/GeneralCategory.h"
 #include "apps/sample/resource.h"
 
 #include <memory>
@@ -49,8 +51,16 @@ std::string TakeOptions(PageView& view, const StartOptions& options)
     return {};
 }
 
+/// What stands in the settings and takes effect without being asked for.
+void TakeSettings()
+{
+    BeginLog();
+    vorn::preferences::ApplyTips();
+}
+
 void FreeSingletons()
 {
+    EndLog();
     VornCommonApp::FreeInst();
     TimerMgr::FreeInst();
     ResMgr::FreeInst();
@@ -79,6 +89,8 @@ BOOL SampleApp::InitInstance()
     m_unattended = options.IsUnattended() || options.rounds > 0;
     VornCommonApp::Inst(this);
     SetRegistryKey("Vornwald"); // the bars' state stands beside the settings
+    TakeSettings();
+    LogNote(LOG_INFO, "VornSample " VORN_VERSION " started");
     CountUse(UsageEvent::Start);
     if (options.rounds > 0)
     {
@@ -92,6 +104,7 @@ BOOL SampleApp::InitInstance()
         RunUnattended(options);
         return FALSE;
     }
+    SpeakUp();
     return TRUE;
 }
 
@@ -102,6 +115,7 @@ void SampleApp::RunRounds(const StartOptions& options)
     for (int round = 1; round <= options.rounds && m_exitCode == 0; ++round)
     {
         VornCommonApp::Inst(this);
+        TakeSettings();
         StartupDialog dialog(Currency::Mixed);
         dialog.RunUnattended(true, "");
         if (dialog.DoModal() == -1 || !CreateMainFrame(options))
@@ -220,6 +234,7 @@ void SampleApp::TakeShots(const std::string& folder)
 int SampleApp::ExitInstance()
 {
     const int code = CWinApp::ExitInstance();
+    LogNote(LOG_INFO, "VornSample ended");
     FreeSingletons();
     return m_exitCode != 0 || m_unattended ? m_exitCode : code;
 }

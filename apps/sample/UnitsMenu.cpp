@@ -1,40 +1,16 @@
 #include "apps/sample/UnitsMenu.h"
 
+#include "apps/planner/UnitChoices.h"
 #include "apps/sample/resource.h"
 
-#include <array>
-#include <span>
+using vorn::planner::UnitChoice;
+using vorn::planner::UnitChoices;
+using vorn::planner::UnitInForce;
 
 namespace
 {
 
 constexpr UINT kCommandsPerKind = 32;
-
-constexpr std::array<int, 3> kDistanceUnits = {UNIT_NM, UNIT_SM, UNIT_KM};
-constexpr std::array<int, 4> kSpeedUnits = {UNIT_KTS, UNIT_MPH, UNIT_KPH, UNIT_MPS};
-constexpr std::array<int, 3> kShortDistanceUnits = {UNIT_FT, UNIT_M, UNIT_YD};
-constexpr std::array<int, 5> kFuelUnits = {UNIT_AUTO, UNIT_GAL, UNIT_L, UNIT_LBS, UNIT_KG};
-constexpr std::array<int, 2> kMassUnits = {UNIT_LBS, UNIT_KG};
-constexpr std::array<int, 2> kTemperatureUnits = {UNIT_F, UNIT_C};
-constexpr std::array<int, 3> kPressureUnits = {UNIT_INHG, UNIT_HPA, UNIT_MMHG};
-
-struct UnitChoice
-{
-    const char* label;
-    const char* key; // in section "Units"
-    int defaultUnit;
-    std::span<const int> units;
-};
-
-const std::array kChoices = {
-    UnitChoice{"&Distance", "Distance", UNIT_NM, kDistanceUnits},
-    UnitChoice{"&Speed", "Speed", UNIT_KTS, kSpeedUnits},
-    UnitChoice{"S&hort distance", "ShortDist", UNIT_FT, kShortDistanceUnits},
-    UnitChoice{"&Fuel", "Fuel", UNIT_AUTO, kFuelUnits},
-    UnitChoice{"&Mass", "Mass", UNIT_LBS, kMassUnits},
-    UnitChoice{"&Temperature", "Temp", UNIT_F, kTemperatureUnits},
-    UnitChoice{"&Pressure", "Pressure", UNIT_INHG, kPressureUnits},
-};
 
 struct Command
 {
@@ -46,14 +22,9 @@ Command Decode(UINT command)
 {
     const UINT index = (command - ID_UNIT_FIRST) / kCommandsPerKind;
     const UINT item = (command - ID_UNIT_FIRST) % kCommandsPerKind;
-    if (command < ID_UNIT_FIRST || index >= kChoices.size() || item >= kChoices[index].units.size())
+    if (command < ID_UNIT_FIRST || index >= UnitChoices().size() || item >= UnitChoices()[index].units.size())
         return {};
-    return {&kChoices[index], kChoices[index].units[item]};
-}
-
-int UnitInForce(const UnitChoice& choice)
-{
-    return VornCommonApp::Inst()->GetSettingInt("Units", choice.key, choice.defaultUnit);
+    return {&UnitChoices()[index], UnitChoices()[index].units[item]};
 }
 
 CString ItemText(int unit)
@@ -70,7 +41,7 @@ CString ItemText(int unit)
 void UnitsMenu::Fill(CMenu& menu)
 {
     UINT first = ID_UNIT_FIRST;
-    for (const UnitChoice& choice : kChoices)
+    for (const UnitChoice& choice : UnitChoices())
     {
         CMenu items;
         items.CreatePopupMenu();
@@ -100,7 +71,7 @@ bool UnitsMenu::IsChosen(UINT command)
 CString UnitsMenu::InForce()
 {
     CString text;
-    for (const UnitChoice& choice : kChoices)
+    for (const UnitChoice& choice : UnitChoices())
     {
         const int unit = UnitInForce(choice);
         if (unit < 0 || unit >= gUnitCount)

@@ -1,8 +1,8 @@
 #include "apps/sample/model/Usage.h"
 
-#include <VornCommon.h>
+#include "apps/sample/model/UserFile.h"
 
-#include <shlobj.h>
+#include <VornCommon.h>
 
 #include <array>
 
@@ -23,17 +23,10 @@ constexpr std::array kUses = {
     Use{UsageEvent::Deletion, "Records deleted"},  Use{UsageEvent::Pack, "Tables packed"},
 };
 
-CString StatisticsFile()
-{
-    const CString folder = PathMgr::Instance(AfxGetAppName())->GetPathInst(DP_USERHIDDEN, AfxGetAppName());
-    SHCreateDirectoryEx(nullptr, folder, nullptr);
-    return folder + kFileName;
-}
-
 ProgramStats& Statistics()
 {
     static ProgramStats statistics;
-    static const bool read = statistics.Init(StatisticsFile());
+    static const bool read = statistics.Init(UserFile(kFileName));
     (void)read; // false for a fresh file, which is as good
     return statistics;
 }
@@ -60,4 +53,19 @@ vorn::ReportTable UsageTable()
     for (const Use& use : kUses)
         table.AddRow({use.words, std::to_string(Statistics().GetStat(Counter(use.event)))});
     return table;
+}
+
+std::string UsageText()
+{
+    const vorn::ReportTable table = UsageTable();
+    std::string text = table.title;
+    for (const auto& row : table.rows)
+        text += "\r\n" + row.cells[0] + ": " + row.cells[1];
+    return text;
+}
+
+void ClearUsage()
+{
+    Statistics().ClearStats();
+    Statistics().SaveStats();
 }

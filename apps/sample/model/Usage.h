@@ -2,6 +2,8 @@
 
 #include "apps/sample/core/ReportTable.h"
 
+#include <string>
+
 /// What the sample counts of its own use, in the order of its statistics file.
 enum class UsageEvent
 {
@@ -19,3 +21,9 @@ void CountUse(UsageEvent event);
 
 /// The counters so far.
 vorn::ReportTable UsageTable();
+
+/// The same in lines, for a window that shows texts.
+std::string UsageText();
+
+/// Sets all counters to 0 and saves them.
+void ClearUsage();

@@ -2,6 +2,7 @@
 
 #include "apps/chart/core/ScaleBar.h"
 #include "apps/planner/PlannerData.h"
+#include "apps/sample/model/Messages.h"
 #include "apps/sample/resource.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ namespace
 // The stored view: section and key.
 constexpr const char* kViews = "Views";
 constexpr const char* kChart = "Chart";
-constexpr const char* kNight = "Night";
+constexpr const char* kNight = "Night"; // a state of the colours: by day, by night, at dusk
 
 constexpr double kZoomButton = 1.5;
 constexpr double kPrinterMargin = 0.02; // of the sheet's width
@@ -72,6 +73,8 @@ const char* ChartPage::Name() const
 
 void ChartPage::Refresh()
 {
+    if (m_view != nullptr)
+        ShowState();
     m_window.Repaint();
 }
 
@@ -91,8 +94,10 @@ void ChartPage::Load()
         return;
     m_loaded = true;
     m_missing = m_chart.Load(OwnData());
-    if (VornCommonApp::Inst()->GetSettingInt(kChart, kNight, 0) != 0)
-        ColorContext::Instance()->SetCurrentState(COLORSTATE_NIGHT);
+    if (!m_missing.empty())
+        LogNote(LOG_ERROR, "The chart lacks " + m_missing);
+    if (const int state = VornCommonApp::Inst()->GetSettingInt(kChart, kNight, COLORSTATE_DAY); state != COLORSTATE_DAY)
+        ColorContext::Instance()->SetCurrentState(state);
 }
 
 std::string ChartPage::TakeOptions(const StartOptions& options)
@@ -126,13 +131,18 @@ void ChartPage::KeepView()
     ViewDefinition view;
     m_chart.Store(view);
     AppRegMgr::Instance()->WriteVornString(kViews, kChart, view.Format(), 0);
-    VornCommonApp::Inst()->WriteSettingInt(kChart, kNight, IsNightVision() ? 1 : 0);
+    VornCommonApp::Inst()->WriteSettingInt(kChart, kNight, ColorContext::Instance()->GetCurrentState());
 }
 
 void ChartPage::CenterOn(const LatLon& position)
 {
     m_chart.View().SetCentre(position);
     m_window.Repaint();
+}
+
+LatLon ChartPage::Center() const
+{
+    return m_chart.View().Centre();
 }
 
 void ChartPage::Leave()

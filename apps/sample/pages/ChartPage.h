@@ -35,6 +35,7 @@ public:
 
     /// Brings a position into the middle of the chart.
     void CenterOn(const LatLon& position);
+    LatLon Center() const;
 
 private:
     static constexpr std::size_t kButtons = 5;

@@ -1,6 +1,7 @@
 #include "apps/sample/pages/PicturePage.h"
 
 #include "apps/sample/ResizePictureDialog.h"
+#include "apps/sample/model/Messages.h"
 #include "apps/sample/resource.h"
 #include "apps/sample/ui/TableCard.h"
 
@@ -127,7 +128,11 @@ void PicturePage::Open(const std::string& path)
 {
     const std::string problem = m_picture.Open(path);
     if (!problem.empty())
-        return Say(problem, Notice::News::Bad);
+    {
+        Say(problem, Notice::News::Bad);
+        return LogNote(LOG_WARNING, problem + ' ' + path);
+    }
+    LogNote(LOG_INFO, "Opened the picture " + path);
     Say("Opened " + m_picture.Name() + ": " + SizeWords(m_picture) + ".", Notice::News::Good);
     ShowPicture();
 }

@@ -1,5 +1,6 @@
 #include "apps/sample/pages/TablePage.h"
 
+#include "apps/sample/model/Messages.h"
 #include "apps/sample/model/Usage.h"
 #include "apps/sample/pages/TableControls.h"
 #include "apps/sample/resource.h"
@@ -101,13 +102,16 @@ vorn::TableResult TablePage::OpenTable(const std::string& path)
     const vorn::TableResult result = m_table.Open(path);
     if (result != vorn::TableResult::Done)
     {
-        Say("Cannot open " + path + ". " + vorn::Explain(result) + '.', Notice::News::Bad);
+        const std::string words = "Cannot open " + path + ". " + vorn::Explain(result) + '.';
+        Say(words, Notice::News::Bad);
+        LogNote(LOG_WARNING, words);
         if (!before.empty())
             m_table.Open(before);
     }
     else
     {
         CountUse(UsageEvent::TableOpened);
+        LogNote(LOG_INFO, "Opened the table " + path);
         const bool readOnly = m_table.IsReadOnly();
         Say(readOnly ? std::string("For reading alone. ") + vorn::Explain(m_table.WhyReadOnly()) + '.'
                      : "Opened " + FileNameOf(path) + '.',

@@ -1,0 +1,76 @@
+#include "apps/sample/preferences/GeneralCategory.h"
+
+#include "apps/sample/preferences/resource.h"
+
+#include <array>
+
+namespace vorn::preferences
+{
+
+namespace
+{
+
+constexpr const char* kGeneral = "General";
+constexpr const char* kTipsKey = "Show Dialog Tips";
+constexpr const char* kStartup = "Startup";
+constexpr const char* kShowDialog = "ShowDialog";
+constexpr const char* kNoDisclaimer = "NoDisclaimer";
+
+constexpr std::array kTips = {
+    Tip{IDC_OPT_TIPS, 1791},
+    Tip{IDC_OPT_START, 1793},
+    Tip{IDC_OPT_DISCLAIMER, 1794},
+};
+
+// The startup dialog keeps its switch in the application's profile.
+bool HidesDisclaimer()
+{
+    return AfxGetApp()->GetProfileInt(kStartup, kNoDisclaimer, 0) != 0;
+}
+
+bool StoreDisclaimer(bool hides)
+{
+    if (hides == HidesDisclaimer())
+        return false;
+    AfxGetApp()->WriteProfileInt(kStartup, kNoDisclaimer, hides ? 1 : 0);
+    return true;
+}
+
+} // namespace
+
+GeneralCategory::GeneralCategory() : Category("General", IDC_OPT_GENERAL_FIRST)
+{
+}
+
+std::span<const Tip> GeneralCategory::Tips() const
+{
+    return kTips;
+}
+
+void GeneralCategory::Fill()
+{
+    SetCheck(IDC_OPT_TIPS, App().GetSettingInt(kGeneral, kTipsKey, 1) != 0);
+    SetCheck(IDC_OPT_START, App().GetSettingInt(kStartup, kShowDialog, 1) != 0);
+    SetCheck(IDC_OPT_DISCLAIMER, !HidesDisclaimer());
+}
+
+void GeneralCategory::Arrange(Form& form, Form::Pane& area)
+{
+    area << form.Whole(IDC_OPT_TIPS) << form.Whole(IDC_OPT_START) << form.Whole(IDC_OPT_DISCLAIMER);
+}
+
+bool GeneralCategory::Store()
+{
+    bool stored = StoreNumber(kGeneral, kTipsKey, 1, IsChecked(IDC_OPT_TIPS) ? 1 : 0);
+    if (stored)
+        ApplyTips();
+    stored = StoreNumber(kStartup, kShowDialog, 1, IsChecked(IDC_OPT_START) ? 1 : 0) || stored;
+    return StoreDisclaimer(!IsChecked(IDC_OPT_DISCLAIMER)) || stored;
+}
+
+void ApplyTips()
+{
+    ToolTipCtrlEx::GlobalEnableTips(App().GetSettingInt(kGeneral, kTipsKey, 1) != 0);
+}
+
+} // namespace vorn::preferences

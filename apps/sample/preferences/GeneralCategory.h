@@ -1,0 +1,23 @@
+#pragma once
+
+#include "apps/sample/preferences/Category.h"
+
+namespace vorn::preferences
+{
+
+/// Tips, and what the program shows when it starts.
+class GeneralCategory : public Category
+{
+public:
+    GeneralCategory();
+
+    std::span<const Tip> Tips() const override;
+    void Fill() override;
+    void Arrange(Form& form, Form::Pane& area) override;
+    bool Store() override;
+};
+
+/// Puts the stored choice about tips into force, for all windows of the program.
+void ApplyTips();
+
+} // namespace vorn::preferences
