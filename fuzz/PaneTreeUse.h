@@ -3,6 +3,7 @@
 #include "toolkit/layout/core/PaneTree.h"
 
 #include <algorithm>
+#include <climits>
 #include <span>
 #include <string>
 #include <vector>
@@ -201,8 +202,24 @@ private:
         bool isPane = false;
         std::size_t parent = 0;
         unsigned mode = 0;
+        int sizes[2]{}; ///< fixed or in percent, on each axis
         PaneSpec pane;
         std::vector<std::size_t> children;
+    };
+
+    /// What the shown children of a pane are along it.
+    struct Kinds
+    {
+        long long fixed = 0; ///< pixels that fixed children took before they stretched
+        bool hasPercents = false;
+        bool hasGreedy = false;
+        bool stretches = false;
+        bool areFree = true;  ///< greedy children stand at no limit
+        bool wantsFit = true; ///< what percent children want lies within their limits
+        bool isWanted = true; ///< percent children have what they want
+        bool mustBeFull = false;
+        int smallest = INT_MAX; ///< greedy child
+        int largest = INT_MIN;
     };
 
     void AddNode(PaneBytes& input)
@@ -241,7 +258,7 @@ private:
         node.pane.isVertical = looks % 2 != 0;
         node.pane.mode = node.mode = static_cast<unsigned>(input.Byte() & 0xF) | static_cast<unsigned>(looks & 0xC)
                                                                                      << 6;
-        node.pane.ownSize = input.Byte() % 101;
+        node.pane.ownSize = node.sizes[0] = node.sizes[1] = input.Byte() % 101;
         node.pane.spacing = looks >> 4;
         const int border = input.Byte() % 9;
         node.pane.borders = {border, border + 1, border + 2, border};
@@ -271,6 +288,8 @@ private:
         m_tree.Add(leaf);
         Node node;
         node.mode = leaf.mode;
+        node.sizes[0] = sizes[0];
+        node.sizes[1] = sizes[1];
         Note(node);
     }
 
@@ -303,24 +322,96 @@ private:
         }
         const bool isVertical = node.pane.isVertical;
         const RECT& area = m_tree.PlaceOf(index);
-        int edge = Near(area, isVertical) + Near(node.pane.borders, isVertical) - node.pane.spacing;
-        bool hasPercents = false;
-        bool mustBeFull = false;
+        const int start = Near(area, isVertical) + Near(node.pane.borders, isVertical);
+        const int end = Far(area, isVertical) - Far(node.pane.borders, isVertical);
+        int edge = start - node.pane.spacing;
+        Kinds kinds = FixedOf(node);
+        const long long gaps = (ShownOf(node) - 1LL) * node.pane.spacing;
+        const int base = static_cast<int>(std::max(0LL, static_cast<long long>(end) - start - gaps - kinds.fixed));
         for (const std::size_t child : node.children)
         {
-            if (!m_tree.IsShown(child))
+            if (m_tree.IsShown(child))
             {
-                continue;
+                CheckChild(node, child, edge);
+                edge = Far(m_tree.PlaceOf(child), isVertical);
+                Include(kinds, child, isVertical, base);
             }
-            CheckChild(node, child, edge);
-            edge = Far(m_tree.PlaceOf(child), isVertical);
-            hasPercents |= IsPercent(child, isVertical);
-            mustBeFull |= IsGrown(child, isVertical);
         }
-        const int end = Far(area, isVertical) - Far(node.pane.borders, isVertical);
-        if (mustBeFull && !hasPercents && edge != end)
+        CheckSums(kinds, edge, end);
+    }
+
+    long long ShownOf(const Node& node) const
+    {
+        return std::count_if(node.children.begin(), node.children.end(),
+                             [this](std::size_t child)
+                             {
+                                 return m_tree.IsShown(child);
+                             });
+    }
+
+    Kinds FixedOf(const Node& node) const
+    {
+        Kinds kinds;
+        const PaneAxisBits bits = BitsOn(node.pane.isVertical);
+        const PaneAxis axis = node.pane.isVertical ? PaneAxis::Height : PaneAxis::Width;
+        for (const std::size_t child : node.children)
+        {
+            const Node& kid = m_nodes[child];
+            if (m_tree.IsShown(child) && (kid.mode & bits.fixed) != 0)
+            {
+                const int own = kid.sizes[static_cast<int>(axis)];
+                kinds.fixed += kid.isPane && own == 0 ? m_tree.Least(child, axis) : own;
+                kinds.stretches |= (kid.mode & bits.stretch) != 0;
+            }
+        }
+        return kinds;
+    }
+
+    void Include(Kinds& kinds, std::size_t child, bool isVertical, int base) const
+    {
+        const PaneAxisBits bits = BitsOn(isVertical);
+        const PaneAxis axis = isVertical ? PaneAxis::Height : PaneAxis::Width;
+        const Node& kid = m_nodes[child];
+        const RECT& place = m_tree.PlaceOf(child);
+        const int size = Far(place, isVertical) - Near(place, isVertical);
+        if ((kid.mode & bits.fixed) != 0)
+        {
+            return;
+        }
+        if ((kid.mode & bits.percent) != 0)
+        {
+            const long long want = static_cast<long long>(base) * kid.sizes[static_cast<int>(axis)] / 100;
+            const int most = m_tree.Most(child, axis);
+            kinds.hasPercents = true;
+            kinds.wantsFit &= want >= m_tree.Least(child, axis) && (most < 0 || want <= most);
+            kinds.isWanted &= want == size;
+            return;
+        }
+        const bool isFree = m_tree.Most(child, axis) == kUnbounded && size > m_tree.Least(child, axis);
+        kinds.hasGreedy = true;
+        kinds.mustBeFull |= isFree; // it has taken whatever there was
+        kinds.areFree &= isFree;
+        kinds.smallest = std::min(kinds.smallest, size);
+        kinds.largest = std::max(kinds.largest, size);
+    }
+
+    void CheckSums(const Kinds& kinds, int edge, int end)
+    {
+        if (kinds.mustBeFull && !kinds.hasPercents && edge != end)
         {
             m_complaint = "the sizes do not add up to the pane's length";
+        }
+        if (kinds.stretches && !kinds.hasPercents && !kinds.hasGreedy && edge < end)
+        {
+            m_complaint = "room is left although a child stretches";
+        }
+        if (kinds.hasGreedy && kinds.areFree && kinds.largest - kinds.smallest > 1)
+        {
+            m_complaint = "greedy children that stand at no limit do not share equally";
+        }
+        if (kinds.hasPercents && kinds.wantsFit && !kinds.isWanted)
+        {
+            m_complaint = "a child does not have the percentage that fits its limits";
         }
     }
 
@@ -328,21 +419,6 @@ private:
     {
         return BitsOf(isVertical ? PaneAxis::Height : PaneAxis::Width);
     }
-    bool IsPercent(std::size_t child, bool isVertical) const
-    {
-        const PaneAxisBits bits = BitsOn(isVertical);
-        return (m_nodes[child].mode & bits.fixed) == 0 && (m_nodes[child].mode & bits.percent) != 0;
-    }
-    /// Greedy, without a limit and larger than it must be: it has taken whatever there was.
-    bool IsGrown(std::size_t child, bool isVertical) const
-    {
-        const PaneAxisBits bits = BitsOn(isVertical);
-        const PaneAxis axis = isVertical ? PaneAxis::Height : PaneAxis::Width;
-        const RECT& place = m_tree.PlaceOf(child);
-        return (m_nodes[child].mode & (bits.fixed | bits.percent)) == 0 && m_tree.Most(child, axis) == kUnbounded &&
-               Far(place, isVertical) - Near(place, isVertical) > m_tree.Least(child, axis);
-    }
-
     /// A maximum below the minimum wins, as soon as there is room for the minimum.
     int LeastOf(std::size_t child, bool isVertical) const
     {

@@ -3,23 +3,13 @@
 #include "framework/dialog/DialogCreation.h"
 #include "framework/dialog/LoadedDialogTemplate.h"
 #include "framework/dialog/ModalOwner.h"
+#include "framework/dialog/SharedCommands.h"
 #include "framework/gdi/CFont.h"
-#include "framework/window/CWinThread.h"
 
 using vorn::LoadedDialogTemplate;
 
 namespace
 {
-/// Commands that belong to more than one window; smaller ids are a dialog's own controls.
-constexpr UINT kFirstSharedCommand = 0x8000;
-constexpr UINT kLastSharedCommand = 0xefff;
-
-bool IsSharedCommand(UINT id, int code)
-{
-    return (code == CN_COMMAND || code == CN_UPDATE_COMMAND_UI) && id >= kFirstSharedCommand &&
-           id <= kLastSharedCommand;
-}
-
 UINT NumberOf(LPCTSTR resourceName)
 {
     return IS_INTRESOURCE(resourceName) ? LOWORD(reinterpret_cast<ULONG_PTR>(resourceName)) : 0;
@@ -159,15 +149,8 @@ BOOL CDialog::PreTranslateMessage(MSG* message)
 
 BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)
 {
-    if (CWnd::OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
-    if (!IsSharedCommand(id, code))
-        return FALSE;
-    CWnd* const owner = GetParent();
-    if (owner && owner->OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
-    CWinThread* const thread = AfxGetThread();
-    return thread && thread->OnCmdMsg(id, code, extra, handlerInfo);
+    return CWnd::OnCmdMsg(id, code, extra, handlerInfo) ||
+           vorn::OfferSharedCommand(*this, id, code, extra, handlerInfo);
 }
 
 void CDialog::SetDefID(UINT id)

@@ -50,46 +50,16 @@ INT_PTR CDialog::DoModal()
 
 int CDialog::RunModal(const LoadedDialogTemplate& dialogTemplate, ModalOwner& owner)
 {
-    /// Ends the dialog on every way out, exceptions included.
-    struct End
-    {
-        ~End()
-        {
-            dialog.FinishModal(owner);
-        }
-        CDialog& dialog;
-        ModalOwner& owner;
-    };
     const DWORD flags = MLF_SHOWONIDLE | (dialogTemplate.Style() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0);
     int result = kNoResult;
-    m_modalOwner = &owner;
-    owner.Disable();
+    const auto run = [&]
     {
-        const End end{*this, owner};
         if (CreateFrom(dialogTemplate, owner.Handle()) && !m_ended)
             result = RunModalLoop(flags);
-    }
-    if (owner.IsDialogDeleted())
-        return kNoResult;
+    };
+    if (!vorn::RunModally(*this, m_modalOwner, owner, run))
+        return kNoResult; // this object has gone with its window
     return m_ended ? m_modalResult : result;
-}
-
-void CDialog::FinishModal(ModalOwner& owner)
-{
-    // First the owner is enabled, then it is made active, then the dialog goes. In another order the system would
-    // activate a window of another program.
-    owner.Restore();
-    if (!owner.IsDialogDeleted() && m_hWnd)
-    {
-        if (::GetActiveWindow() == m_hWnd)
-            owner.Activate();
-        DestroyWindow();
-    }
-    if (owner.IsDialogDeleted())
-        return;
-    m_modalOwner = nullptr;
-    // A loop that ended for another reason (WM_QUIT, the window's end, an exception) leaves its marks.
-    m_nFlags &= ~static_cast<UINT>(kStateModalLoop | kStateContinueModal);
 }
 
 void CDialog::EndDialog(int result)

@@ -3,7 +3,7 @@
 #include "framework/controls/CTabCtrl.h"
 #include "framework/dialog/ModalOwner.h"
 #include "framework/dialog/PageCreation.h"
-#include "framework/window/CWinThread.h"
+#include "framework/dialog/SharedCommands.h"
 
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 
@@ -17,16 +17,6 @@ END_MESSAGE_MAP()
 
 namespace
 {
-/// Commands that belong to more than one window; smaller ids are a dialog's own controls.
-constexpr UINT kFirstSharedCommand = 0x8000;
-constexpr UINT kLastSharedCommand = 0xefff;
-
-bool IsSharedCommand(UINT id, int code)
-{
-    return (code == CN_COMMAND || code == CN_UPDATE_COMMAND_UI) && id >= kFirstSharedCommand &&
-           id <= kLastSharedCommand;
-}
-
 /// The command by which a message may end the sheet, 0 for none.
 int EndingCommand(UINT message, WPARAM wParam)
 {
@@ -222,13 +212,6 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* message)
 
 BOOL CPropertySheet::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)
 {
-    if (CWnd::OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
-    if (!IsSharedCommand(id, code))
-        return FALSE;
-    CWnd* const owner = GetParent();
-    if (owner && owner->OnCmdMsg(id, code, extra, handlerInfo))
-        return TRUE;
-    CWinThread* const thread = AfxGetThread();
-    return thread && thread->OnCmdMsg(id, code, extra, handlerInfo);
+    return CWnd::OnCmdMsg(id, code, extra, handlerInfo) ||
+           vorn::OfferSharedCommand(*this, id, code, extra, handlerInfo);
 }

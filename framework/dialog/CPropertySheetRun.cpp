@@ -138,42 +138,15 @@ INT_PTR CPropertySheet::DoModal()
 
 int CPropertySheet::RunModal(ModalOwner& owner)
 {
-    /// Ends the sheet on every way out, exceptions included.
-    struct End
-    {
-        ~End()
-        {
-            sheet.FinishModal(owner);
-        }
-        CPropertySheet& sheet;
-        ModalOwner& owner;
-    };
     int result = kNoResult;
-    m_modalOwner = &owner;
-    owner.Disable();
+    const auto run = [&]
     {
-        const End end{*this, owner};
         if (CreateFrom(owner.Handle()) && !m_ended)
             result = RunModalLoop(MLF_SHOWONIDLE);
-    }
-    if (owner.IsDialogDeleted())
-        return kNoResult;
+    };
+    if (!vorn::RunModally(*this, m_modalOwner, owner, run))
+        return kNoResult; // this object has gone with its window
     return m_ended ? m_modalResult : result;
-}
-
-void CPropertySheet::FinishModal(ModalOwner& owner)
-{
-    // First the owner is enabled, then it is made active, then the sheet goes. In another order the system would
-    // activate a window of another program.
-    owner.Restore();
-    if (!owner.IsDialogDeleted() && m_hWnd)
-    {
-        if (::GetActiveWindow() == m_hWnd)
-            owner.Activate();
-        DestroyWindow();
-    }
-    if (!owner.IsDialogDeleted())
-        m_modalOwner = nullptr;
 }
 
 void CPropertySheet::EndDialog(int result)

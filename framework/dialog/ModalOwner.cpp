@@ -21,6 +21,37 @@ void EnableAgain(HWND window, bool& disabled)
         ::EnableWindow(window, TRUE);
     disabled = false;
 }
+
+/// The time during which a modal window runs.
+class ModalTime
+{
+public:
+    ModalTime(CWnd& window, ModalOwner*& running, ModalOwner& owner)
+        : m_window(window), m_running(running), m_owner(owner)
+    {
+        m_running = &m_owner;
+        m_owner.Disable();
+    }
+    ~ModalTime()
+    {
+        m_owner.Restore();
+        if (!m_owner.IsDialogDeleted() && m_window.m_hWnd)
+        {
+            if (::GetActiveWindow() == m_window.m_hWnd)
+                m_owner.Activate();
+            m_window.DestroyWindow(); // which may delete the object
+        }
+        if (!m_owner.IsDialogDeleted())
+            m_running = nullptr;
+    }
+    ModalTime(const ModalTime&) = delete;
+    ModalTime& operator=(const ModalTime&) = delete;
+
+private:
+    CWnd& m_window;
+    ModalOwner*& m_running;
+    ModalOwner& m_owner;
+};
 } // namespace
 
 ModalOwner::ModalOwner(CWnd* parent)
@@ -73,5 +104,14 @@ void ModalOwner::NoteDialogDeleted()
 bool ModalOwner::IsDialogDeleted() const
 {
     return m_dialogDeleted;
+}
+
+bool RunModally(CWnd& window, ModalOwner*& running, ModalOwner& owner, const std::function<void()>& run)
+{
+    {
+        const ModalTime time(window, running, owner);
+        run();
+    }
+    return !owner.IsDialogDeleted();
 }
 } // namespace vorn

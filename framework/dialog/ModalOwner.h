@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <functional>
+
 class CWnd;
 
 namespace vorn
@@ -38,4 +40,12 @@ private:
     bool m_topDisabled = false;
     bool m_dialogDeleted = false;
 };
+
+/// Runs a dialog or sheet with its owner disabled. On every way out, exceptions included, the owner is enabled again,
+/// made active in the window's place, and the window destroyed, in this order: in another one the system would activate
+/// a window of another program.
+/// @param running the object's note of the owner, null before and afterwards
+/// @param run makes the window and has its loop run
+/// @return whether the object still lives
+bool RunModally(CWnd& window, ModalOwner*& running, ModalOwner& owner, const std::function<void()>& run);
 } // namespace vorn

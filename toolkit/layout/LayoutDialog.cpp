@@ -1,17 +1,11 @@
 #include "toolkit/layout/LayoutDialog.h"
 
+#include "framework/include/afxres.h"
 #include "framework/window/MessageMap.h"
+#include "toolkit/layout/SizingFrame.h"
 
 namespace LayoutManagement
 {
-namespace
-{
-
-constexpr UINT kFirstBar = 0xE800;
-constexpr UINT kStatusBar = 0xE801;
-constexpr UINT kLastBar = 0xE8FF;
-
-} // namespace
 
 IMPLEMENT_DYNAMIC(LayoutDialog, ToolTipDlg)
 
@@ -61,20 +55,9 @@ BOOL LayoutDialog::OnInitDialog()
     return TRUE;
 }
 
-/// The frame is thicker than the template's; the client area keeps its size.
 void LayoutDialog::TakeSizingFrame()
 {
-    CRect before;
-    GetClientRect(&before);
-    ModifyStyle(0, WS_THICKFRAME);
-    ModifyStyleEx(WS_EX_DLGMODALFRAME, 0, SWP_FRAMECHANGED);
-    SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-    CRect window;
-    CRect after;
-    GetWindowRect(&window);
-    GetClientRect(&after);
-    SetWindowPos(nullptr, 0, 0, window.Width() + before.Width() - after.Width(),
-                 window.Height() + before.Height() - after.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    LayoutManagement::TakeSizingFrame(*this);
     MatchSystemMenu();
 }
 
@@ -96,10 +79,10 @@ void LayoutDialog::AddStatusBar()
 {
     const DWORD grip = m_bResizable ? SBARS_SIZEGRIP : 0;
     const UINT pane = 0;
-    if (m_statusBar.Create(this, WS_CHILD | WS_VISIBLE | CBRS_BOTTOM | grip, kStatusBar))
+    if (m_statusBar.Create(this, WS_CHILD | WS_VISIBLE | CBRS_BOTTOM | grip, AFX_IDW_STATUS_BAR))
     {
         m_statusBar.SetIndicators(&pane, 1);
-        RepositionBars(kFirstBar, kLastBar, 0);
+        RepositionBars(AFX_IDW_CONTROLBAR_FIRST, AFX_IDW_CONTROLBAR_LAST, 0);
     }
 }
 
@@ -127,7 +110,7 @@ void LayoutDialog::OnSize(UINT type, int cx, int cy)
     if (cx != 0 || cy != 0)
     {
         UpdateLayout(false);
-        RepositionBars(kFirstBar, kLastBar, 0);
+        RepositionBars(AFX_IDW_CONTROLBAR_FIRST, AFX_IDW_CONTROLBAR_LAST, 0);
     }
 }
 

@@ -1,18 +1,12 @@
 #include "toolkit/layout/LayoutDialogBar.h"
 
+#include "framework/include/afxres.h"
 #include "framework/window/MessageMap.h"
 
 #include <algorithm>
 
 namespace LayoutManagement
 {
-namespace
-{
-
-constexpr UINT kFirstBar = 0xE800;
-constexpr UINT kLastBar = 0xE8FF;
-
-} // namespace
 
 IMPLEMENT_DYNAMIC(LayoutDialogBar, ToolTipDlgBar)
 
@@ -93,7 +87,7 @@ void LayoutDialogBar::OnSize(UINT type, int cx, int cy)
     if (cx != 0 || cy != 0)
     {
         UpdateLayout(false);
-        RepositionBars(kFirstBar, kLastBar, 0);
+        RepositionBars(AFX_IDW_CONTROLBAR_FIRST, AFX_IDW_CONTROLBAR_LAST, 0);
     }
 }
 

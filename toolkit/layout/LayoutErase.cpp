@@ -99,9 +99,9 @@ private:
 bool IsSeenThrough(HWND control, ControlClass kind, LONG style)
 {
     const LONG type = style & SS_TYPEMASK;
-    if (kind == ControlClass::Button)
+    if (kind == ControlClass::Button && (style & BS_TYPEMASK) == BS_GROUPBOX)
     {
-        return (style & 0xF) == BS_GROUPBOX;
+        return true;
     }
     if (kind == ControlClass::Static && (type == SS_ETCHEDFRAME || (type >= SS_BLACKFRAME && type <= SS_WHITEFRAME)))
     {

@@ -1,16 +1,10 @@
 #include "toolkit/layout/LayoutFormView.h"
 
+#include "framework/include/afxres.h"
 #include "framework/window/MessageMap.h"
 
 namespace LayoutManagement
 {
-namespace
-{
-
-constexpr UINT kFirstBar = 0xE800;
-constexpr UINT kLastBar = 0xE8FF;
-
-} // namespace
 
 IMPLEMENT_DYNAMIC(LayoutFormView, CFormView)
 
@@ -62,7 +56,7 @@ void LayoutFormView::OnSize(UINT type, int cx, int cy)
     if (cx != 0 || cy != 0)
     {
         UpdateLayout(false);
-        RepositionBars(kFirstBar, kLastBar, 0);
+        RepositionBars(AFX_IDW_CONTROLBAR_FIRST, AFX_IDW_CONTROLBAR_LAST, 0);
     }
 }
 

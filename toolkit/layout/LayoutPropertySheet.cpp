@@ -3,15 +3,24 @@
 #include "framework/controls/CTabCtrl.h"
 #include "framework/include/afxres.h"
 #include "framework/window/MessageMap.h"
+#include "toolkit/WindowIcons.h"
 #include "toolkit/layout/LayoutPropertyPage.h"
 #include "toolkit/layout/SizingFrame.h"
 
 #include <algorithm>
+#include <map>
 
 namespace LayoutManagement
 {
 namespace
 {
+
+/// The icons of the sheets that are open. For the user-interface thread.
+std::map<const CPropertySheet*, vorn::WindowIcons>& IconsOfSheets()
+{
+    static std::map<const CPropertySheet*, vorn::WindowIcons> icons;
+    return icons;
+}
 
 constexpr UINT kRedraw = 0x101; ///< RDW_INVALIDATE and RDW_UPDATENOW
 
@@ -87,6 +96,10 @@ void LayoutPropertySheet::SetAutoDestroyPages(bool bDestroy)
 BOOL LayoutPropertySheet::OnInitDialog()
 {
     InitBase();
+    if (!HasFlag(PSH_USEHICON | PSH_USEICONID)) // which name one of its own
+    {
+        IconsOfSheets()[this].Put(*this, vorn::kHostIcon);
+    }
     GetWindowRect(&m_rectOpened);
     if (GetTabControl() == nullptr || GetActivePage() == nullptr)
     {
@@ -215,6 +228,7 @@ void LayoutPropertySheet::PostNcDestroy()
 {
     CPropertySheet::PostNcDestroy();
     m_hWndPlaced = nullptr;
+    IconsOfSheets().erase(this);
     if (m_bAutoDestroyPages)
     {
         DeletePages();

@@ -1,5 +1,6 @@
 #include "toolkit/startup/CStartupDlg.h"
 
+#include "frame/LibraryDialog.h"
 #include "frame/LibraryModule.h"
 #include "toolkit/startup/StartupArea.h"
 #include "toolkit/startup/StartupIds.h"
@@ -26,14 +27,6 @@ constexpr const char* kSection = "Startup";
 constexpr const char* kNoDisclaimer = "NoDisclaimer";
 constexpr LONG kTitleNumerator = 3; // the title is one and a half times as high
 constexpr LONG kTitleDenominator = 2;
-
-/// The library's template, whatever template of the same number a host has.
-LPCDLGTEMPLATE OwnTemplate()
-{
-    const HINSTANCE module = vorn::LibraryModule();
-    const HRSRC resource = ::FindResource(module, MAKEINTRESOURCE(IDD_VORN_STARTUP), RT_DIALOG);
-    return static_cast<LPCDLGTEMPLATE>(::LockResource(::LoadResource(module, resource)));
-}
 
 CString Disclaimer()
 {
@@ -81,7 +74,7 @@ CStartupDlg::CStartupDlg(LPCSTR appName, LPCSTR updateProgram, DataInfo* records
         m_years = *years;
     }
     AfxInitRichEdit2(); // the template cannot be made without its class
-    InitModalIndirect(OwnTemplate());
+    InitModalIndirect(vorn::LibraryDialog(IDD_VORN_STARTUP));
     SetDataExpired();
 }
 

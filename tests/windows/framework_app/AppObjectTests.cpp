@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <string>
 
 namespace
 {
@@ -56,6 +57,71 @@ TEST(AppObject, WithoutNameIsCalledLikeTheProgram)
     const CWinApp app;
     EXPECT_EQ(app.m_pszAppName, nullptr);
     EXPECT_STREQ(AfxGetAppName(), "windows_framework_app_tests");
+}
+
+namespace
+{
+/// Notes what is asked of the hourglass.
+class PatientApp : public CWinApp
+{
+public:
+    PatientApp() : CWinApp("Patience")
+    {
+    }
+    void DoWaitCursor(int code) override
+    {
+        m_codes += std::to_string(code) + " ";
+    }
+    std::string m_codes;
+};
+
+class PumpingApp : public CWinApp
+{
+public:
+    PumpingApp() : CWinApp("Pump")
+    {
+    }
+    using CWinThread::m_msgCur;
+};
+} // namespace
+
+TEST(AppObject, ShowsTheHourglassThroughItsVirtualFunction)
+{
+    PatientApp app;
+    {
+        CWaitCursor wait;
+        wait.Restore();
+    }
+    app.BeginWaitCursor();
+    app.RestoreWaitCursor();
+    app.EndWaitCursor();
+    EXPECT_EQ("1 0 -1 1 0 -1 ", app.m_codes);
+}
+
+TEST(AppObject, LoadsTheSystemsCursorsAndIcons)
+{
+    const CWinApp app("Host");
+    EXPECT_EQ(::LoadCursor(nullptr, IDC_CROSS), app.LoadStandardCursor(IDC_CROSS));
+    EXPECT_EQ(::LoadIcon(nullptr, IDI_QUESTION), app.LoadStandardIcon(IDI_QUESTION));
+    EXPECT_EQ(nullptr, app.LoadCursor(4711U)) << "nobody has it";
+    EXPECT_EQ(nullptr, app.LoadIcon(4711U));
+}
+
+TEST(AppObject, PumpsOneMessageAtATimeUntilItIsToEnd)
+{
+    PumpingApp app;
+    MSG former{};
+    while (::PeekMessage(&former, nullptr, 0, 0, PM_REMOVE))
+    {
+        ::DispatchMessage(&former);
+    }
+    ::PostThreadMessage(::GetCurrentThreadId(), WM_APP + 7, 5, 6);
+    EXPECT_TRUE(app.PumpMessage());
+    EXPECT_EQ(static_cast<UINT>(WM_APP + 7), app.m_msgCur.message);
+    EXPECT_EQ(5U, app.m_msgCur.wParam);
+    ::PostQuitMessage(3);
+    EXPECT_FALSE(app.PumpMessage());
+    EXPECT_EQ(3U, app.m_msgCur.wParam);
 }
 
 TEST(AppObject, MayBeMissing)

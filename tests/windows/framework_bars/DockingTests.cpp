@@ -6,6 +6,38 @@ using namespace vorn::test;
 
 using Docking = BarsTest;
 
+namespace
+{
+
+/// Two bars for a frame with docks at all sides, the first one at the top.
+class DockingOfTwo : public BarsTest
+{
+protected:
+    DockingOfTwo()
+    {
+        frame->EnableDocking(CBRS_ALIGN_ANY);
+        Make(first, kFirst);
+        Make(second, kSecond);
+        frame->DockControlBar(&first, AFX_IDW_DOCKBAR_TOP);
+    }
+    CDockBar& Top()
+    {
+        return *frame->Dock(AFX_IDW_DOCKBAR_TOP);
+    }
+    /// Where the first bar is on the screen, so much further right and down.
+    CRect FromFirst(int right, int down) const
+    {
+        CRect place = OnScreen(first);
+        place.OffsetRect(right, down);
+        return place;
+    }
+
+    SizedBar first{CSize(100, 20)};
+    SizedBar second{CSize(150, 20)};
+};
+
+} // namespace
+
 TEST_F(Docking, DocksAreMadeForTheSidesThatAreEnabled)
 {
     EXPECT_EQ(nullptr, frame->Dock(AFX_IDW_DOCKBAR_TOP));
@@ -101,55 +133,36 @@ TEST_F(Docking, WithoutASideItGoesWhereItsStyleSays)
     EXPECT_EQ(frame->Dock(AFX_IDW_DOCKBAR_RIGHT), bar.GetDockBar());
 }
 
-TEST_F(Docking, BarsComeInRowsOneBehindTheOther)
+TEST_F(DockingOfTwo, BarsComeInRowsOneBehindTheOther)
 {
-    frame->EnableDocking(CBRS_ALIGN_ANY);
-    SizedBar first(CSize(100, 20));
-    SizedBar second(CSize(150, 25));
-    Make(first, kFirst);
-    Make(second, kSecond);
-    frame->DockControlBar(&first, AFX_IDW_DOCKBAR_TOP);
+    second.lying = CSize(150, 25);
     frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP);
     EXPECT_EQ(CRect(0, 0, 100, 20), PlaceOf(first));
     EXPECT_EQ(CRect(0, 20, 150, 45), PlaceOf(second));
-    EXPECT_EQ(2, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetRowCount());
+    EXPECT_EQ(2, Top().GetRowCount());
     EXPECT_EQ(CRect(0, 45, 400, 300), ViewPlace());
 }
 
-TEST_F(Docking, ARectangleOnARowPutsABarIntoIt)
+TEST_F(DockingOfTwo, ARectangleOnARowPutsABarIntoIt)
 {
-    frame->EnableDocking(CBRS_ALIGN_ANY);
-    SizedBar first(CSize(100, 20));
-    SizedBar second(CSize(150, 20));
     SizedBar third(CSize(50, 20));
-    Make(first, kFirst);
-    Make(second, kSecond);
     Make(third, kThird);
-    frame->DockControlBar(&first, AFX_IDW_DOCKBAR_TOP);
     // The usual way to put a bar beside another one: its rectangle, a pixel further on.
-    CRect beside = OnScreen(first);
-    beside.OffsetRect(1, 0);
+    const CRect beside = FromFirst(1, 0);
     frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP, &beside);
     EXPECT_EQ(CRect(100, 0, 250, 20), PlaceOf(second));
-    beside.OffsetRect(300, 0);
-    frame->DockControlBar(&third, AFX_IDW_DOCKBAR_TOP, &beside);
+    const CRect further = FromFirst(301, 0);
+    frame->DockControlBar(&third, AFX_IDW_DOCKBAR_TOP, &further);
     EXPECT_EQ(CRect(301, 0, 351, 20), PlaceOf(third)) << "where it was asked to be";
-    EXPECT_EQ(1, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetRowCount());
-    EXPECT_EQ(&second, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetDockedControlBar(1));
-    EXPECT_EQ(nullptr, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetDockedControlBar(3));
-    EXPECT_EQ(nullptr, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetDockedControlBar(-1));
+    EXPECT_EQ(1, Top().GetRowCount());
+    EXPECT_EQ(&second, Top().GetDockedControlBar(1));
+    EXPECT_EQ(nullptr, Top().GetDockedControlBar(3));
+    EXPECT_EQ(nullptr, Top().GetDockedControlBar(-1));
 }
 
-TEST_F(Docking, ARectangleBeforeTheRowsMakesANewOne)
+TEST_F(DockingOfTwo, ARectangleBeforeTheRowsMakesANewOne)
 {
-    frame->EnableDocking(CBRS_ALIGN_ANY);
-    SizedBar first(CSize(100, 20));
-    SizedBar second(CSize(150, 20));
-    Make(first, kFirst);
-    Make(second, kSecond);
-    frame->DockControlBar(&first, AFX_IDW_DOCKBAR_TOP);
-    CRect above = OnScreen(first);
-    above.OffsetRect(40, -15);
+    const CRect above = FromFirst(40, -15);
     frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP, &above);
     EXPECT_EQ(CRect(40, 0, 190, 20), PlaceOf(second));
     EXPECT_EQ(CRect(0, 20, 100, 40), PlaceOf(first));
@@ -170,65 +183,51 @@ TEST_F(Docking, BarsOfALeftDockAreStackedInColumns)
     EXPECT_EQ(CRect(40, 0, 400, 300), ViewPlace());
 }
 
-TEST_F(Docking, BarsAreMovedWithinTheirDock)
+TEST_F(DockingOfTwo, BarsAreMovedWithinTheirDock)
 {
-    frame->EnableDocking(CBRS_ALIGN_ANY);
-    SizedBar first(CSize(100, 20));
-    SizedBar second(CSize(150, 20));
-    Make(first, kFirst);
-    Make(second, kSecond);
-    frame->DockControlBar(&first, AFX_IDW_DOCKBAR_TOP);
     frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP);
     // The second one into the first one's row.
-    CRect place = OnScreen(first);
-    place.OffsetRect(200, 0);
+    CRect place = FromFirst(200, 0);
     frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP, &place);
     EXPECT_EQ(CRect(200, 0, 350, 20), PlaceOf(second));
-    EXPECT_EQ(1, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetRowCount());
+    EXPECT_EQ(1, Top().GetRowCount());
     // And, alone in its row, onto its own row.
     frame->DockControlBar(&first, AFX_IDW_DOCKBAR_LEFT);
     place = OnScreen(second);
     place.OffsetRect(-60, 0);
     frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP, &place);
     EXPECT_EQ(CRect(140, 0, 290, 20), PlaceOf(second));
-    EXPECT_EQ(1, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetRowCount());
+    EXPECT_EQ(1, Top().GetRowCount());
 }
 
-TEST_F(Docking, ANarrowFrameBreaksARow)
+TEST_F(DockingOfTwo, ANarrowFrameBreaksARow)
 {
-    frame->EnableDocking(CBRS_ALIGN_ANY);
-    SizedBar first(CSize(100, 20));
-    SizedBar second(CSize(150, 30));
-    Make(first, kFirst);
-    Make(second, kSecond);
-    frame->DockControlBar(&first, AFX_IDW_DOCKBAR_TOP);
-    CRect beside = OnScreen(first);
-    beside.OffsetRect(200, 0);
+    second.lying = CSize(150, 30);
+    const CRect beside = FromFirst(200, 0);
     frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP, &beside);
-    CRect outer = OnScreen(*frame);
-    frame->SetWindowPos(nullptr, 0, 0, outer.Width() - 100, outer.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    const CRect outer = OnScreen(*frame);
+    const auto narrowBy = [&](int less)
+    {
+        frame->SetWindowPos(nullptr, 0, 0, outer.Width() - less, outer.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    };
+    narrowBy(100);
     EXPECT_EQ(CRect(150, 0, 300, 30), PlaceOf(second)) << "moved in";
-    frame->SetWindowPos(nullptr, 0, 0, outer.Width() - 200, outer.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    narrowBy(200);
     EXPECT_EQ(CRect(50, 20, 200, 50), PlaceOf(second)) << "on a line of its own";
     EXPECT_EQ(CRect(0, 50, 200, 300), ViewPlace());
-    frame->SetWindowPos(nullptr, 0, 0, outer.Width(), outer.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    narrowBy(0);
     EXPECT_EQ(CRect(200, 0, 350, 30), PlaceOf(second)) << "back where it was";
 }
 
-TEST_F(Docking, HiddenBarsKeepTheirPlace)
+TEST_F(DockingOfTwo, HiddenBarsKeepTheirPlace)
 {
-    frame->EnableDocking(CBRS_ALIGN_ANY);
-    SizedBar first(CSize(100, 20));
-    SizedBar second(CSize(150, 25));
-    Make(first, kFirst);
-    Make(second, kSecond);
-    frame->DockControlBar(&first, AFX_IDW_DOCKBAR_TOP);
+    second.lying = CSize(150, 25);
     frame->DockControlBar(&second, AFX_IDW_DOCKBAR_TOP);
     frame->ShowControlBar(&first, FALSE, FALSE);
     EXPECT_FALSE(first.IsWindowVisible());
     EXPECT_EQ(CRect(0, 0, 150, 25), PlaceOf(second));
-    EXPECT_EQ(1, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetDockedVisibleCount());
-    EXPECT_EQ(2, frame->Dock(AFX_IDW_DOCKBAR_TOP)->GetDockedCount());
+    EXPECT_EQ(1, Top().GetDockedVisibleCount());
+    EXPECT_EQ(2, Top().GetDockedCount());
     frame->ShowControlBar(&first, TRUE, FALSE);
     EXPECT_EQ(CRect(0, 0, 100, 20), PlaceOf(first));
     EXPECT_EQ(CRect(0, 20, 150, 45), PlaceOf(second));

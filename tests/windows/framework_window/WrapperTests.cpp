@@ -351,3 +351,56 @@ TEST_F(Wrappers, LayOutBarsAroundTheRest)
     window.RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, CWnd::reposExtra, &extra);
     EXPECT_EQ(place(rest), CRect(1, 27, 197, 96));
 }
+
+TEST_F(Wrappers, TakeTheMouseAndTellWhoHadIt)
+{
+    CWnd other;
+    CreatePopup(other);
+    other.ShowWindow(SW_SHOWNA);
+    window.ShowWindow(SW_SHOWNA);
+    EXPECT_EQ(nullptr, other.SetCapture());
+    EXPECT_EQ(&other, window.SetCapture());
+    EXPECT_EQ(window.m_hWnd, ::GetCapture());
+    ::ReleaseCapture();
+}
+
+TEST_F(Wrappers, HoldTheDrawingOfOneWindowBack)
+{
+    CWnd other;
+    CreatePopup(other);
+    EXPECT_TRUE(window.LockWindowUpdate());
+    EXPECT_FALSE(other.LockWindowUpdate()) << "one at a time";
+    window.UnlockWindowUpdate();
+    EXPECT_TRUE(other.LockWindowUpdate());
+    other.UnlockWindowUpdate();
+}
+
+TEST_F(Wrappers, PaintWhatHasToBePainted)
+{
+    window.ShowWindow(SW_SHOWNA);
+    window.UpdateWindow();
+    const CRect part(5, 6, 30, 40);
+    window.InvalidateRect(&part, FALSE);
+    PAINTSTRUCT paint{};
+    CDC* const dc = window.BeginPaint(&paint);
+    ASSERT_NE(nullptr, dc);
+    EXPECT_EQ(paint.hdc, dc->m_hDC);
+    EXPECT_EQ(part, CRect(paint.rcPaint));
+    window.EndPaint(&paint);
+    EXPECT_FALSE(window.GetUpdateRect(nullptr, FALSE));
+}
+
+TEST_F(Wrappers, KnowHowLargeAWindowIsAroundItsClientArea)
+{
+    window.ModifyStyle(0, WS_CAPTION | WS_THICKFRAME);
+    window.ModifyStyleEx(0, WS_EX_CLIENTEDGE);
+    CRect inner(100, 100, 300, 200);
+    CRect outer = inner;
+    window.CalcWindowRect(&inner, CWnd::adjustOutside);
+    ::AdjustWindowRectEx(&outer, window.GetStyle(), FALSE, window.GetExStyle());
+    EXPECT_EQ(outer, inner);
+    CRect without(100, 100, 300, 200);
+    window.CalcWindowRect(&without);
+    outer.DeflateRect(::GetSystemMetrics(SM_CXEDGE), ::GetSystemMetrics(SM_CYEDGE));
+    EXPECT_EQ(outer, without) << "the sunken edge of a view counts as its client area";
+}

@@ -151,6 +151,19 @@ TEST(LayoutDialog, WithAMaximumItCannotGrowPastIt)
     EXPECT_EQ(CSize(210, 110) + dialog.Frame(), dialog.Outer());
 }
 
+TEST(LayoutDialog, WithAMaximumItIsMaximisedToThat)
+{
+    PlannerDialog dialog({.isBounded = true});
+    dialog.ShowWindow(SW_SHOWMAXIMIZED);
+    EXPECT_TRUE(dialog.IsZoomed());
+    EXPECT_EQ(CSize(210, 110) + dialog.Frame(), dialog.Outer());
+    CRect place;
+    dialog.GetWindowRect(&place);
+    EXPECT_LE(place.left, 0) << "at the corner of the work area, where the frame of a maximised window begins";
+    EXPECT_LE(place.top, 0);
+    EXPECT_EQ(CPoint(5, 5), dialog.Button().TopLeft()) << "laid out there";
+}
+
 TEST(LayoutDialog, ItsPlacementIsSavedAtItsEndAndTakenUpAgain)
 {
     g_app.stored.clear();

@@ -94,6 +94,75 @@ TEST_F(LayoutErase, TheContextKeepsItsClip)
     EXPECT_EQ(CRect(20, 20, 40, 40), clip);
 }
 
+TEST_F(LayoutErase, WhatIsSeenThroughIsNotSpared)
+{
+    const HWND child = m_window.AddButton(1, {10, 10, 30, 20});
+    ::SetWindowLongA(child, GWL_EXSTYLE, WS_EX_TRANSPARENT);
+    Erase();
+    EXPECT_TRUE(IsPainted(15, 15));
+    EXPECT_EQ(100 * 60, m_canvas.Count(::GetSysColor(COLOR_3DFACE)));
+}
+
+TEST_F(LayoutErase, ATabControlWithItsTabsElsewhereIsSparedWhole)
+{
+    CTabCtrl tabs;
+    ASSERT_TRUE(tabs.Create(WS_CHILD | WS_VISIBLE | TCS_BOTTOM, CRect(0, 0, 100, 60), &m_window, 1));
+    tabs.InsertItem(0, "A");
+    Erase();
+    EXPECT_EQ(0, m_canvas.Count(::GetSysColor(COLOR_3DFACE)));
+}
+
+/// The background of the window's class for a scope.
+class ClassBrush
+{
+public:
+    ClassBrush(HWND window, HBRUSH brush) : m_window(window)
+    {
+        m_former = ::SetClassLongPtrA(window, GCLP_HBRBACKGROUND, static_cast<LONG>(reinterpret_cast<LONG_PTR>(brush)));
+    }
+    ~ClassBrush()
+    {
+        ::SetClassLongPtrA(m_window, GCLP_HBRBACKGROUND, static_cast<LONG>(m_former));
+    }
+    ClassBrush(const ClassBrush&) = delete;
+    ClassBrush& operator=(const ClassBrush&) = delete;
+
+private:
+    HWND m_window;
+    ULONG_PTR m_former;
+};
+
+TEST_F(LayoutErase, SmallNumbersOfAClassAreTheSystemsColours)
+{
+    const ClassBrush brush(m_window.m_hWnd, reinterpret_cast<HBRUSH>(COLOR_HIGHLIGHT + 1));
+    ASSERT_NE(::GetSysColor(COLOR_HIGHLIGHT), ::GetSysColor(COLOR_3DFACE));
+    Erase();
+    EXPECT_EQ(100 * 60, m_canvas.Count(::GetSysColor(COLOR_HIGHLIGHT)));
+}
+
+TEST_F(LayoutErase, TheBrushOfAClassBeginsInTheCornerOfTheClientArea)
+{
+    // Eight by eight pixels, black but for one in the corner.
+    const WORD rows[8] = {0x80, 0, 0, 0, 0, 0, 0, 0};
+    const HBITMAP pattern = ::CreateBitmap(8, 8, 1, 1, rows);
+    const HBRUSH dotted = ::CreatePatternBrush(pattern);
+    {
+        const ClassBrush brush(m_window.m_hWnd, dotted);
+        m_canvas.dc.SetTextColor(RGB(0, 0, 255));
+        m_canvas.dc.SetBkColor(RGB(255, 0, 0));
+        m_canvas.dc.SetViewportOrg(3, 5);
+        Erase();
+    }
+    ::DeleteObject(dotted);
+    ::DeleteObject(pattern);
+    EXPECT_EQ(vorn::test::kRed, m_canvas.At(3, 5));
+    EXPECT_EQ(vorn::test::kRed, m_canvas.At(3 + 8, 5 + 16));
+    EXPECT_EQ(vorn::test::kBlue, m_canvas.At(4, 5));
+    EXPECT_EQ(13 * 8, m_canvas.Count(vorn::test::kRed)) << "in 100 by 60 pixels";
+    EXPECT_EQ(kWhite, m_canvas.At(2, 5));
+    EXPECT_EQ(kWhite, m_canvas.At(103, 5));
+}
+
 TEST_F(LayoutErase, NoDrawingObjectStaysBehind)
 {
     for (UINT id = 1; id <= 20; ++id)

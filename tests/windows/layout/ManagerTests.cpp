@@ -311,6 +311,31 @@ TEST(LayoutManager, ADialogSmallerThanItsMinimumGrows)
     EXPECT_EQ(CRect(5 + 2 + 400 + 5, 7, 512, high - 7), second);
 }
 
+TEST(LayoutManager, AMinimisedDialogDoesNotGrow)
+{
+    LaidDialog dialog(WS_POPUP | WS_CAPTION | WS_MINIMIZEBOX);
+    const CSize before = SizeOfWindow(dialog);
+    dialog.CreateRoot(kRow, 5, 2) << dialog.item(1, kFixed, 400, 9, 0, 0);
+    dialog.ShowWindow(SW_SHOWMINIMIZED);
+    ASSERT_TRUE(dialog.IsIconic());
+    dialog.UpdateLayout(false);
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    dialog.GetWindowPlacement(&placement);
+    EXPECT_EQ(before, CRect(placement.rcNormalPosition).Size());
+}
+
+TEST(LayoutManager, OnlyTheSideThatIsTooSmallGrowsAndTheCornerStays)
+{
+    LaidDialog dialog(WS_POPUP);
+    dialog.MoveWindow(70, 80, 900, 30, FALSE);
+    dialog.CreateRoot(kColumn, 5, 2) << dialog.item(1, kGreedy, 0, 0, 100, 150);
+    dialog.UpdateLayout(false);
+    CRect place;
+    dialog.GetWindowRect(&place);
+    EXPECT_EQ(CRect(70, 80, 970, 80 + 150 + 4 + 10), place);
+}
+
 TEST(LayoutManager, OnlyDialogsOfTheirOwnGrow)
 {
     LaidWindow window(100, 100);

@@ -67,6 +67,35 @@ TEST_F(LayoutPlacement, AMinimisedWindowComesBackNormal)
     EXPECT_EQ(CRect(60, 70, 393, 292), PlaceOf(next));
 }
 
+TEST_F(LayoutPlacement, AMaximisedWindowThatIsMinimisedRemembersThatItWas)
+{
+    m_window.ShowWindow(SW_SHOWMAXIMIZED);
+    m_window.ShowWindow(SW_SHOWMINIMIZED);
+    ASSERT_TRUE(m_window.IsIconic());
+    m_window.Save("Route");
+    EXPECT_EQ(static_cast<UINT>(SW_SHOWNORMAL), Stored().showCmd);
+    EXPECT_NE(0U, Stored().flags & WPF_RESTORETOMAXIMIZED);
+    LaidWindow next(100, 100, WS_OVERLAPPEDWINDOW);
+    next.Load("Route");
+    EXPECT_FALSE(next.IsIconic());
+    EXPECT_FALSE(next.IsZoomed()) << "it comes back normal";
+}
+
+TEST_F(LayoutPlacement, TheWholeRecordIsKept)
+{
+    m_window.MoveWindow(60, 70, 333, 222, FALSE);
+    WINDOWPLACEMENT present{};
+    present.length = sizeof present;
+    m_window.GetWindowPlacement(&present);
+    m_window.Save("Route");
+    const WINDOWPLACEMENT stored = Stored();
+    EXPECT_EQ(44U, stored.length);
+    EXPECT_EQ(CRect(present.rcNormalPosition), CRect(stored.rcNormalPosition));
+    EXPECT_EQ(present.flags, stored.flags);
+    EXPECT_EQ(CPoint(present.ptMinPosition), CPoint(stored.ptMinPosition));
+    EXPECT_EQ(CPoint(present.ptMaxPosition), CPoint(stored.ptMaxPosition));
+}
+
 TEST_F(LayoutPlacement, ARecordOfAnotherLengthIsLeftAlone)
 {
     m_window.Save("Route");

@@ -146,3 +146,39 @@ TEST_F(LayoutBar, ReleasesItsRootWithItsWindow)
     EXPECT_EQ(2, bar.initialised) << "it can be made again";
     EXPECT_EQ(LeastClient(bar), bar.LayoutMinimum());
 }
+
+TEST_F(LayoutBar, KeepsControlBarsOfItsOwnAtItsEdges)
+{
+    PlainBar bar;
+    Make(bar, CBRS_ALIGN_TOP);
+    frame->RecalcLayout();
+    CStatusBar inner;
+    ASSERT_TRUE(inner.Create(&bar));
+    CRect outer = OnScreen(*frame);
+    frame->SetWindowPos(nullptr, 0, 0, outer.Width() + 60, outer.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    CRect client;
+    bar.GetClientRect(&client);
+    CRect place = OnScreen(inner);
+    bar.ScreenToClient(&place);
+    EXPECT_EQ(client.BottomRight(), place.BottomRight());
+    EXPECT_EQ(460, place.Width());
+}
+
+TEST_F(LayoutBar, TellsWhatItsPanesNeed)
+{
+    PlainBar bar;
+    Make(bar, CBRS_ALIGN_TOP);
+    MINMAXINFO info{};
+    info.ptMaxTrackSize = {2001, 2002};
+    bar.SendMessage(WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
+    EXPECT_EQ(LeastClient(bar), CSize(info.ptMinTrackSize.x, info.ptMinTrackSize.y)) << "the bar has no frame";
+    EXPECT_EQ(CPoint(2001, 2002), CPoint(info.ptMaxTrackSize));
+}
+
+TEST_F(LayoutBar, WithoutItsTemplateItIsNotMade)
+{
+    PlainBar bar;
+    EXPECT_FALSE(bar.Create(frame, 4711U, CBRS_TOP, kBarId));
+    EXPECT_EQ(nullptr, bar.m_hWnd);
+    EXPECT_EQ(0, bar.initialised);
+}

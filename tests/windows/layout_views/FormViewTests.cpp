@@ -1,3 +1,4 @@
+#include "framework/bars/CStatusBar.h"
 #include "framework/frames/CFrameWnd.h"
 #include "framework/include/afxres.h"
 #include "tests/support/GdiCount.h"
@@ -286,6 +287,26 @@ TEST_F(LayoutForm, AnEmptySizeIsNoSize)
     WaypointForm* const view = Child(400, 300);
     view->SendMessage(WM_SIZE, SIZE_RESTORED, 0);
     EXPECT_EQ(view->Corner(400, 300), view->Place(IDC_ADD));
+}
+
+TEST_F(LayoutForm, ItKeepsItsControlBarsAtItsEdges)
+{
+    WaypointForm* const view = Child(400, 300);
+    CStatusBar bar;
+    ASSERT_TRUE(bar.Create(view));
+    view->Size(430, 340);
+    CRect place;
+    bar.GetWindowRect(&place);
+    view->ScreenToClient(&place);
+    EXPECT_EQ(CPoint(430, 340), place.BottomRight());
+    EXPECT_EQ(0, place.left);
+    EXPECT_EQ(view->Corner(430, 340), view->Place(IDC_ADD)) << "bars leave what is laid out alone";
+}
+
+TEST_F(LayoutForm, WithoutItsTemplateItIsNotMade)
+{
+    auto* const view = new WaypointForm(4711U); // deletes itself
+    EXPECT_FALSE(view->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), &m_parent, 9));
 }
 
 TEST_F(LayoutForm, ItFillsAFrameAndGrowsWithIt)

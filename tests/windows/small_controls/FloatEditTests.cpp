@@ -219,6 +219,33 @@ TEST_F(NumberField, AnEmptyClipboardPastesNothing)
     EXPECT_EQ("1", Text());
 }
 
+TEST_F(NumberField, ABusyClipboardPastesNothing)
+{
+    SetClipboard("5");
+    m_edit.SetFocus();
+    m_edit.SetWindowText("1");
+    m_edit.SetSel(0, 0);
+    ASSERT_TRUE(::OpenClipboard(m_dialog.m_hWnd));
+    const DWORD start = ::GetTickCount();
+    m_edit.SendMessage(WM_PASTE);
+    const DWORD time = ::GetTickCount() - start;
+    ::CloseClipboard();
+    EXPECT_EQ("1", Text());
+    EXPECT_GE(time, 35U) << "five tries of ten milliseconds";
+    EXPECT_LT(time, 2000U);
+    m_edit.SendMessage(WM_PASTE);
+    EXPECT_EQ("51", Text());
+}
+
+TEST_F(NumberField, PastesUpToTheEndOfALine)
+{
+    m_edit.SetFocus();
+    m_edit.SetWindowText("");
+    SetClipboard("7.5\r\n8");
+    m_edit.SendMessage(WM_PASTE);
+    EXPECT_EQ("7.5", Text());
+}
+
 TEST_F(NumberField, TheParentIsNotifiedToo)
 {
     m_dialog.notifications = 0;

@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
+#include <vector>
 
 using namespace vorn::test;
 
@@ -64,6 +66,25 @@ private:
     HKEY m_key = nullptr;
 };
 
+BOOL CALLBACK CollectTips(HWND window, LPARAM found)
+{
+    char name[32] = "";
+    ::GetClassName(window, name, sizeof name);
+    if (std::string(name) == TOOLTIPS_CLASSA)
+    {
+        reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
+    }
+    return TRUE;
+}
+
+/// The tooltip windows of this thread.
+std::vector<HWND> Tips()
+{
+    std::vector<HWND> found;
+    ::EnumThreadWindows(::GetCurrentThreadId(), CollectTips, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
 class Link : public testing::Test
 {
 protected:
@@ -100,24 +121,40 @@ protected:
         return place;
     }
 
-    /// Whether a pixel of a colour is shown.
-    static bool HasColor(HyperLink& link, COLORREF color)
+    /// How many pixels of a colour are shown.
+    static int CountColor(HyperLink& link, COLORREF color)
     {
         link.UpdateWindow();
         CRect area;
         link.GetClientRect(&area);
         CClientDC dc(&link);
+        int count = 0;
         for (int y = 0; y < area.Height(); ++y)
         {
             for (int x = 0; x < area.Width(); ++x)
             {
-                if (dc.GetPixel(x, y) == color)
-                {
-                    return true;
-                }
+                count += dc.GetPixel(x, y) == color ? 1 : 0;
             }
         }
-        return false;
+        return count;
+    }
+    static bool HasColor(HyperLink& link, COLORREF color)
+    {
+        return CountColor(link, color) > 0;
+    }
+    /// The colours of the pixels along its lower edge.
+    static std::set<COLORREF> LowerEdge(HyperLink& link)
+    {
+        link.UpdateWindow();
+        CRect area;
+        link.GetClientRect(&area);
+        CClientDC dc(&link);
+        std::set<COLORREF> colors;
+        for (int x = 0; x < area.Width(); ++x)
+        {
+            colors.insert(dc.GetPixel(x, area.Height() - 1));
+        }
+        return colors;
     }
 
     OwnClasses m_classes;
@@ -226,6 +263,7 @@ TEST_F(Link, KeysOpenItToo)
     MSG escape = {link.m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
     EXPECT_EQ(0, link.SendMessage(WM_GETDLGCODE, VK_ESCAPE, reinterpret_cast<LPARAM>(&escape)) & DLGC_WANTMESSAGE);
     EXPECT_NE(0U, link.GetStyle() & WS_TABSTOP);
+    EXPECT_NE(0U, link.GetStyle() & SS_NOTIFY);
 }
 
 TEST_F(Link, TellsWhyItCannotBeOpened)
@@ -233,8 +271,9 @@ TEST_F(Link, TellsWhyItCannotBeOpened)
     HyperLink link;
     Make(link, kUrl);
     std::string said;
+    HWND owner = nullptr;
     DialogDriver driver(
-        [&said]
+        [&]
         {
             const HWND box = FindDialog(HostCaption().c_str());
             if (box == nullptr)
@@ -242,12 +281,14 @@ TEST_F(Link, TellsWhyItCannotBeOpened)
                 return false;
             }
             said = TextOf(::GetDlgItem(box, 0xFFFF));
+            owner = ::GetWindow(box, GW_OWNER);
             ::PostMessage(box, WM_COMMAND, IDOK, 0);
             return true;
         });
     Click(link);
     EXPECT_TRUE(driver.IsDone());
     EXPECT_EQ(kNoApplication, said);
+    EXPECT_EQ(m_dialog.m_hWnd, owner) << "the link's top window";
     EXPECT_FALSE(link.IsVisited());
 }
 
@@ -278,6 +319,62 @@ TEST_F(Link, HasTheColoursOfAllLinks)
     link.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
     EXPECT_TRUE(HasColor(link, RGB(1, 2, 3)));
     ::ReleaseCapture();
+}
+
+TEST_F(Link, IsUnderlinedAlwaysOrBelowTheMouse)
+{
+    HyperLink link;
+    Make(link, kUrl);
+    link.ModifyLinkStyle(HyperLink::HoverColor, 0);
+    const int plain = CountColor(link, m_colors.link);
+    link.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+    const int underlined = CountColor(link, m_colors.link);
+    EXPECT_GT(underlined, plain) << "below the mouse";
+    link.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(plain, CountColor(link, m_colors.link));
+    link.ModifyLinkStyle(HyperLink::UnderlineHover, HyperLink::Underline);
+    EXPECT_EQ(underlined, CountColor(link, m_colors.link)) << "always";
+    link.ModifyLinkStyle(HyperLink::Underline, 0);
+    link.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+    EXPECT_EQ(plain, CountColor(link, m_colors.link)) << "never";
+}
+
+TEST_F(Link, HasAFrameOfDotsWhileItHasTheFocus)
+{
+    HyperLink link;
+    Make(link, kUrl);
+    EXPECT_EQ(1U, LowerEdge(link).size());
+    ::SetFocus(link.m_hWnd);
+    EXPECT_EQ(2U, LowerEdge(link).size());
+    ::SetFocus(m_dialog.m_hWnd);
+    EXPECT_EQ(1U, LowerEdge(link).size());
+}
+
+TEST_F(Link, ShowsItsUrlInATip)
+{
+    HyperLink link;
+    Make(link, kUrl);
+    ASSERT_EQ(1U, Tips().size());
+    const auto tipText = [&link]
+    {
+        char text[100] = "";
+        TOOLINFOA tool{};
+        tool.cbSize = TTTOOLINFOA_V1_SIZE;
+        tool.hwnd = link.m_hWnd;
+        tool.uId = 1;
+        tool.lpszText = text;
+        ::SendMessage(Tips().front(), TTM_GETTEXTA, sizeof text, reinterpret_cast<LPARAM>(&tool));
+        return std::string(text);
+    };
+    EXPECT_EQ(kUrl, tipText());
+    link.SetURL("http://example.org/weather");
+    EXPECT_EQ("http://example.org/weather", tipText());
+    link.DestroyWindow();
+    EXPECT_TRUE(Tips().empty());
+    HyperLink without;
+    without.ModifyLinkStyle(HyperLink::ToolTip, 0);
+    Make(without, kUrl);
+    EXPECT_TRUE(Tips().empty());
 }
 
 TEST_F(Link, IsAsLargeAsItsText)
@@ -333,7 +430,18 @@ TEST_F(Link, ShowsItsCursor)
 {
     HyperLink link;
     Make(link, kUrl);
+    const std::string help = []
+    {
+        char folder[MAX_PATH] = "";
+        ::GetWindowsDirectory(folder, MAX_PATH);
+        return std::string(folder) + "\\winhlp32.exe";
+    }();
+    const HMODULE program = ::LoadLibraryEx(help.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    const bool hasHand =
+        program != nullptr && ::FindResource(program, MAKEINTRESOURCE(106), RT_GROUP_CURSOR) != nullptr;
+    ::FreeLibrary(program);
     EXPECT_NE(nullptr, link.GetLinkCursor());
+    EXPECT_EQ(!hasHand, link.GetLinkCursor() == ::LoadCursor(nullptr, IDC_ARROW)) << "a hand where the system has one";
     const HCURSOR cross = ::LoadCursor(nullptr, IDC_CROSS);
     link.SetLinkCursor(cross);
     EXPECT_EQ(cross, link.GetLinkCursor());

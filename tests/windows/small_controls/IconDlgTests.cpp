@@ -1,3 +1,4 @@
+#include "tests/windows/small_controls/IconFacts.h"
 #include "tests/windows/small_controls/resource.h"
 #include "toolkit/IconDlg.h"
 
@@ -18,27 +19,13 @@ protected:
         return 4711;
     }
 };
-
-CSize SizeOf(HICON icon)
-{
-    ICONINFO info{};
-    ::GetIconInfo(icon, &info);
-    BITMAP bitmap{};
-    ::GetObject(info.hbmMask, sizeof(bitmap), &bitmap);
-    ::DeleteObject(info.hbmMask);
-    ::DeleteObject(info.hbmColor);
-    return CSize(bitmap.bmWidth, info.hbmColor != nullptr ? bitmap.bmHeight : bitmap.bmHeight / 2);
-}
 } // namespace
 
 TEST(IconDlg, HasTheHostsIconInBothSizes)
 {
     IconDlg dialog(IDD_TEST_EMPTY);
     ASSERT_TRUE(dialog.Create(IDD_TEST_EMPTY));
-    ASSERT_NE(nullptr, dialog.GetIcon(TRUE));
-    ASSERT_NE(nullptr, dialog.GetIcon(FALSE));
-    EXPECT_EQ(CSize(::GetSystemMetrics(SM_CXICON), ::GetSystemMetrics(SM_CYICON)), SizeOf(dialog.GetIcon(TRUE)));
-    EXPECT_EQ(CSize(::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON)), SizeOf(dialog.GetIcon(FALSE)));
+    EXPECT_TRUE(vorn::test::HasHostIcons(dialog));
     dialog.DestroyWindow();
 }
 

@@ -1,5 +1,7 @@
+#include "tests/windows/small_controls/IconFacts.h"
 #include "tests/windows/small_controls/resource.h"
 #include "toolkit/IconPropertySheet.h"
+#include "toolkit/layout/LayoutPropertySheet.h"
 
 #include <gtest/gtest.h>
 
@@ -18,17 +20,6 @@ protected:
         return 4711;
     }
 };
-
-int WidthOf(HICON icon)
-{
-    ICONINFO info{};
-    ::GetIconInfo(icon, &info);
-    BITMAP bitmap{};
-    ::GetObject(info.hbmMask, sizeof(bitmap), &bitmap);
-    ::DeleteObject(info.hbmMask);
-    ::DeleteObject(info.hbmColor);
-    return static_cast<int>(bitmap.bmWidth);
-}
 } // namespace
 
 TEST(IconPropertySheet, HasTheHostsIconInBothSizes)
@@ -37,10 +28,7 @@ TEST(IconPropertySheet, HasTheHostsIconInBothSizes)
     IconPropertySheet sheet("Planning");
     sheet.AddPage(&page);
     ASSERT_TRUE(sheet.Create());
-    ASSERT_NE(nullptr, sheet.GetIcon(TRUE));
-    ASSERT_NE(nullptr, sheet.GetIcon(FALSE));
-    EXPECT_EQ(::GetSystemMetrics(SM_CXICON), WidthOf(sheet.GetIcon(TRUE)));
-    EXPECT_EQ(::GetSystemMetrics(SM_CXSMICON), WidthOf(sheet.GetIcon(FALSE)));
+    EXPECT_TRUE(vorn::test::HasHostIcons(sheet));
     sheet.DestroyWindow();
 }
 
@@ -75,4 +63,29 @@ TEST(IconPropertySheet, CanBeMadeInEachWay)
     EXPECT_EQ(bitmap, decoratedById.m_psh.hbmWatermark);
     EXPECT_EQ(nullptr, decoratedById.m_psh.hbmHeader);
     ::DeleteObject(bitmap);
+}
+
+TEST(IconPropertySheet, OneThatLaysItselfOutHasItToo)
+{
+    CPropertyPage page(IDD_TEST_EMPTY);
+    LayoutManagement::LayoutPropertySheet sheet("Planning", nullptr, 0, nullptr);
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create());
+    EXPECT_TRUE(vorn::test::HasHostIcons(sheet));
+    sheet.DestroyWindow();
+    ASSERT_TRUE(sheet.Create()) << "a second time";
+    EXPECT_TRUE(vorn::test::HasHostIcons(sheet));
+    sheet.DestroyWindow();
+}
+
+TEST(IconPropertySheet, OneThatLaysItselfOutKeepsAnIconOfItsOwn)
+{
+    CPropertyPage page(IDD_TEST_EMPTY);
+    LayoutManagement::LayoutPropertySheet sheet("Planning", nullptr, 0, nullptr);
+    sheet.m_psh.dwFlags |= PSH_USEHICON;
+    sheet.m_psh.hIcon = ::LoadIcon(nullptr, IDI_WARNING);
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create());
+    EXPECT_FALSE(vorn::test::HasHostIcons(sheet));
+    sheet.DestroyWindow();
 }

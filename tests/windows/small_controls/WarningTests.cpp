@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -160,4 +161,54 @@ TEST(Warning, WithoutACheckTextThereIsNoBox)
                 ExpectTidy(box);
             });
     EXPECT_TRUE(warning.WasCheckChecked());
+}
+
+TEST(Warning, ItsMarginsAndGapsAreInDialogUnits)
+{
+    WarningDlgWithCheck warning("The route passes below the minimum altitude.", kTitle, "&Do not show this again",
+                                false);
+    ShowBox(warning, IDOK,
+            [](HWND box)
+            {
+                CRect units(4, 4, 7, 7); // gap and margin
+                ::MapDialogRect(box, &units);
+                CRect client;
+                ::GetClientRect(box, &client);
+                const CRect icon = PlaceOf(box, IDC_VORN_WARNING_ICON);
+                const CRect text = PlaceOf(box, IDC_VORN_WARNING_TEXT);
+                const CRect check = PlaceOf(box, IDC_VORN_WARNING_CHECK);
+                const CRect button = PlaceOf(box, IDOK);
+                EXPECT_EQ(units.BottomRight(), icon.TopLeft());
+                EXPECT_EQ(icon.right + units.left, text.left);
+                EXPECT_EQ(text.left, check.left);
+                EXPECT_EQ(std::max(icon.bottom, text.bottom) + units.top, check.top);
+                EXPECT_EQ(check.bottom + units.top, button.top);
+                EXPECT_EQ(client.bottom - units.bottom, button.bottom);
+                EXPECT_EQ(client.right - units.right, std::max(text.right, check.right));
+                EXPECT_NEAR(client.CenterPoint().x, button.CenterPoint().x, 1) << "in the middle";
+                EXPECT_EQ(reinterpret_cast<LRESULT>(::LoadIcon(nullptr, IDI_WARNING)),
+                          ::SendDlgItemMessage(box, IDC_VORN_WARNING_ICON, STM_GETICON, 0, 0));
+            });
+}
+
+TEST(Warning, ItsTextIsWrappedAtFourHundredDialogUnits)
+{
+    std::string text;
+    for (int i = 0; i < 60; ++i)
+    {
+        text += "word ";
+    }
+    WarningDlgWithCheck warning(text.c_str(), kTitle, "check", false);
+    ShowBox(warning, IDOK,
+            [](HWND box)
+            {
+                CRect units(0, 0, 400, 8);
+                ::MapDialogRect(box, &units);
+                RECT work{};
+                ::SystemParametersInfo(SPI_GETWORKAREA, 0, &work, 0);
+                const LONG most = std::min(units.right, (work.right - work.left) * 60 / 100);
+                const CRect place = PlaceOf(box, IDC_VORN_WARNING_TEXT);
+                EXPECT_LE(place.Width(), most);
+                EXPECT_GT(place.Width(), most - 60) << "a word more would not have fitted";
+            });
 }

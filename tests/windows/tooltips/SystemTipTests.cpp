@@ -3,6 +3,7 @@
 #include "framework/include/afxwin.h"
 #include "tests/support/PumpUntil.h"
 #include "tests/support/ScratchKey.h"
+#include "tests/windows/tooltips/TipTest.h"
 #include "toolkit/tooltips/InfoTip.h"
 #include "toolkit/tooltips/TrackingToolTip.h"
 
@@ -79,6 +80,24 @@ protected:
     InfoTip m_tip;
 };
 
+/// Notes the titles that it is given.
+class TitledTip : public InfoTip
+{
+public:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == TTM_SETTITLEA)
+        {
+            m_icon = static_cast<int>(wParam);
+            m_title = reinterpret_cast<const char*>(lParam);
+        }
+        return InfoTip::WindowProc(message, wParam, lParam);
+    }
+
+    int m_icon = -1;
+    std::string m_title;
+};
+
 class TrackingTips : public SystemTips
 {
 protected:
@@ -89,6 +108,17 @@ protected:
     bool IsShown() const
     {
         return m_tip.IsWindowVisible() != FALSE;
+    }
+    /// The flags of the host's tool.
+    UINT Flags() const
+    {
+        TOOLINFOA info{};
+        info.cbSize = TTTOOLINFOA_V1_SIZE;
+        info.hwnd = nullptr;
+        info.uFlags = TTF_IDISHWND;
+        info.uId = reinterpret_cast<UINT_PTR>(m_host.m_hWnd);
+        EXPECT_TRUE(m_tip.SendMessage(TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&info)));
+        return info.uFlags;
     }
 
     TrackingToolTip m_tip;
@@ -134,6 +164,22 @@ TEST_F(InfoTips, HaveTheirTitleAboveTheirText)
     EXPECT_GT(PlaceOf(m_tip).Height(), plain.cy);
     m_tip.ShowTip(CPoint(300, 200), nullptr, "The reserve.", TTI_NONE, 0);
     EXPECT_EQ(plain, PlaceOf(m_tip).Size());
+}
+
+TEST_F(InfoTips, GiveTheSystemTheirTitleAndTheNumberOfTheirIcon)
+{
+    TitledTip tip;
+    ASSERT_TRUE(tip.Create(&m_host));
+    for (const int icon : {TTI_INFO, TTI_WARNING, TTI_ERROR, TTI_NONE})
+    {
+        tip.ShowTip(CPoint(300, 200), "Fuel", "The reserve is below 45 minutes.", icon, 0);
+        EXPECT_EQ(icon, tip.m_icon);
+        EXPECT_EQ("Fuel", tip.m_title);
+    }
+    const std::string longest(99, 't');
+    tip.ShowTip(CPoint(300, 200), (longest + "u").c_str(), "The reserve is below 45 minutes.", 4711, 0);
+    EXPECT_EQ(TTI_NONE, tip.m_icon) << "no such number";
+    EXPECT_EQ(longest, tip.m_title);
 }
 
 TEST_F(InfoTips, TitlesEndAfter99Characters)
@@ -287,6 +333,22 @@ TEST_F(InfoTips, AreNotSeenThroughByTheMouse)
     EXPECT_EQ(HTCLIENT, m_tip.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(middle.x, middle.y)));
 }
 
+TEST_F(SystemTips, TheSettingIsNotForTheTipsOfControls)
+{
+    ShowDialogTips(0);
+    ToolTipCtrlEx tips;
+    ASSERT_TRUE(tips.Create(&m_host));
+    tips.AddTool(&m_host, "The route in the chart.");
+    MSG move{};
+    move.hwnd = m_host.m_hWnd;
+    move.message = WM_MOUSEMOVE;
+    move.pt = PlaceOf(m_host).CenterPoint();
+    PutCursor(PlaceOf(m_host).CenterPoint());
+    tips.RelayEvent(&move);
+    tips.SendMessage(WM_TIMER, 1);
+    EXPECT_TRUE(tips.IsWindowVisible());
+}
+
 TEST_F(TrackingTips, StandWhereTheyArePut)
 {
     ASSERT_TRUE(m_tip.AddTool(&m_host, true, "N 47 30.2  E 011 05.9"));
@@ -301,6 +363,18 @@ TEST_F(TrackingTips, StandWhereTheyArePut)
     m_tip.ActivateTip(&m_host, false);
     EXPECT_FALSE(m_tip.IsTrackActive());
     EXPECT_FALSE(IsShown());
+}
+
+TEST_F(TrackingTips, AreTrackedAndPutExactlyWhereThatIsAskedFor)
+{
+    ASSERT_TRUE(m_tip.AddTool(&m_host, true, "N 47"));
+    EXPECT_EQ(static_cast<UINT>(TTF_TRACK | TTF_ABSOLUTE), Flags() & (TTF_TRACK | TTF_ABSOLUTE));
+    ASSERT_TRUE(m_tip.AddTool(&m_host, false, "N 47"));
+    EXPECT_EQ(static_cast<UINT>(TTF_TRACK), Flags() & (TTF_TRACK | TTF_ABSOLUTE));
+    m_tip.TrackTip(320, 240);
+    m_tip.ActivateTip(&m_host, true);
+    EXPECT_TRUE(IsShown());
+    EXPECT_TRUE(m_tip.IsTrackActive());
 }
 
 TEST_F(TrackingTips, NegativePlacesAreLeftOfAndAboveTheScreensOrigin)

@@ -116,6 +116,23 @@ TEST_F(TipTools, TextsOfTheLibraryAreFoundAndThoseOfTheProgramGoBefore)
     EXPECT_EQ("", TextOf(1)) << "nobody has it";
 }
 
+TEST_F(TipTools, TextsOfResourcesAreLoadedWhenTheyAreShown)
+{
+    m_tips.AddTool(Control(1), 701U);
+    Hover(1);
+    EXPECT_EQ("The program's own words.", TipText());
+    MouseOut();
+    Tick(kLookTimer);
+    ::AfxSetResourceHandle(::GetModuleHandle("VornCommon.dll")); // as when another language's texts come first
+    const std::string other = TextOf(1);
+    Hover(1);
+    const std::string shown = TipText();
+    ::AfxSetResourceHandle(nullptr);
+    EXPECT_NE("", other);
+    EXPECT_NE("The program's own words.", other);
+    EXPECT_EQ(other, shown);
+}
+
 TEST_F(TipTools, AreDescribed)
 {
     const CRect part(1, 2, 30, 14);
