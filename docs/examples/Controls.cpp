@@ -12,6 +12,20 @@ void Show(const char* what, const CWnd& control)
     std::printf("%s: \"%s\"\n", what, text.GetString());
 }
 
+// Confirms itself: an example has no user.
+class Warning : public WarningDlgWithCheck
+{
+public:
+    using WarningDlgWithCheck::WarningDlgWithCheck;
+
+    BOOL OnInitDialog() override
+    {
+        const BOOL result = WarningDlgWithCheck::OnInitDialog();
+        PostMessage(WM_COMMAND, IDOK);
+        return result;
+    }
+};
+
 } // namespace
 
 int main()
@@ -39,5 +53,15 @@ int main()
     link.SubclassDlgItem(1001, &parent, "https://example.org/weather");
     Show("link", link);
     std::printf("opens %s\n", link.GetURL().GetString());
+
+    // A field whose border lights up while the mouse is over it.
+    HotEdit find;
+    find.Create(WS_CHILD | WS_VISIBLE, CRect(10, 70, 200, 92), &parent, 1002);
+    find.HotActivate(true); // as the mouse does
+    std::printf("lit up: %s\n", find.IsHot() ? "yes" : "no");
+
+    Warning warning("The route crosses a restricted area.", "Route", "&Do not warn again", true, &parent);
+    if (warning.DoModal() == IDOK)
+        std::printf("warn again: %s\n", warning.WasCheckChecked() ? "no" : "yes");
     return 0;
 }

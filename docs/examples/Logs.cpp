@@ -3,37 +3,27 @@
 #include <cstdio>
 #include <memory>
 
-/// A log into which the libraries write, too, as long as it lives.
-class SharedLog : public VornLog
-{
-public:
-    SharedLog()
-    {
-        mpSingleInst = this;
-    }
-    ~SharedLog() override
-    {
-        mpSingleInst = nullptr;
-    }
-};
-
 int main()
 {
-    SharedLog log;
-    if (!log.InitLog("example.log"))
+    VornCommonLog* const log = VornCommonLog::Instance(); // before anything is logged
+    if (!log->InitLog("example.log"))
         return 1;
-    log.LogMsg("Loading tables", LOG_INFO);
-    log.LogMsg("No table of airspaces", LOG_WARNING);
+    log->LogMsg("Loading tables", LOG_INFO);
+    log->LogMsg("No table of airspaces", LOG_WARNING);
 
-    // A plug-in that is not there is told in the log.
+    // The charting library writes into the same log: a plug-in that is not there is told in it.
     char path[] = "NoSuchPlugin.dll";
     char* paths[] = {path};
     WinProjectionLib::Init(paths, 1);
     WinProjectionLib::Deinit();
 
     char* text = nullptr;
-    const int length = log.GetLog(text);
+    const int length = log->GetLog(text);
     const std::unique_ptr<char[]> owned(text);
     std::printf("%d characters\n%s", length, owned.get());
+
+    // A window with the messages, when the matter is grave enough for one: a warning is not.
+    log->DisplayLog(LOG_WARNING, false);
+    VornCommonLog::FreeInstance();
     return 0;
 }

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <type_traits>
 
 namespace
 {
@@ -67,6 +68,7 @@ TEST(VornLog, StatusNumbersRunFromFatalToDebug)
     EXPECT_EQ(LOG_WARNING, 2);
     EXPECT_EQ(LOG_INFO, 3);
     EXPECT_EQ(LOG_DEBUG, 4);
+    EXPECT_TRUE((std::is_same_v<std::underlying_type_t<LogStatus>, int>)) << "thresholds below 0 are compared, too";
 }
 
 TEST(VornLog, AnEmptyLogHandsOutAnEmptyText)

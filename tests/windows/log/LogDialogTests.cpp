@@ -152,6 +152,23 @@ TEST_F(LogTest, LongTextsAreWholeAndOpenAtTheirBeginning)
                         {
                             EXPECT_EQ(ShownText(window), text);
                             EXPECT_EQ(FirstVisibleLine(window), 0);
+                            EXPECT_GT(::SendMessageA(TextControl(window), EM_GETLIMITTEXT, 0, 0), 100'000'000)
+                                << "at first it is 32,767";
+                        }));
+}
+
+TEST_F(LogTest, TheTemplateAndItsTextHaveTheNumbersThatHostsKnow)
+{
+    const HMODULE library = ::GetModuleHandleA("VornCommon.dll");
+    EXPECT_NE(::FindResourceA(library, MAKEINTRESOURCEA(1773), MAKEINTRESOURCEA(5)), nullptr);
+    VornCommonLog log;
+    log.LogMsg("text", LOG_INFO);
+    EXPECT_TRUE(ShowLog(log,
+                        [](HWND window)
+                        {
+                            char text[16] = "";
+                            ::GetDlgItemTextA(window, 1738, text, sizeof text);
+                            EXPECT_STREQ(text, "text\r\n");
                         }));
 }
 

@@ -66,6 +66,11 @@ public:
             DDX_Control(exchange, IDC_TREE, mOptionTree);
         }
     }
+    void UpdateLayout(bool redraw) override
+    {
+        layouts.push_back(redraw);
+        BaseOptionTreeDlg::UpdateLayout(redraw);
+    }
     void OnSelectCategory(HTREEITEM item) override
     {
         shown.push_back(item);
@@ -110,6 +115,7 @@ public:
     HTREEITEM fonts = nullptr;
     HTREEITEM units = nullptr;
     std::vector<HTREEITEM> shown;
+    std::vector<bool> layouts; ///< whether each was to be painted anew
 
 private:
     bool m_bindsByExchange;
@@ -379,6 +385,32 @@ TEST_F(OptionDialog, ItIsResizableAndLaysItselfOut)
     dialog.GetOptionTree().GetWindowRect(&after);
     EXPECT_EQ(before.Height() + 60, after.Height());
     EXPECT_NEAR(before.Width() + 40, after.Width(), 1);
+}
+
+TEST_F(OptionDialog, AnotherCategoryIsLaidOutOnceAndPaintedAnew)
+{
+    PreferencesDlg& dialog = Show();
+    dialog.UpdateWindow();
+    ASSERT_FALSE(::GetUpdateRect(dialog.m_hWnd, nullptr, FALSE));
+    dialog.layouts.clear();
+    dialog.SendMessage(WM_USER + 367, 0, reinterpret_cast<LPARAM>(dialog.fonts));
+    EXPECT_EQ((std::vector<bool>{true}), dialog.layouts) << "with redraw";
+    CRect client;
+    CRect unpainted;
+    dialog.GetClientRect(&client);
+    EXPECT_TRUE(::GetUpdateRect(dialog.m_hWnd, &unpainted, FALSE));
+    EXPECT_EQ(client, unpainted);
+}
+
+TEST_F(OptionDialog, ItExplainsItsControls)
+{
+    PreferencesDlg& dialog = Show();
+    const UINT tips[] = {IDC_SCALE, 999, IDC_UNITS, 700};
+    dialog.AddTips(tips, 2);
+    EXPECT_EQ(2, dialog.GetToolTipCtrl().GetToolCount());
+    CString text;
+    dialog.GetToolTipCtrl().GetText(text, dialog.GetDlgItem(IDC_SCALE), IDC_SCALE);
+    EXPECT_EQ("Enter the weight.", text);
 }
 
 TEST(OptionDialogs, TheTreeMayBeBoundByExchange)

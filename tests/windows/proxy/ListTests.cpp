@@ -190,6 +190,31 @@ TEST_F(ProxyDialog, AReplacedLineKeepsItsTickAndItsPlace)
     EXPECT_EQ(Address(second), "- - new 8080");
 }
 
+TEST_F(ProxyDialog, AReplacedLineStaysInView)
+{
+    for (int i = 0; i < 100; ++i)
+    {
+        Put("host");
+    }
+    Run(
+        [](const ProxyBox& box)
+        {
+            const HWND list = box.Item(IDC_VORN_PROXY_LIST);
+            CRect client;
+            ::GetClientRect(list, &client);
+            for (const int line : {99, 50, 0})
+            {
+                box.Select(line);
+                box.Enter(IDC_VORN_PROXY_HOST, "new");
+                CRect place;
+                ::SendMessageA(list, LB_GETITEMRECT, static_cast<WPARAM>(line), reinterpret_cast<LPARAM>(&place));
+                EXPECT_EQ(box.Selected(), line);
+                EXPECT_GE(place.top, client.top) << line;
+                EXPECT_LE(place.bottom, client.bottom) << line;
+            }
+        });
+}
+
 TEST_F(ProxyDialog, AClickOnAnotherLineLeavesTheEditToTheFormerOne)
 {
     ProxyInfo* const first = Put("a");

@@ -161,6 +161,12 @@ TEST_F(ProxyDialog, EachMnemonicIsOneControls)
         });
 }
 
+TEST_F(ProxyDialog, TheTemplateHasTheNumberThatHostsKnow)
+{
+    const HMODULE library = ::GetModuleHandleA("VornCommon.dll");
+    EXPECT_NE(::FindResourceA(library, MAKEINTRESOURCEA(1760), MAKEINTRESOURCEA(5)), nullptr);
+}
+
 TEST_F(ProxyDialog, IsTheLibrarysOwnWhateverTheHostHasUnderItsNumber)
 {
     // This program has a template 1760 too.
