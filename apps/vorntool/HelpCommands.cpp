@@ -4,6 +4,8 @@
 
 #include <VornCommon.h>
 
+#include <algorithm>
+
 namespace vorn::tool
 {
 
@@ -100,6 +102,12 @@ std::string Listed(const std::vector<std::string>& words)
 
 ExitStatus Search(const Command& self, const Invocation& call, Output& output)
 {
+    const auto blank = std::find_if(call.values.begin(), call.values.end(), IsBlankWord);
+    if (blank != call.values.end())
+    {
+        ReportError(output, self, Quoted(*blank) + " is no word to look for");
+        return ExitStatus::WrongUse;
+    }
     const std::vector<HelpEntry> found = HelpWith(call.values);
     if (found.empty())
     {

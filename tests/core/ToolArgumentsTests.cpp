@@ -195,3 +195,21 @@ TEST(ToolHelp, VersionIsOneLine)
 {
     ExpectText({"--version"}, "vorntool 1.2\n");
 }
+
+TEST(ToolMessages, WordsAreQuotedOnOneLine)
+{
+    EXPECT_EQ("''", Quoted(""));
+    EXPECT_EQ("'C:\\Vornwald\\x'", Quoted("C:\\Vornwald\\x")) << "paths stay as they are";
+    EXPECT_EQ("'a\\nb\\x07'", Quoted("a\nb\a"));
+    EXPECT_EQ("'M\xC3\xBCller'", Quoted("M\xC3\xBCller"));
+}
+
+TEST(ToolMessages, VeryLongWordsAreCutBetweenCharacters)
+{
+    const std::string fits(260, 'x');
+    EXPECT_EQ("'" + fits + "'", Quoted(fits));
+    EXPECT_EQ("'" + fits + "...'", Quoted(fits + "x"));
+    const std::string umlaut = std::string(259, 'x') + "\xC3\xBC";
+    EXPECT_EQ("'" + std::string(259, 'x') + "...'", Quoted(umlaut));
+    EXPECT_EQ("'...'", Quoted(std::string(300, '\x80'))) << "no character begins here";
+}

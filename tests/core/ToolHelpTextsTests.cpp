@@ -45,6 +45,16 @@ TEST(ToolHelpTexts, EveryWordMustOccurWhereverAndInEitherCase)
     EXPECT_TRUE(Matches(kMenu, Words{""}));
 }
 
+TEST(ToolHelpTexts, AWordHasMoreThanBlanks)
+{
+    for (const char* const word : {"", " ", "\t \r\n"})
+    {
+        EXPECT_TRUE(IsBlankWord(word));
+    }
+    EXPECT_FALSE(IsBlankWord(" x "));
+    EXPECT_FALSE(IsBlankWord("\xC3\xBC"));
+}
+
 TEST(ToolHelpTexts, LineBreaksAreBlanksForTheSearch)
 {
     EXPECT_TRUE(Matches(kMenu, Words{"data in use"}));

@@ -55,7 +55,7 @@ struct Invocation
     }
 };
 
-/// A word of the user's in single quotes, for messages.
+/// A word of the user's in single quotes, for messages: on one line, and without its end when it is very long.
 std::string Quoted(std::string_view word);
 
 struct Command;

@@ -55,6 +55,11 @@ std::optional<int> ParseHelpId(std::string_view word)
     return isNumber ? std::optional(id) : std::nullopt;
 }
 
+bool IsBlankWord(std::string_view word)
+{
+    return std::all_of(word.begin(), word.end(), IsBlank);
+}
+
 bool Matches(const HelpEntry& entry, std::span<const std::string> words)
 {
     const std::string text = Folded(entry.tip + "\n" + entry.info);

@@ -30,6 +30,9 @@ HelpEntry HelpEntryOf(int id, std::string_view text);
 /// The number of a text: decimal digits alone, "999".
 std::optional<int> ParseHelpId(std::string_view word);
 
+/// Nothing but blanks and line breaks, or nothing at all.
+bool IsBlankWord(std::string_view word);
+
 /// Whether every word occurs in tip or info, whatever the case of ASCII letters; a line break counts as a blank.
 /// Several blanks in a word are as one.
 bool Matches(const HelpEntry& entry, std::span<const std::string> words);

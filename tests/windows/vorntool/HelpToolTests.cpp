@@ -66,6 +66,10 @@ TEST(HelpTool, WrongUseIsStatusTwo)
 {
     ExpectFailure({"help", "show", "x"}, 2, "vorntool help show: 'x' is no number of a help text");
     ExpectFailure({"help", "show"}, 2, "vorntool help show: ID is missing; see 'vorntool help show --help'");
+    ExpectFailure({"help", "search", "weight", " "}, 2, "vorntool help search: ' ' is no word to look for");
+    ExpectFailure({"help", "search", ""}, 2, "vorntool help search: '' is no word to look for");
+    ExpectFailure({"help", "show", std::string(8000, '9')}, 2,
+                  "vorntool help show: '" + std::string(260, '9') + "...' is no number of a help text");
     ExpectFailure({"help", "search"}, 2, "vorntool help search: WORDS is missing; see 'vorntool help search --help'");
     ExpectFailure({"help", "list", "all"}, 2,
                   "vorntool help list: 'all' is one argument too many; see 'vorntool help list --help'");
