@@ -156,9 +156,11 @@ Projection* WinProjectionLib::CreateProjection(int index)
 
 Projection* WinProjectionLib::CreateFromModule(int slot)
 {
-    if (slot >= m_moduleCount)
+    // A built-in projection comes here when there was no memory for it. Once a module was dropped there are fewer of
+    // them than names.
+    if (slot < 0 || slot >= m_moduleCount)
     {
-        return nullptr; // there are fewer modules than names once one was dropped
+        return nullptr;
     }
     HMODULE const module = m_modules[static_cast<std::size_t>(slot)];
     auto* const create = EntryOf<decltype(::CreateProjection)>(module, "CreateProjection");

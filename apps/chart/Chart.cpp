@@ -19,8 +19,8 @@ namespace
 
 constexpr const char* kRoute = "KSEA SEA ELN EPH GEG MLP KMSO";
 constexpr int kFirstProjection = PROJECTION_LAMBERT_CONFORMAL;
-constexpr double kParallels[] = {44, 52}; // for Lambert's projection: a sixth of the region from its edges
 constexpr int kMargin = 40;
+constexpr double kSomewhere[] = {45, 0}; // where every map can lie
 
 /// So many decimals of a stored view; the same view is stored alike again.
 constexpr int kScaleDigits = 6;
@@ -32,25 +32,40 @@ double Rounded(double value, int decimals)
     return std::round(value * factor) / factor;
 }
 
-std::unique_ptr<ProjectionPlane> PlaneOf(int number)
+/// Lambert's parallels lie a sixth of the region from its edges.
+std::vector<double> OwnParameters(int number)
+{
+    return number == PROJECTION_LAMBERT_CONFORMAL ? std::vector<double>{44, 52} : std::vector<double>();
+}
+
+/// Takes as many parameters as the projection has. False when it refuses one, or what they make together.
+bool SetParameters(Projection& projection, const std::vector<double>& parameters)
+{
+    const int count = std::min(static_cast<int>(parameters.size()), projection.NumParams());
+    for (int i = 0; i < count; ++i)
+    {
+        if (!projection.SetParamValue(i, parameters[static_cast<std::size_t>(i)]))
+            return false;
+    }
+    return count == 0 || projection.SetMapPole(kSomewhere[0], kSomewhere[1]);
+}
+
+std::unique_ptr<ProjectionPlane> PlaneOf(int number, const std::vector<double>& parameters)
 {
     if (ProjectionLib::mpInstance == nullptr)
         WinProjectionLib::Init(nullptr, 0);
     ProjectionLib* const projections = ProjectionLib::mpInstance;
     std::unique_ptr<Projection> projection(projections != nullptr ? projections->CreateProjection(number) : nullptr);
-    if (projection == nullptr)
+    if (projection == nullptr || !SetParameters(*projection, parameters))
         return nullptr;
-    if (number == PROJECTION_LAMBERT_CONFORMAL)
-    {
-        projection->SetParamValue(0, kParallels[0]);
-        projection->SetParamValue(1, kParallels[1]);
-    }
     return std::make_unique<ProjectionPlane>(std::move(projection));
 }
 
 } // namespace
 
-Chart::Chart() : m_plane(PlaneOf(kFirstProjection)), m_projection(kFirstProjection), m_view(*m_plane), m_terrain(false)
+Chart::Chart()
+    : m_plane(PlaneOf(kFirstProjection, OwnParameters(kFirstProjection))), m_projection(kFirstProjection),
+      m_view(*m_plane), m_terrain(false)
 {
     std::array<double, kBands> heights{};
     std::copy(std::begin(kBandHeights), std::end(kBandHeights), heights.begin());
@@ -92,7 +107,12 @@ void Chart::ShowRegion()
 
 bool Chart::SetProjection(int number)
 {
-    std::unique_ptr<ProjectionPlane> plane = PlaneOf(number);
+    return TakeMap(number, OwnParameters(number));
+}
+
+bool Chart::TakeMap(int number, const std::vector<double>& parameters)
+{
+    std::unique_ptr<ProjectionPlane> plane = PlaneOf(number, parameters);
     if (plane == nullptr)
         return false;
     m_view.SetPlane(*plane);
@@ -114,7 +134,7 @@ const char* Chart::ProjectionName() const
 
 bool Chart::Restore(const ViewDefinition& view)
 {
-    if (!SetProjection(view.mProjection))
+    if (!TakeMap(view.mProjection, view.mParams.empty() ? OwnParameters(view.mProjection) : view.mParams))
         return false;
     if (!(view.mScale > 0))
     {

@@ -36,8 +36,9 @@ public:
     int ProjectionNumber() const;
     const char* ProjectionName() const;
 
-    /// Takes projection, centre and scale of a stored view; a scale of 0 shows the whole region. False, and no change,
-    /// for a projection that there is not.
+    /// Takes projection, its parameters, centre and scale of a stored view; a scale of 0 shows the whole region. North
+    /// stays up whatever the view's skew. False, and no change, for a projection that there is not, or whose parameters
+    /// make no map.
     bool Restore(const ViewDefinition& view);
     void Store(ViewDefinition& view) const;
 
@@ -59,6 +60,7 @@ public:
     bool DrawInto(DIB& image);
 
 private:
+    bool TakeMap(int number, const std::vector<double>& parameters);
     void MakeScene(CDC& dc);
     void DrawTexts(CDC& dc, Quality quality);
     bool Compose(Quality quality);

@@ -7,6 +7,7 @@
 #include "apps/chart/Chart.h"
 
 #include <array>
+#include <cmath>
 #include <memory>
 
 namespace vorn::tool
@@ -107,14 +108,16 @@ Wish WishOf(const Invocation& call)
     if (call.Has("center"))
     {
         wish.centre = ParsePlace(call.ValueOf("center", ""));
-        if (!wish.centre)
-            wish.problem = "--center takes LATITUDE,LONGITUDE in degrees, for example 47.5,-122.3";
+        if (!wish.centre || std::abs(wish.centre->latitude) > chart::ChartView::kFarthestLatitude)
+            wish.problem = "--center takes LATITUDE,LONGITUDE in degrees, for example 47.5,-122.3, and no latitude "
+                           "beyond 85";
     }
     if (call.Has("scale"))
     {
         wish.scale = ParseScale(call.ValueOf("scale", ""));
-        if (!wish.scale)
-            wish.problem = "--scale takes the N of 1:N, for example 1000000";
+        if (!wish.scale || *wish.scale < chart::ChartView::kLargestScale ||
+            *wish.scale > chart::ChartView::kSmallestScale)
+            wish.problem = "--scale takes the N of 1:N, from 100000 to 60000000";
     }
     if (call.Has("view") && (call.Has("center") || call.Has("scale")))
         wish.problem = "--view says centre and scale itself";
@@ -178,7 +181,10 @@ ExitStatus RenderChart(const Command& self, const Invocation& call, Output& outp
     if (const std::string missing = chart.Load(folder); !missing.empty())
         return Fail(self, output, ExitStatus::Refused, "cannot open " + missing + " in " + Utf8FromLibrary(folder));
     if (!TurnTo(chart, wish))
-        return Fail(self, output, ExitStatus::Refused, "the view's projection is not here");
+        return Fail(self, output, ExitStatus::Refused,
+                    wish.view && ProjectionLib::mpInstance->ProjectionName(wish.view->mProjection) != nullptr
+                        ? "the view's parameters make no map"
+                        : "the view's projection is not here");
     DIB image;
     if (!chart.DrawInto(image))
         return Fail(self, output, ExitStatus::Refused, "there is no memory for the picture");
@@ -205,7 +211,7 @@ const CommandGroup& ChartCommands()
     static const Option options[] = {
         {"view", "TEXT", "show this view; projection, centre and scale stand in it"},
         {"center", "LAT,LON", "show the surroundings of a position, in degrees"},
-        {"scale", "N", "the scale 1:N at the centre, for a screen of 96 dots an inch"},
+        {"scale", "N", "the scale 1:N at the centre, for a screen of 96 dots an inch; N from 100000 to 60000000"},
         {"size", "WxH", "size of the picture in pixels; 1200x900 unless given"},
         {"projection", "NAME", "name of the projection or its beginning, or its number"},
         {"night", nullptr, "colours for the night"},

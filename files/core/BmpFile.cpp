@@ -12,6 +12,7 @@ namespace
 constexpr std::size_t kSizeOffset = 2;
 constexpr std::size_t kBitsOffset = 10;
 constexpr int kWritableDepth = 24;
+constexpr int kMasksSize = 12;
 
 DWORD DwordAt(const unsigned char* bytes)
 {
@@ -25,6 +26,14 @@ bool IsReadable(const BITMAPINFOHEADER& header)
     return header.biSize >= kBitmapHeaderSize && header.biWidth >= 1 && RowsOf(header) >= 1 &&
            IsSupportedDepth(header.biBitCount) &&
            BytesPerScan(static_cast<int>(header.biWidth), header.biBitCount) <= std::numeric_limits<int>::max();
+}
+
+// 32 bits have no table, but maybe masks in its place.
+std::uint64_t BehindTable(const BITMAPINFOHEADER& header)
+{
+    const bool hasMasks = header.biBitCount == 32 && header.biCompression == BI_BITFIELDS;
+    const std::int64_t between = hasMasks ? kMasksSize : TableBytes(header, DIB_RGB_COLORS);
+    return static_cast<std::uint64_t>(kBitmapHeaderSize + between);
 }
 
 // Compressed pixels have a size of their own.
@@ -62,8 +71,7 @@ PackedImage ImageOfBmpBlock(ImageBlock block, std::size_t bitsOffset)
     const BITMAPINFOHEADER header = HeaderOf(bytes);
     if (!IsReadable(header))
         return {};
-    const auto behindTable = static_cast<std::uint64_t>(kBitmapHeaderSize + TableBytes(header, DIB_RGB_COLORS));
-    const std::uint64_t bits = bitsOffset == 0 ? behindTable : bitsOffset;
+    const std::uint64_t bits = bitsOffset == 0 ? BehindTable(header) : bitsOffset;
     if (bits > bytes.size() || !AreRowsInside(header, bytes.size() - static_cast<std::size_t>(bits)))
         return {};
     return PackedImage(std::move(block), static_cast<std::size_t>(bits));

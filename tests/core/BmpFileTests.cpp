@@ -84,6 +84,21 @@ TEST(BmpFile, OffsetOfZeroMeansBehindTheTable)
     EXPECT_EQ(Decoded(parts).BitsOffset(), 1064u);
 }
 
+TEST(BmpFile, OffsetOfZeroMeansBehindTheMasks)
+{
+    BmpParts parts;
+    parts.depth = 32;
+    parts.compression = 3;
+    parts.offsetField = 0;
+    parts.behindHeader = LittleEndian(0xFF0000, 4) + LittleEndian(0x00FF00, 4) + LittleEndian(0x0000FF, 4);
+    parts.pixels = LittleEndian(0x00C86432, 4);
+    const PackedImage image = Decoded(parts);
+    EXPECT_EQ(image.BitsOffset(), 52u);
+    EXPECT_EQ(ColorAt(image.View(), 0, 0), (Rgb{200, 100, 50}));
+    parts.pixels.clear();
+    EXPECT_TRUE(Decoded(parts).IsEmpty()) << "the masks are no row";
+}
+
 TEST(BmpFile, KeepsGapsAndLongHeaders)
 {
     BmpParts parts = Four();
@@ -92,6 +107,18 @@ TEST(BmpFile, KeepsGapsAndLongHeaders)
     const PackedImage image = Decoded(parts);
     EXPECT_EQ(image.BitsOffset(), 40u + 73);
     EXPECT_EQ(ColorAt(image.View(), 0, 1), (Rgb{3, 2, 1}));
+}
+
+// The table is looked for behind 40 bytes: with a longer header the rest of it is taken for colours.
+TEST(BmpFile, TablesBehindLongHeadersAreNotFound)
+{
+    BmpParts parts = Indexed();
+    parts.headerSize = 108;
+    parts.behindHeader = std::string("\1\2\3\0\4\5\6\0\7\x8\x9\0", 12) + std::string(56, '\0') + parts.behindHeader;
+    const PackedImage image = Decoded(parts);
+    ASSERT_FALSE(image.IsEmpty());
+    EXPECT_EQ(PixelAt(image.View(), 0, 0), 2u);
+    EXPECT_EQ(ColorAt(image.View(), 0, 0), (Rgb{9, 8, 7}));
 }
 
 TEST(BmpFile, BytesBehindTheStatedSizeDoNotMatter)

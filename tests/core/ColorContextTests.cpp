@@ -104,6 +104,23 @@ TEST(ColorContext, TextCanBeReadOnEveryGround)
     }
 }
 
+// Charts write the names of radio aids, beacons and aerodromes in the colours of their symbols, on a halo.
+TEST(ColorContext, SymbolColoursServeForTextOnEveryGround)
+{
+    for (const int state : kStates)
+    {
+        const ColorContext context = In(state);
+        for (const AppColorsType ink : {APPCOLOR_AIRSPACE, APPCOLOR_ROUTE, APPCOLOR_AIRCRAFT, APPCOLOR_ACTIVELEG})
+        {
+            EXPECT_GE(Contrast(context.GetColor(ink), context.GetColor(APPCOLOR_TEXTHALO)), 4.5) << state << ' ' << ink;
+            for (const AppColorsType ground : kGrounds)
+            {
+                EXPECT_GE(Contrast(context.GetColor(ink), context.GetColor(ground)), 3.5) << state << ' ' << ink;
+            }
+        }
+    }
+}
+
 TEST(ColorContext, LinesAreSeenOnEveryGround)
 {
     constexpr AppColorsType kImportant[] = {APPCOLOR_ROUTE,   APPCOLOR_ACTIVELEG, APPCOLOR_AIRCRAFT, APPCOLOR_HIGHLIGHT,

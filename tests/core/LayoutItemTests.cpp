@@ -1,5 +1,7 @@
 #include "tests/support/GridText.h"
 #include "toolkit/textlayout/core/Root.h"
+#include "toolkit/textlayout/core/Split.h"
+#include "toolkit/textlayout/core/Table.h"
 
 #include <gtest/gtest.h>
 
@@ -306,6 +308,24 @@ TEST(LayoutItem, HandsItsFontHeightToChildrenWithoutOne)
     EXPECT_TRUE(top.CalcSize(nullptr, size, fontHeight));
     EXPECT_EQ(14, NumberIn(*without, "fontHeight"));
     EXPECT_EQ(20, NumberIn(*with, "fontHeight"));
+}
+
+TEST(LayoutItem, SplitsAndTablesHandTheirFontHeightDownToo)
+{
+    auto* left = new GridText("ab");
+    auto* right = new GridText("cd");
+    right->Set("fontHeight", 20);
+    auto* split = new TextLayout::Split("|50%", left, right);
+    split->Set("fontHeight", 14);
+    auto* upper = new GridText("ef");
+    auto* table = new TextLayout::Table(nullptr, upper, nullptr);
+    table->Set("fontHeight", 11);
+    Root root(400, 100, split);
+    root.Add(table);
+    EXPECT_TRUE(root.ComputeLayout(nullptr));
+    EXPECT_EQ(14, NumberIn(*left, "fontHeight")) << "the most that it may be, though there is room for more";
+    EXPECT_EQ(20, NumberIn(*right, "fontHeight"));
+    EXPECT_EQ(11, NumberIn(*upper, "fontHeight"));
 }
 
 TEST(LayoutItem, WithoutSpaceChildrenGetNone)

@@ -1,5 +1,6 @@
 #include "toolkit/textlayout/Text.h"
 
+#include "files/core/NoThrow.h"
 #include "toolkit/textlayout/DeviceTextMeasure.h"
 #include "toolkit/textlayout/core/FitTextItem.h"
 #include "toolkit/textlayout/core/LayoutNumber.h"
@@ -29,6 +30,37 @@ LOGFONT FontOf(const Item& node)
     node.Get("face", face, true);
     lstrcpyn(font.lfFaceName, face, LF_FACESIZE);
     return font;
+}
+
+bool MeasureText(const CDC& dc, const char* text, const CFont* font, int spacing, CSize& size)
+{
+    vorn::DeviceTextMeasure measure(dc, LOGFONT{});
+    if (!measure.UseFont(font != nullptr ? static_cast<HFONT>(*font) : nullptr))
+    {
+        return false;
+    }
+    const std::vector<std::string> lines = vorn::TextLines(text);
+    for (const std::string& line : lines)
+    {
+        size.cx = std::max<LONG>(size.cx, measure.LineWidth(line));
+    }
+    const auto count = static_cast<std::int64_t>(lines.size());
+    size.cy = vorn::ClampToInt(count * vorn::LineAdvance(measure.LineHeight(), spacing));
+    return true;
+}
+
+/// Changes a text by a function of the core; it stays when memory runs out.
+template <class Change>
+void ChangeText(CString& text, Change change)
+{
+    vorn::NoThrow(false,
+                  [&]
+                  {
+                      std::string changed(text, static_cast<std::size_t>(text.GetLength()));
+                      change(changed);
+                      text = changed.c_str();
+                      return true;
+                  });
 }
 } // namespace
 
@@ -65,8 +97,12 @@ bool Text::CalcSize(CDC* dc, CSize& size, int& fontHeight)
     {
         return false;
     }
-    vorn::DeviceTextMeasure measure(*dc, FontOf(*this));
-    return vorn::FitTextItem(*this, measure, size, fontHeight);
+    return vorn::NoThrow(false,
+                         [&]
+                         {
+                             vorn::DeviceTextMeasure measure(*dc, FontOf(*this));
+                             return vorn::FitTextItem(*this, measure, size, fontHeight);
+                         });
 }
 
 bool Text::ComputeSize(CDC* dc)
@@ -87,32 +123,24 @@ CFont* Text::CreateFont(int height) const
     {
         return nullptr;
     }
-    LOGFONT description = FontOf(*this);
-    description.lfHeight = height;
-    auto font = std::make_unique<CFont>();
-    return font->CreateFontIndirect(&description) ? font.release() : nullptr;
+    return vorn::NoThrow<CFont*>(nullptr,
+                                 [&]
+                                 {
+                                     LOGFONT description = FontOf(*this);
+                                     description.lfHeight = height;
+                                     auto font = std::make_unique<CFont>();
+                                     return font->CreateFontIndirect(&description) ? font.release() : nullptr;
+                                 });
 }
 
 bool Text::GetTextSize(CDC* dc, LPCSTR text, CFont* font, int spacing, CSize& size)
 {
     size = CSize(0, 0);
-    if (dc == nullptr)
-    {
-        return false;
-    }
-    vorn::DeviceTextMeasure measure(*dc, LOGFONT{});
-    if (!measure.UseFont(font != nullptr ? static_cast<HFONT>(*font) : nullptr))
-    {
-        return false;
-    }
-    const std::vector<std::string> lines = vorn::TextLines(text != nullptr ? text : "");
-    for (const std::string& line : lines)
-    {
-        size.cx = std::max<LONG>(size.cx, measure.LineWidth(line));
-    }
-    const auto count = static_cast<std::int64_t>(lines.size());
-    size.cy = vorn::ClampToInt(count * vorn::LineAdvance(measure.LineHeight(), spacing));
-    return true;
+    return dc != nullptr && vorn::NoThrow(false,
+                                          [&]
+                                          {
+                                              return MeasureText(*dc, text != nullptr ? text : "", font, spacing, size);
+                                          });
 }
 
 bool Text::IsSingleLine(const CString& text)
@@ -122,16 +150,16 @@ bool Text::IsSingleLine(const CString& text)
 
 void Text::ShortenLine(CString& line)
 {
-    std::string shortened(line, static_cast<std::size_t>(line.GetLength()));
-    vorn::ShortenLine(shortened);
-    line = shortened.c_str();
+    ChangeText(line, vorn::ShortenLine);
 }
 
 void Text::RemoveLine(CString& text, int hidden)
 {
-    std::string shorter(text, static_cast<std::size_t>(text.GetLength()));
-    vorn::RemoveLine(shorter, hidden);
-    text = shorter.c_str();
+    ChangeText(text,
+               [hidden](std::string& shorter)
+               {
+                   vorn::RemoveLine(shorter, hidden);
+               });
 }
 
 } // namespace TextLayout

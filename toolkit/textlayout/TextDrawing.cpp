@@ -1,3 +1,4 @@
+#include "files/core/NoThrow.h"
 #include "framework/include/afxwin.h"
 #include "toolkit/textlayout/Text.h"
 #include "toolkit/textlayout/core/LayoutNumber.h"
@@ -112,7 +113,12 @@ void Text::Draw(CDC* dc)
     dc->SelectObject(font.get());
     dc->SetBkMode(TRANSPARENT);
     dc->SetTextAlign(TA_LEFT | TA_TOP | TA_NOUPDATECP);
-    DrawShadowedText(*this, *dc, CPoint(x, y));
+    vorn::NoThrow(false,
+                  [&]
+                  {
+                      DrawShadowedText(*this, *dc, CPoint(x, y));
+                      return true;
+                  });
 }
 
 } // namespace TextLayout

@@ -2,6 +2,8 @@
 
 #include "family/VornChart/core/Ellipsoid.h"
 
+#include <new>
+
 namespace vorn::projections
 {
 namespace
@@ -18,7 +20,7 @@ EquidistantCylindrical::EquidistantCylindrical() : BuiltInProjection(kFacts)
 
 Projection* EquidistantCylindrical::Clone() const
 {
-    return new EquidistantCylindrical(*this); // the interface hands it to its caller
+    return new (std::nothrow) EquidistantCylindrical(*this); // the interface hands it to its caller
 }
 
 bool EquidistantCylindrical::Prepare()

@@ -3,6 +3,7 @@
 #include "family/VornChart/core/ModuleHold.h"
 
 #include <cmath>
+#include <new>
 #include <vornplugin.h>
 
 namespace
@@ -217,12 +218,14 @@ bool ExternalProj::XYtoLL(double x, double y, double& lat, double& lon) const
 
 Projection* ExternalProj::Clone() const
 {
-    const unsigned long handle = Ask<decltype(::Clone)>(m_entries[kClone], 0UL, m_handle);
+    // Memory first: without it the module is not asked for a copy that nobody could end.
+    std::unique_ptr<ExternalProj> clone(new (std::nothrow) ExternalProj(0));
+    const unsigned long handle = clone ? Ask<decltype(::Clone)>(m_entries[kClone], 0UL, m_handle) : 0UL;
     if (handle == 0)
     {
         return nullptr;
     }
-    auto clone = std::make_unique<ExternalProj>(handle);
+    clone->m_handle = handle;
     clone->m_entries = m_entries;
     clone->m_module = m_module;
     return clone.release();

@@ -1,6 +1,7 @@
 #include "family/VornChart/core/LambertConformal.h"
 
 #include <algorithm>
+#include <new>
 
 namespace vorn::projections
 {
@@ -23,7 +24,7 @@ LambertConformal::LambertConformal(double squaredEccentricity)
 
 Projection* LambertConformal::Clone() const
 {
-    return new LambertConformal(*this); // the interface hands it to its caller
+    return new (std::nothrow) LambertConformal(*this); // the interface hands it to its caller
 }
 
 /// The ratio of the differences of ln m and of the isometric latitude, arranged so that parallels may come close:

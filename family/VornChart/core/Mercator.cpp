@@ -1,5 +1,7 @@
 #include "family/VornChart/core/Mercator.h"
 
+#include <new>
+
 namespace vorn::projections
 {
 namespace
@@ -17,7 +19,7 @@ Mercator::Mercator(double squaredEccentricity) : BuiltInProjection(kFacts), m_el
 
 Projection* Mercator::Clone() const
 {
-    return new Mercator(*this); // the interface hands it to its caller
+    return new (std::nothrow) Mercator(*this); // the interface hands it to its caller
 }
 
 bool Mercator::Prepare()

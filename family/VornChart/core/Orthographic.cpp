@@ -2,6 +2,8 @@
 
 #include "family/VornChart/core/Ellipsoid.h"
 
+#include <new>
+
 namespace vorn::projections
 {
 namespace
@@ -19,7 +21,7 @@ Orthographic::Orthographic() : BuiltInProjection(kFacts)
 
 Projection* Orthographic::Clone() const
 {
-    return new Orthographic(*this); // the interface hands it to its caller
+    return new (std::nothrow) Orthographic(*this); // the interface hands it to its caller
 }
 
 bool Orthographic::Prepare()

@@ -1,5 +1,7 @@
 #include "family/VornChart/core/PolarStereographic.h"
 
+#include <new>
+
 namespace vorn::projections
 {
 namespace
@@ -26,7 +28,7 @@ PolarStereographic::PolarStereographic(double squaredEccentricity)
 
 Projection* PolarStereographic::Clone() const
 {
-    return new PolarStereographic(*this); // the interface hands it to its caller
+    return new (std::nothrow) PolarStereographic(*this); // the interface hands it to its caller
 }
 
 bool PolarStereographic::Prepare()

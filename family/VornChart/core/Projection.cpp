@@ -7,37 +7,38 @@
 #include "family/VornChart/core/PolarStereographic.h"
 #include "family/VornChart/core/TransverseMercator.h"
 
-#include <memory>
+#include <new>
 
 using namespace vorn::projections;
 
 namespace
 {
-std::unique_ptr<Projection> BuiltIn(int index)
+template <class Kind>
+Projection* New()
 {
-    switch (index)
-    {
-    case PROJECTION_EQUIDISTANT_CYLINDRICAL:
-        return std::make_unique<EquidistantCylindrical>();
-    case PROJECTION_MERCATOR:
-        return std::make_unique<Mercator>();
-    case PROJECTION_LAMBERT_CONFORMAL:
-        return std::make_unique<LambertConformal>();
-    case PROJECTION_POLAR_STEREOGRAPHIC:
-        return std::make_unique<PolarStereographic>();
-    case PROJECTION_TRANSVERSE_MERCATOR:
-        return std::make_unique<TransverseMercator>();
-    case PROJECTION_ORTHOGRAPHIC:
-        return std::make_unique<Orthographic>();
-    default:
-        return nullptr;
-    }
+    return new (std::nothrow) Kind; // the interface hands it to its caller
 }
 } // namespace
 
 Projection* Projection::CreateProjection(int index)
 {
-    return BuiltIn(index).release();
+    switch (index)
+    {
+    case PROJECTION_EQUIDISTANT_CYLINDRICAL:
+        return New<EquidistantCylindrical>();
+    case PROJECTION_MERCATOR:
+        return New<Mercator>();
+    case PROJECTION_LAMBERT_CONFORMAL:
+        return New<LambertConformal>();
+    case PROJECTION_POLAR_STEREOGRAPHIC:
+        return New<PolarStereographic>();
+    case PROJECTION_TRANSVERSE_MERCATOR:
+        return New<TransverseMercator>();
+    case PROJECTION_ORTHOGRAPHIC:
+        return New<Orthographic>();
+    default:
+        return nullptr;
+    }
 }
 
 Projection::~Projection() = default;

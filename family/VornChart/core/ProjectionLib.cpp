@@ -1,6 +1,7 @@
 #include "family/VornChart/core/ProjectionLib.h"
 
 #include <memory>
+#include <new>
 
 ProjectionLib* ProjectionLib::mpInstance = nullptr;
 
@@ -48,6 +49,10 @@ bool ProjectionLib::sInit(char**, int)
     for (int i = 0; i < PROJECTION_BUILT_IN_COUNT; ++i)
     {
         const std::unique_ptr<Projection> projection{Projection::CreateProjection(i)};
+        if (!projection)
+        {
+            throw std::bad_alloc();
+        }
         mProjections.push_back({projection->QueryProjectionName()});
     }
     mNumBuiltIn = PROJECTION_BUILT_IN_COUNT;

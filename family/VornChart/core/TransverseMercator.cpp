@@ -1,6 +1,7 @@
 #include "family/VornChart/core/TransverseMercator.h"
 
 #include <complex>
+#include <new>
 
 namespace vorn::projections
 {
@@ -140,7 +141,7 @@ TransverseMercator::TransverseMercator(double squaredEccentricity)
 
 Projection* TransverseMercator::Clone() const
 {
-    return new TransverseMercator(*this); // the interface hands it to its caller
+    return new (std::nothrow) TransverseMercator(*this); // the interface hands it to its caller
 }
 
 bool TransverseMercator::Prepare()

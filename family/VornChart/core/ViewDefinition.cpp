@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -62,14 +63,26 @@ private:
     std::string_view m_rest;
 };
 
-bool ReadParams(FieldReader& reader, std::vector<double>& params)
+bool Resize(std::vector<double>& numbers, int count)
 {
-    int count = 0;
-    if (!reader.Read(count) || count > ViewDefinition::kMaxParams)
+    try
+    {
+        numbers.resize(static_cast<std::size_t>(count));
+        return true;
+    }
+    catch (const std::bad_alloc&)
     {
         return false;
     }
-    params.assign(static_cast<std::size_t>(count), 0);
+}
+
+bool ReadParams(FieldReader& reader, std::vector<double>& params)
+{
+    int count = 0;
+    if (!reader.Read(count) || count > ViewDefinition::kMaxParams || !Resize(params, count))
+    {
+        return false;
+    }
     return std::all_of(params.begin(), params.end(),
                        [&reader](double& param)
                        {

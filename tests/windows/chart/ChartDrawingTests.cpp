@@ -200,6 +200,48 @@ TEST_F(ChartDrawing, WorksInEveryProjectionAtEveryScale)
     EXPECT_EQ(m_chart.ProjectionNumber(), PROJECTION_BUILT_IN_COUNT - 1);
 }
 
+TEST_F(ChartDrawing, TakesTheParametersOfAStoredView)
+{
+    const auto drawnFar = [this]
+    {
+        m_chart.View().SetScale(20'000'000);
+        return Drawn(Chart::Quality::Fast);
+    };
+    const std::string own = drawnFar();
+    ViewDefinition view;
+    m_chart.Store(view);
+    EXPECT_EQ(view.mParams, (std::vector<double>{44, 52}));
+    view.mParams = {20, 70, 1};
+    ASSERT_TRUE(m_chart.Restore(view));
+    EXPECT_FALSE(drawnFar() == own);
+    ViewDefinition stored;
+    m_chart.Store(stored);
+    EXPECT_EQ(stored.mParams, (std::vector<double>{20, 70}));
+    ASSERT_TRUE(m_chart.SetProjection(PROJECTION_LAMBERT_CONFORMAL));
+    m_chart.Store(stored);
+    EXPECT_EQ(stored.mParams, (std::vector<double>{44, 52})) << "a projection chosen anew has the chart's own";
+    view.mParams.clear();
+    ASSERT_TRUE(m_chart.Restore(view));
+    m_chart.Store(stored);
+    EXPECT_EQ(stored.mParams, (std::vector<double>{44, 52}));
+}
+
+TEST_F(ChartDrawing, KeepsItsMapWhenThatOfAViewCannotBe)
+{
+    const std::string before = Drawn(Chart::Quality::Fast);
+    ViewDefinition view;
+    m_chart.Store(view);
+    view.mScale *= 2;
+    for (const std::vector<double>& parameters : {std::vector<double>{100, 45}, std::vector<double>{45, -45}})
+    {
+        view.mParams = parameters;
+        EXPECT_FALSE(m_chart.Restore(view));
+    }
+    view.mProjection = PROJECTION_BUILT_IN_COUNT + 5;
+    EXPECT_FALSE(m_chart.Restore(view));
+    EXPECT_TRUE(Drawn(Chart::Quality::Fast) == before);
+}
+
 TEST_F(ChartDrawing, ComesBackFromAStoredView)
 {
     ViewDefinition view;

@@ -242,6 +242,19 @@ TEST(DibMake, PackedBitmapIsCopiedOutOfGlobalMemory)
     EXPECT_EQ(GlobalFlags(memory.Handle()) & GMEM_LOCKCOUNT, 0U) << "unlocked again";
 }
 
+TEST(DibMake, PackedBitmapOf32BitsHasItsRowsBehindTheMasks)
+{
+    const BITMAPINFOHEADER header{sizeof(BITMAPINFOHEADER), 2, 1, 1, 32, BI_BITFIELDS, 0, 0, 0, 0, 0};
+    std::vector<unsigned char> bytes(sizeof header);
+    std::memcpy(bytes.data(), &header, sizeof header);
+    bytes.insert(bytes.end(), {0, 0, 255, 0, 0, 255, 0, 0, 255, 0, 0, 0}); // masks of red, green and blue
+    bytes.insert(bytes.end(), {0, 0, 255, 0, 255, 0, 0, 0});               // a red and a blue pixel
+    const GlobalBytes memory(bytes);
+    const DIB image(memory.Handle());
+    EXPECT_EQ(Colors(image), "RB");
+    EXPECT_EQ(BitsOffset(image), 40 + 12);
+}
+
 TEST(DibMake, PackedBitmapThatIsCutOffGivesNone)
 {
     const std::vector<unsigned char> whole = PackedTwoEntries();

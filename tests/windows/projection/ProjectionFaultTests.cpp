@@ -81,6 +81,61 @@ TEST_F(ProjectionFaults, ProjectionsAreNotMade)
     EXPECT_NE(Make(kBuiltIn), nullptr) << "the module is still there";
 }
 
+TEST_F(ProjectionFaults, ClonesAreNotMadeAndLeaveNothingInTheModule)
+{
+    ASSERT_TRUE(StartWith({"first"}));
+    for (int number = 0; number <= kBuiltIn; ++number)
+    {
+        const auto projection = Make(number);
+        ASSERT_NE(projection, nullptr) << number;
+        const int living = Counter("first", "g_living");
+        AtEveryRequest(
+            [&]
+            {
+                return std::unique_ptr<Projection>(projection->Clone()) != nullptr;
+            },
+            [&](bool succeeded)
+            {
+                EXPECT_FALSE(succeeded) << number;
+                EXPECT_EQ(Counter("first", "g_living"), living) << number;
+            });
+        EXPECT_EQ(Counter("first", "g_living"), living) << "the last clone is ended too";
+    }
+}
+
+TEST_F(ProjectionFaults, TheChartLibrarysOwnProjectionsAreNullWithoutMemory)
+{
+    for (int number = 0; number < kBuiltIn; ++number)
+    {
+        AtEveryRequest(
+            [number]
+            {
+                return std::unique_ptr<Projection>(Projection::CreateProjection(number)) != nullptr;
+            },
+            [number](bool succeeded)
+            {
+                EXPECT_FALSE(succeeded) << number;
+            });
+    }
+}
+
+TEST_F(ProjectionFaults, AViewOfManyParametersIsRefused)
+{
+    ViewDefinition view;
+    const std::string before = view.Format().GetString();
+    AtEveryRequest(
+        [&]
+        {
+            return view.Parse("v1|2|2|33|45|1|2|3|4|5|6|7|8|9|");
+        },
+        [&](bool succeeded)
+        {
+            EXPECT_FALSE(succeeded);
+            EXPECT_EQ(view.Format().GetString(), before);
+        });
+    EXPECT_EQ(view.mParams, (std::vector<double>{33, 45}));
+}
+
 TEST_F(ProjectionFaults, AViewIsLoadedOrStaysAsItWas)
 {
     AppRegMgr* const settings = AppRegMgr::Instance();

@@ -109,6 +109,21 @@ TEST(TextDrawing, TheBackgroundIsExactlyTheBox)
     EXPECT_EQ(box.Width() * box.Height(), canvas.Count(kBlue));
 }
 
+TEST(TextDrawing, InheritsBackgroundAndShadow)
+{
+    Canvas canvas(kPicture.cx, kPicture.cy);
+    auto* text = new Text("HI", "Arial");
+    TextLayout::Root root(CSize(100, 40), text);
+    root.Set("bgcolor", static_cast<int>(kGreen));
+    root.Set("color", static_cast<int>(kRed));
+    root.Set("shadowOffset", 4);
+    ASSERT_TRUE(root.ComputeLayout(&canvas.dc));
+    root.Draw(&canvas.dc);
+    EXPECT_GT(canvas.Count(kGreen), 100);
+    EXPECT_GT(canvas.Count(kRed), 50);
+    EXPECT_GT(canvas.Count(RGB(0xC0, 0xC0, 0xC0)), 20) << "below a red text, which is a dark one";
+}
+
 TEST(TextDrawing, ABlackBackgroundIsOneToo)
 {
     Canvas canvas(kPicture.cx, kPicture.cy);

@@ -83,6 +83,12 @@ TEST_F(ChartTool, DrawsTheSameViewAgainFromItsText)
     }
 }
 
+TEST_F(ChartTool, KeepsTheParametersOfAView)
+{
+    const std::string view = Render("a.png", {"--size", "64x48", "--view", "v1|2|2|20|70|0|0|0|0|5000|180|0|47|-120|"});
+    EXPECT_TRUE(view.starts_with("v1|2|2|20|70|")) << view;
+}
+
 TEST_F(ChartTool, HasWaterAndLandAndAMagentaRoute)
 {
     Render("a.png", {"--center", "47.4,-122.6", "--scale", "1000000", "--size", "800x600"});
@@ -139,10 +145,17 @@ TEST_F(ChartTool, SaysWhatIsWrongWithTheCall)
     ExpectFailure({"chart", "render"}, 2, "vorntool chart render: --out FILE says where the picture goes");
     ExpectFailure({"chart", "render", "--out", out, "--size", "10x10"}, 2,
                   "vorntool chart render: --size takes WIDTHxHEIGHT in pixels, each from 16 to 8192");
-    ExpectFailure({"chart", "render", "--out", out, "--center", "47"}, 2,
-                  "vorntool chart render: --center takes LATITUDE,LONGITUDE in degrees, for example 47.5,-122.3");
-    ExpectFailure({"chart", "render", "--out", out, "--scale", "0"}, 2,
-                  "vorntool chart render: --scale takes the N of 1:N, for example 1000000");
+    for (const char* centre : {"47", "", "nan,0", "47,-122,3", "85.1,0", "47,181"})
+    {
+        ExpectFailure({"chart", "render", "--out", out, "--center", centre}, 2,
+                      "vorntool chart render: --center takes LATITUDE,LONGITUDE in degrees, for example 47.5,-122.3, "
+                      "and no latitude beyond 85");
+    }
+    for (const char* scale : {"0", "", "nan", "1e400", "99999", "60000001"})
+    {
+        ExpectFailure({"chart", "render", "--out", out, "--scale", scale}, 2,
+                      "vorntool chart render: --scale takes the N of 1:N, from 100000 to 60000000");
+    }
     ExpectFailure({"chart", "render", "--out", out, "--view", "v1|1|"}, 2,
                   "vorntool chart render: --view takes the text of a view, like \"v1|1|0|0|0|0|0|0|180|0|25|0|\"");
     ExpectFailure({"chart", "render", "--out", out, "--projection", "flat"}, 2,
@@ -161,4 +174,7 @@ TEST_F(ChartTool, RefusesWhatCannotBeDone)
                   "vorntool chart render: cannot write '" + nowhere + "'");
     ExpectFailure({"chart", "render", "--out", out, "--view", "v1|99|0|0|0|0|0|0|180|0|25|0|"}, 1,
                   "vorntool chart render: the view's projection is not here");
+    ExpectFailure({"chart", "render", "--out", out, "--view", "v1|2|2|45|-45|0|0|0|0|0|180|0|47|-120|"}, 1,
+                  "vorntool chart render: the view's parameters make no map");
+    EXPECT_EQ(m_folder.Read("x.png"), "");
 }

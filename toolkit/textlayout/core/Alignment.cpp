@@ -1,5 +1,6 @@
 #include "toolkit/textlayout/core/Alignment.h"
 
+#include "files/core/NoThrow.h"
 #include "toolkit/textlayout/core/AlignWords.h"
 #include "toolkit/textlayout/core/LayoutNumber.h"
 
@@ -25,16 +26,20 @@ bool Alignment::ComputeLayout(CDC* dc)
     {
         return false;
     }
-    for (const std::unique_ptr<Item>& child : GetChildren())
-    {
-        CSize size(0, 0);
-        if (!SizeOf(*child, dc, size))
-        {
-            return false;
-        }
-        Place(*child, size);
-    }
-    return true;
+    return vorn::NoThrow(false,
+                         [&]
+                         {
+                             for (const std::unique_ptr<Item>& child : GetChildren())
+                             {
+                                 CSize size(0, 0);
+                                 if (!SizeOf(*child, dc, size))
+                                 {
+                                     return false;
+                                 }
+                                 Place(*child, size);
+                             }
+                             return true;
+                         });
 }
 
 void Alignment::Place(Item& child, CSize size) const

@@ -1,5 +1,6 @@
 #include "toolkit/textlayout/core/Item.h"
 
+#include "files/core/NoThrow.h"
 #include "toolkit/textlayout/core/LayoutNumber.h"
 
 #include <algorithm>
@@ -100,20 +101,24 @@ const Item::Children& Item::GetChildren() const
 
 bool Item::LayChildren(const Lay& lay)
 {
-    CSize largest(0, 0);
-    for (const std::unique_ptr<Item>& child : m_children)
-    {
-        HandDown(*child);
-        CSize size(0, 0);
-        if (!lay(*child, size))
-        {
-            return false;
-        }
-        largest.cx = std::max(largest.cx, size.cx);
-        largest.cy = std::max(largest.cy, size.cy);
-    }
-    SetComputed(largest);
-    return true;
+    return vorn::NoThrow(false,
+                         [&]
+                         {
+                             CSize largest(0, 0);
+                             for (const std::unique_ptr<Item>& child : m_children)
+                             {
+                                 HandDown(*child);
+                                 CSize size(0, 0);
+                                 if (!lay(*child, size))
+                                 {
+                                     return false;
+                                 }
+                                 largest.cx = std::max(largest.cx, size.cx);
+                                 largest.cy = std::max(largest.cy, size.cy);
+                             }
+                             SetComputed(largest);
+                             return true;
+                         });
 }
 
 bool Item::Measure(Item& child, CDC* dc, CSize& size, int& smallest)

@@ -1,5 +1,6 @@
 #include "toolkit/textlayout/core/Split.h"
 
+#include "files/core/NoThrow.h"
 #include "toolkit/textlayout/core/LayoutNumber.h"
 #include "toolkit/textlayout/core/SplitShare.h"
 
@@ -71,42 +72,47 @@ bool Split::CalcSize(CDC* dc, CSize& size, int& fontHeight)
 
 bool Split::Divide(const Lay& lay)
 {
-    CString text;
-    Get("split", text);
-    const std::optional<vorn::SplitShare> share = vorn::ReadSplitShare(static_cast<LPCSTR>(text));
-    if (!share || GetChildren().size() != 2)
-    {
-        return false;
-    }
-    const Axis& along = share->sideBySide ? kAcross : kDown;
-    const Axis& across = share->sideBySide ? kDown : kAcross;
-    int extent = 0;
-    if (!GetSpace(along.size, along.space, extent))
-    {
-        return false;
-    }
+    return vorn::NoThrow(false,
+                         [&]
+                         {
+                             CString text;
+                             Get("split", text);
+                             const std::optional<vorn::SplitShare> share =
+                                 vorn::ReadSplitShare(static_cast<LPCSTR>(text));
+                             if (!share || GetChildren().size() != 2)
+                             {
+                                 return false;
+                             }
+                             const Axis& along = share->sideBySide ? kAcross : kDown;
+                             const Axis& across = share->sideBySide ? kDown : kAcross;
+                             int extent = 0;
+                             if (!GetSpace(along.size, along.space, extent))
+                             {
+                                 return false;
+                             }
 
-    CSize sizes[2];
-    const int firstPart = vorn::FirstPartOf(*share, extent);
-    int start = 0;
-    int space = firstPart;
-    for (int i = 0; i < 2; ++i)
-    {
-        Item& child = *GetChildren()[static_cast<std::size_t>(i)];
-        child.Set(along.place, start);
-        child.Set(along.space, space);
-        ImposeSpace(across.size, across.space, child);
-        HandDownFont(child);
-        if (!lay(child, sizes[i]))
-        {
-            return false;
-        }
-        start = firstPart;
-        child.Get(along.end, start);
-        space = vorn::SubtractClamped(extent, start);
-    }
-    SetComputed(Joined(sizes[0], sizes[1], share->sideBySide));
-    return true;
+                             CSize sizes[2];
+                             const int firstPart = vorn::FirstPartOf(*share, extent);
+                             int start = 0;
+                             int space = firstPart;
+                             for (int i = 0; i < 2; ++i)
+                             {
+                                 Item& child = *GetChildren()[static_cast<std::size_t>(i)];
+                                 child.Set(along.place, start);
+                                 child.Set(along.space, space);
+                                 ImposeSpace(across.size, across.space, child);
+                                 HandDownFont(child);
+                                 if (!lay(child, sizes[i]))
+                                 {
+                                     return false;
+                                 }
+                                 start = firstPart;
+                                 child.Get(along.end, start);
+                                 space = vorn::SubtractClamped(extent, start);
+                             }
+                             SetComputed(Joined(sizes[0], sizes[1], share->sideBySide));
+                             return true;
+                         });
 }
 
 } // namespace TextLayout

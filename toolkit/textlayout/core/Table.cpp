@@ -1,5 +1,6 @@
 #include "toolkit/textlayout/core/Table.h"
 
+#include "files/core/NoThrow.h"
 #include "toolkit/textlayout/core/LayoutNumber.h"
 
 #include <algorithm>
@@ -28,16 +29,17 @@ bool Table::ComputeSize(CDC* dc)
 
 bool Table::ComputeLayout(CDC* dc)
 {
-    const bool done = Stack(
-        [dc](Item& child, CSize& size)
-        {
-            return child.ComputeLayout(dc) && SizeOf(child, dc, size);
-        });
-    if (done)
-    {
-        StoreEnds();
-    }
-    return done;
+    return Stack(
+               [dc](Item& child, CSize& size)
+               {
+                   return child.ComputeLayout(dc) && SizeOf(child, dc, size);
+               }) &&
+           vorn::NoThrow(false,
+                         [this]
+                         {
+                             StoreEnds();
+                             return true;
+                         });
 }
 
 bool Table::CalcSize(CDC* dc, CSize& size, int& fontHeight)
@@ -55,31 +57,35 @@ bool Table::CalcSize(CDC* dc, CSize& size, int& fontHeight)
 
 bool Table::Stack(const Lay& lay)
 {
-    int space = 0;
-    const bool hasSpace = GetSpace("height", "maxHeight", space);
-    CSize total(0, 0);
-    int end = 0;
-    for (const std::unique_ptr<Item>& child : GetChildren())
-    {
-        const int start = end;
-        child->Set("y", start);
-        if (hasSpace)
-        {
-            child->Set("maxHeight", std::max(vorn::SubtractClamped(space, start), 0));
-        }
-        ImposeSpace("width", "maxWidth", *child);
-        HandDownFont(*child);
-        CSize size(0, 0);
-        if (!lay(*child, size))
-        {
-            return false;
-        }
-        end = vorn::AddClamped(start, size.cy);
-        child->Get("bottom", end);
-        total = CSize(std::max(total.cx, size.cx), vorn::AddClamped(total.cy, size.cy));
-    }
-    SetComputed(total);
-    return true;
+    return vorn::NoThrow(false,
+                         [&]
+                         {
+                             int space = 0;
+                             const bool hasSpace = GetSpace("height", "maxHeight", space);
+                             CSize total(0, 0);
+                             int end = 0;
+                             for (const std::unique_ptr<Item>& child : GetChildren())
+                             {
+                                 const int start = end;
+                                 child->Set("y", start);
+                                 if (hasSpace)
+                                 {
+                                     child->Set("maxHeight", std::max(vorn::SubtractClamped(space, start), 0));
+                                 }
+                                 ImposeSpace("width", "maxWidth", *child);
+                                 HandDownFont(*child);
+                                 CSize size(0, 0);
+                                 if (!lay(*child, size))
+                                 {
+                                     return false;
+                                 }
+                                 end = vorn::AddClamped(start, size.cy);
+                                 child->Get("bottom", end);
+                                 total = CSize(std::max(total.cx, size.cx), vorn::AddClamped(total.cy, size.cy));
+                             }
+                             SetComputed(total);
+                             return true;
+                         });
 }
 
 void Table::StoreEnds()

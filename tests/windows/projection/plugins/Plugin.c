@@ -74,6 +74,12 @@ void DestroyProjection(VornProjection projection)
     g_living -= projection == LIVE_HANDLE;
 }
 
+VornProjection Clone(VornProjection projection)
+{
+    ++g_living;
+    return projection;
+}
+
 int LLtoXY(VornProjection projection, double lat, double lon, double* x, double* y)
 {
     *x = lon + (double)projection;
