@@ -31,10 +31,10 @@ constexpr std::array kFieldTable = {
 constexpr std::size_t kOnBoard = 5;
 
 constexpr std::array kTips = {
-    Tip{IDC_FUEL_FLOW, 1254},      Tip{IDC_FUEL_TAXI, 1250},     Tip{IDC_FUEL_CONTINGENCY, 1263},
-    Tip{IDC_FUEL_RESERVE, 1253},   Tip{IDC_FUEL_ON_BOARD, 1257}, Tip{IDC_FUEL_FULL, 1258},
-    Tip{IDC_FUEL_ALTERNATE, 1602}, Tip{IDC_FUEL_SECOND, 1603},   Tip{IDC_FUEL_LIST, 1261},
-    Tip{IDC_FUEL_STATE, 1270},
+    Tip{IDC_FUEL_SPEED, 1190},       Tip{IDC_FUEL_FLOW, 1254},      Tip{IDC_FUEL_TAXI, 1250},
+    Tip{IDC_FUEL_CONTINGENCY, 1263}, Tip{IDC_FUEL_RESERVE, 1253},   Tip{IDC_FUEL_ON_BOARD, 1257},
+    Tip{IDC_FUEL_FULL, 1258},        Tip{IDC_FUEL_ALTERNATE, 1602}, Tip{IDC_FUEL_SECOND, 1603},
+    Tip{IDC_FUEL_LIST, 1261},        Tip{IDC_FUEL_STATE, 1270},
 };
 
 } // namespace

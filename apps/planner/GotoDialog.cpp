@@ -9,9 +9,8 @@ namespace
 {
 
 constexpr std::array kTips = {
-    Tip{IDC_GOTO_LATITUDE, 735},
-    Tip{IDC_GOTO_LONGITUDE, 736},
-    Tip{IDC_GOTO_PLACE, 739},
+    Tip{IDC_GOTO_BY_POSITION, 735}, Tip{IDC_GOTO_BY_PLACE, 739}, Tip{IDC_GOTO_LATITUDE, 735},
+    Tip{IDC_GOTO_LONGITUDE, 736},   Tip{IDC_GOTO_PLACE, 739},
 };
 
 } // namespace

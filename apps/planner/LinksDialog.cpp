@@ -15,10 +15,23 @@ constexpr std::array<const char*, 4> kAddresses = {
     "https://wmo.int/",
 };
 
+constexpr UINT kWebLink = 1759;
+constexpr std::array kTips = {
+    Tip{IDC_LINKS_FIRST, kWebLink},
+    Tip{IDC_LINKS_FIRST + 1, kWebLink},
+    Tip{IDC_LINKS_FIRST + 2, kWebLink},
+    Tip{IDC_LINKS_FIRST + 3, kWebLink},
+};
+
 } // namespace
 
 LinksDialog::LinksDialog(PlannerData& data, CWnd* parent) : PlannerDialog(IDD_LINKS, data, parent, "LinksDialog")
 {
+}
+
+std::span<const Tip> LinksDialog::Tips() const
+{
+    return kTips;
 }
 
 void LinksDialog::Fill()

@@ -17,6 +17,7 @@ protected:
     void Fill() override;
     void Arrange(Form& form) override;
     bool Take() override;
+    std::span<const Tip> Tips() const override;
 
 private:
     std::array<HyperLink, 4> m_links;

@@ -4,6 +4,7 @@
 #include "apps/sample/LeftOver.h"
 #include "apps/sample/MainFrame.h"
 #include "apps/sample/PageView.h"
+#include "apps/sample/SampleShots.h"
 #include "apps/sample/Snapshot.h"
 #include "apps/sample/StartupDialog.h"
 #include "apps/sample/core/ReportTable.h"
@@ -220,7 +221,11 @@ void SampleApp::TakeShots(const std::string& folder)
 {
     auto& frame = *static_cast<MainFrame*>(m_pMainWnd);
     vorn::planner::ShotRun run(frame, frame.Planner().Data(), folder);
-    const bool written = run.TakeAll();
+    const bool written = run.TakeAll(
+        [&frame](vorn::planner::ShotRun& more)
+        {
+            TakeSampleShots(frame, more);
+        });
     for (const std::string& fault : run.Faults())
         Print(STD_OUTPUT_HANDLE, fault + '\n');
     if (!written)

@@ -14,6 +14,7 @@
 #include "apps/planner/WeightDialog.h"
 #include "apps/planner/resource.h"
 #include "apps/planner/shots/Picture.h"
+#include "apps/planner/shots/TipFacts.h"
 #include "apps/planner/shots/WindowFacts.h"
 
 #include <array>
@@ -116,7 +117,7 @@ int ShotRun::Pictures() const
     return m_pictures;
 }
 
-bool ShotRun::TakeAll()
+bool ShotRun::TakeAll(const Scene& more)
 {
     g_run = this;
     SetCursorPos(GetSystemMetrics(SM_CXSCREEN), 0); // where nothing lights up below it
@@ -125,6 +126,8 @@ bool ShotRun::TakeAll()
     TakeFlightLog();
     TakeLegBar();
     TakeTips();
+    if (more)
+        more(*this);
     g_run = nullptr;
     return !m_failed && WriteContactSheet(m_folder);
 }
@@ -373,10 +376,14 @@ void ShotRun::Sizes(HWND window, const std::string& name)
 
 void ShotRun::Shot(const std::vector<HWND>& windows, const std::string& name, bool isChecked)
 {
+    for (const HWND window : windows)
+        PaintAll(window);
     const std::string full = m_prefix + name;
     if (isChecked)
     {
         for (const std::string& fault : FaultsOf(FactsOf(windows.front())))
+            m_faults.push_back(full + ": " + fault);
+        for (const std::string& fault : UnexplainedControls(windows.front()))
             m_faults.push_back(full + ": " + fault);
     }
     DIB picture;

@@ -17,26 +17,32 @@ public:
     /// @param folder where the pictures go; made when it is not there
     ShotRun(CWnd& frame, PlannerData& data, std::string folder);
 
+    using Look = std::function<void(HWND window)>;
+
+    /// Pictures of a program's own, taken after the planner's.
+    using Scene = std::function<void(ShotRun& run)>;
+
     /// False when a picture could not be written.
-    bool TakeAll();
+    bool TakeAll(const Scene& more = {});
+
+    /// Opens a window that stays until it is closed, and looks at it while it is open.
+    void Open(const std::function<void()>& open, const Look& look);
+    /// At its smallest, its first and a large size.
+    void Sizes(HWND window, const std::string& name);
+    /// As it is. The later windows lie on top.
+    void Shot(const std::vector<HWND>& windows, const std::string& name, bool isChecked);
 
     /// What was found wrong: a line for each, with the picture's name.
     const std::vector<std::string>& Faults() const;
     int Pictures() const;
 
 private:
-    using Look = std::function<void(HWND window)>;
-
     void TakeDialogs();
     void TakeSheets();
     void TakePages(HWND sheet, const std::vector<std::string>& names);
     void TakeFlightLog();
     void TakeLegBar();
     void TakeTips();
-    /// Opens a window that stays until it is closed, and looks at it while it is open.
-    void Open(const std::function<void()>& open, const Look& look);
-    void Sizes(HWND window, const std::string& name);
-    void Shot(const std::vector<HWND>& windows, const std::string& name, bool isChecked);
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR timer, DWORD);
 
     CWnd& m_frame;

@@ -94,6 +94,7 @@ void ColorPreview::OnPaint()
     CPaintDC dc(this);
     CRect area;
     GetClientRect(&area);
+    dc.FillSolidRect(area, GetSysColor(COLOR_3DFACE));
     for (std::size_t i = 0; i < m_colors.size(); ++i)
     {
         CRect swatch = Swatch(area, i);

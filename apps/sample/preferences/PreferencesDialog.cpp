@@ -179,10 +179,15 @@ bool PreferencesDialog::StoreAll()
     return true;
 }
 
-void PreferencesDialog::Refuse(const Category& category, const Fault& fault)
+void PreferencesDialog::ShowCategory(const Category& category)
 {
     GetOptionTree().SelectCategory(ItemOf(category));
-    OnSelectCategory(ItemOf(category)); // at once, not when the tree's message comes
+    OnSelectCategory(ItemOf(category)); // not only when the tree's message comes
+}
+
+void PreferencesDialog::Refuse(const Category& category, const Fault& fault)
+{
+    ShowCategory(category);
     m_refusal.Show(*this, fault.control, "Not possible", fault.why.c_str());
 }
 

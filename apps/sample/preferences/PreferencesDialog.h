@@ -19,6 +19,8 @@ public:
     BOOL OnInitDialog() override;
 
     const std::vector<std::unique_ptr<Category>>& Categories() const;
+    /// Selects a category and shows it at once.
+    void ShowCategory(const Category& category);
 
 protected:
     void OnSelectCategory(HTREEITEM item) override;

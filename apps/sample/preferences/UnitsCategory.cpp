@@ -85,7 +85,7 @@ void UnitsCategory::Arrange(Form& form, Form::Pane& area)
     for (std::size_t kind = 0; kind < UnitChoices().size(); ++kind)
         area << form.Field(LabelOf(kind), BoxOf(kind), 80);
     area << (form.Line() << form.Fixed(IDC_OPT_METRIC) << form.Fixed(IDC_OPT_STANDARD))
-         << form.Wide(IDC_OPT_UNIT_EXAMPLE, 120);
+         << form.Whole(IDC_OPT_UNIT_EXAMPLE);
 }
 
 bool UnitsCategory::Store()

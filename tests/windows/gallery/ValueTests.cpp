@@ -141,7 +141,7 @@ TEST_F(GalleryValues, TheRouteIsEditedInItsList)
 TEST_F(GalleryValues, EveryTipHasAControlAndAText)
 {
     const std::array<std::pair<const char*, int>, 6> tips = {
-        {{"Route", 18}, {"Weight", 15}, {"Fuel", 10}, {"Print", 13}, {"Goto", 3}, {"Links", 0}}};
+        {{"Route", 20}, {"Weight", 17}, {"Fuel", 11}, {"Print", 14}, {"Goto", 5}, {"Links", 4}}};
     for (const auto& [name, count] : tips)
     {
         std::unique_ptr<planner::PlannerDialog> dialog = Open(GalleryDialogNamed(name));

@@ -1,3 +1,4 @@
+#include "apps/planner/shots/TipFacts.h"
 #include "apps/planner/shots/WindowFacts.h"
 #include "tests/support/PumpUntil.h"
 #include "tests/windows/preferences/PreferencesTest.h"
@@ -184,17 +185,14 @@ TEST_F(Preferences, HaveTheTabOrderOfReading)
 TEST_F(Preferences, ExplainEveryControl)
 {
     Open();
-    const ToolTipCtrlEx& tips = Dialog().GetToolTipCtrl();
-    for (HWND child = GetWindow(Dialog(), GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+    for (const std::unique_ptr<Category>& category : Dialog().Categories())
     {
-        const auto id = static_cast<UINT>(GetDlgCtrlID(child));
-        const bool isButtonBelow = id == IDOK || id == IDCANCEL || id == IDC_OPT_APPLY;
-        if ((GetWindowLong(child, GWL_STYLE) & WS_TABSTOP) == 0 || isButtonBelow)
-            continue;
-        CString text;
-        tips.GetText(text, CWnd::FromHandle(child), id);
-        EXPECT_FALSE(text.IsEmpty()) << id;
+        Choose(category->Path());
+        EXPECT_EQ(planner::UnexplainedControls(Dialog()), std::vector<std::string>()) << category->Path();
     }
+    Dialog().GetToolTipCtrl().DelTool(Dialog().GetDlgItem(IDC_OPT_PROXIES), IDC_OPT_PROXIES);
+    EXPECT_EQ(planner::UnexplainedControls(Dialog()),
+              std::vector<std::string>{"control 3602 \"&Proxies...\" has no tip"});
 }
 
 TEST_F(Preferences, StoreNothingWhenNothingWasChanged)
@@ -284,7 +282,7 @@ TEST_F(Preferences, LeaveNoHandleBehind)
     Close();
     PumpWaiting();
     const DWORD before = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 5; ++i)
     {
         Open();
         Choose("Chart|Night");
