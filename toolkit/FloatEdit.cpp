@@ -33,6 +33,13 @@ int TakeSelectionOut(const CEdit& edit, CString& text)
     text.Delete(start, end - start);
     return start;
 }
+
+/// Selects what of a longer text's selection lies in the number that stands alone now: all, if all was selected.
+void SelectNumber(CEdit& edit, int start, int end)
+{
+    const int length = edit.GetWindowTextLength();
+    edit.SetSel(std::clamp(start, 0, length), std::clamp(end, 0, length));
+}
 } // namespace
 
 FloatEdit::FloatEdit() = default;
@@ -94,7 +101,11 @@ double FloatEdit::RoundToDecimal(double value, short decimals)
 void FloatEdit::PreSubclassWindow()
 {
     CEdit::PreSubclassWindow();
-    Show();
+    m_editing = ::GetFocus() == m_hWnd; // a dialog that is shown early gives the focus before it takes controls over
+    if (m_hasValue)
+    {
+        SetNumericText(m_editing);
+    }
 }
 
 void FloatEdit::OnChar(UINT, UINT, UINT)
@@ -129,8 +140,12 @@ BOOL FloatEdit::OnSetfocus()
 {
     if (!m_asking)
     {
+        int start = 0;
+        int end = 0;
+        GetSel(start, end);
         SetNumericText(true);
         m_editing = true;
+        SelectNumber(*this, start - m_prefix.GetLength(), end - m_prefix.GetLength());
     }
     return FALSE; // for the parent, too
 }

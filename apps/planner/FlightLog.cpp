@@ -1,10 +1,13 @@
 #include "apps/planner/FlightLog.h"
 
 #include "apps/planner/Form.h"
+#include "apps/planner/HostIcon.h"
 #include "apps/planner/resource.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace vorn::planner
 {
@@ -12,8 +15,8 @@ namespace vorn::planner
 namespace
 {
 
-constexpr const char* kPlacement = "WindowPlacement";
-constexpr const char* kSection = "FlightLog";
+constexpr const char* kPlacements = "WindowPlacement"; // a section of the settings
+constexpr const char* kPlacement = "FlightLog";
 const CRect kFirstPlace(120, 90, 760, 560);
 
 struct Column
@@ -127,8 +130,16 @@ void FlightLogView::SizeColumns()
         return;
     CRect client;
     m_legs.GetClientRect(&client);
+    int left = client.Width();
     for (int i = 0; i < static_cast<int>(kColumns.size()); ++i)
-        m_legs.SetColumnWidth(i, client.Width() * kColumns[static_cast<std::size_t>(i)].share / 100);
+    {
+        const bool isLast = i + 1 == static_cast<int>(kColumns.size());
+        const int share = client.Width() * kColumns[static_cast<std::size_t>(i)].share / 100;
+        const int width = isLast ? left : share;
+        if (m_legs.GetColumnWidth(i) != width) // setting one paints the list, also when it is the present one
+            m_legs.SetColumnWidth(i, width);
+        left -= width;
+    }
 }
 
 void FlightLogView::OnSize(UINT type, int cx, int cy)
@@ -162,7 +173,7 @@ void FlightLogView::OnNotesLeft()
 
 BEGIN_MESSAGE_MAP(FlightLogFrame, CFrameWnd)
 ON_WM_GETMINMAXINFO()
-ON_WM_CLOSE()
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 FlightLogFrame::FlightLogFrame(PlannerData& data) : m_data(data)
@@ -173,10 +184,15 @@ bool FlightLogFrame::Open(CWnd& owner)
 {
     if (!Create(nullptr, "Flight log", WS_OVERLAPPEDWINDOW, kFirstPlace, &owner))
         return false;
+    ShowHostIcon(*this);
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
-    if (ReadWindowPlacement(kPlacement, kSection, &placement))
+    if (ReadWindowPlacement(kPlacements, kPlacement, &placement))
+    {
+        if (placement.showCmd == SW_SHOWMINIMIZED)
+            placement.showCmd = SW_SHOWNORMAL;
         SetWindowPlacement(&placement);
+    }
     InitialUpdateFrame(nullptr, TRUE);
     return true;
 }
@@ -210,13 +226,13 @@ void FlightLogFrame::OnGetMinMaxInfo(MINMAXINFO* info)
     info->ptMinTrackSize.y = std::max<LONG>(info->ptMinTrackSize.y, inner.Height());
 }
 
-void FlightLogFrame::OnClose()
+void FlightLogFrame::OnDestroy()
 {
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     if (GetWindowPlacement(&placement))
-        WriteWindowPlacement(kPlacement, kSection, &placement);
-    CFrameWnd::OnClose();
+        WriteWindowPlacement(kPlacements, kPlacement, &placement);
+    CFrameWnd::OnDestroy();
 }
 
 } // namespace vorn::planner

@@ -51,7 +51,7 @@ public:
 protected:
     BOOL OnCreateClient(LPCREATESTRUCT create, CCreateContext* context) override;
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
-    afx_msg void OnClose();
+    afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -2,6 +2,8 @@
 
 #include "apps/planner/resource.h"
 
+#include <algorithm>
+
 namespace vorn::planner
 {
 
@@ -12,6 +14,13 @@ constexpr std::array kTips = {
     Tip{IDC_GOTO_BY_POSITION, 735}, Tip{IDC_GOTO_BY_PLACE, 739}, Tip{IDC_GOTO_LATITUDE, 735},
     Tip{IDC_GOTO_LONGITUDE, 736},   Tip{IDC_GOTO_PLACE, 739},
 };
+
+/// A text within which no line ends: with the blank of code page 1252 that holds together.
+std::string Unbroken(std::string text)
+{
+    std::replace(text.begin(), text.end(), ' ', '\xA0');
+    return text;
+}
 
 } // namespace
 
@@ -92,12 +101,14 @@ bool GotoDialog::ByPosition()
     double lon = 0;
     if (!ParseCoordinate(TextAt(IDC_GOTO_LATITUDE).GetString(), true, lat))
     {
-        Refuse(IDC_GOTO_LATITUDE, "A latitude is written like N 47 26.9, 47 26 56 S or -47.449.");
+        Refuse(IDC_GOTO_LATITUDE,
+               "A latitude is written like " + Unbroken("N 47 26.9") + ", " + Unbroken("47 26 56 S") + " or -47.449.");
         return false;
     }
     if (!ParseCoordinate(TextAt(IDC_GOTO_LONGITUDE).GetString(), false, lon))
     {
-        Refuse(IDC_GOTO_LONGITUDE, "A longitude is written like W 122 18.6, 122 18 33 E or -122.309.");
+        Refuse(IDC_GOTO_LONGITUDE, "A longitude is written like " + Unbroken("W 122 18.6") + ", " +
+                                       Unbroken("122 18 33 E") + " or -122.309.");
         return false;
     }
     if (m_data.showOnChart)
@@ -119,9 +130,9 @@ bool GotoDialog::ByPlace()
     return true;
 }
 
-void GotoDialog::Refuse(UINT id, const char* why)
+void GotoDialog::Refuse(UINT id, const std::string& why)
 {
-    m_refusal.Show(*this, id, "Not understood", why);
+    m_refusal.Show(*this, id, "Not understood", why.c_str());
 }
 
 } // namespace vorn::planner

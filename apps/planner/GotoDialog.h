@@ -26,7 +26,7 @@ protected:
 private:
     bool ByPosition();
     bool ByPlace();
-    void Refuse(UINT id, const char* why);
+    void Refuse(UINT id, const std::string& why);
 
     HotEdit m_latitude;
     HotEdit m_longitude;

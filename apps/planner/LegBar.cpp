@@ -46,6 +46,7 @@ BOOL LegBar::OnInitDialog()
     CPane root = CreateRoot(Vertical, form.Y(4));
     root << form.Large(IDC_LEGS_LIST, 90, 40)
          << (form.Line() << form.Fixed(IDC_LEGS_SHOW) << form.Fixed(IDC_LEGS_ROUTE) << itemSpace(Horizontal));
+    UpdateLayout(false); // in a dock the bar may keep the size that it has
     Refresh();
     return TRUE;
 }

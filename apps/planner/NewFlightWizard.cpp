@@ -160,4 +160,17 @@ bool NewFlightWizard::Run()
     return true;
 }
 
+/// The row of tabs is hidden but has its height above the pages: it is taken away.
+BOOL NewFlightWizard::OnInitDialog()
+{
+    const BOOL result = LayoutPropertySheet::OnInitDialog();
+    if (CTabCtrl* const tabs = GetTabControl())
+    {
+        tabs->SetItemSize(CSize(0, 1));
+        const CRect client = GetRect();
+        Resize(client.Width(), client.Height());
+    }
+    return result;
+}
+
 } // namespace vorn::planner

@@ -65,6 +65,7 @@ public:
 
     /// Runs the wizard. True when the plan was taken over.
     bool Run();
+    BOOL OnInitDialog() override;
 
 private:
     PlannerData& m_data;

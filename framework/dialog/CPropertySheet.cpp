@@ -47,6 +47,39 @@ bool IsPageKey(const MSG& message)
         return false;
     return message.wParam == VK_TAB || message.wParam == VK_PRIOR || message.wParam == VK_NEXT;
 }
+
+/// Whether a key that ends dialogs goes to a field of several lines that has no use for it. Such fields take all keys
+/// and hand these on to their parent, which is only a page.
+bool IsEndingKeyOfField(const MSG& message)
+{
+    const bool isEscape = message.wParam == VK_ESCAPE;
+    if (message.message != WM_KEYDOWN || (!isEscape && message.wParam != VK_RETURN))
+        return false;
+    char name[8] = {};
+    ::GetClassNameA(message.hwnd, name, sizeof name);
+    const auto style = static_cast<DWORD>(::GetWindowLongA(message.hwnd, GWL_STYLE));
+    return ::lstrcmpiA(name, "Edit") == 0 && (style & ES_MULTILINE) != 0 && (isEscape || (style & ES_WANTRETURN) == 0);
+}
+
+/// What a dialog does with a key that ends it.
+void PressEndingButton(HWND sheet, WPARAM key)
+{
+    const LRESULT byDefault = ::SendMessageA(sheet, DM_GETDEFID, 0, 0);
+    const int chosen = HIWORD(byDefault) == DC_HASDEFID ? LOWORD(byDefault) : IDOK;
+    const int id = key == VK_ESCAPE ? IDCANCEL : chosen;
+    const HWND button = ::GetDlgItem(sheet, id);
+    ::SendMessageA(sheet, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+}
+
+/// A button that was pressed and is disabled by that would keep the keyboard from all others.
+void MoveFocusOn(HWND sheet, HWND pressed)
+{
+    const bool isStuck = pressed && ::IsChild(sheet, pressed) && !::IsWindowEnabled(pressed);
+    const HWND focus = ::GetFocus();
+    if (isStuck && (!focus || focus == pressed) && ::GetActiveWindow() == sheet)
+        ::SendMessageA(sheet, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(::GetNextDlgTabItem(sheet, pressed, FALSE)),
+                       TRUE);
+}
 } // namespace
 
 CPropertySheet::CPropertySheet()
@@ -183,7 +216,9 @@ void CPropertySheet::OnClose()
 LRESULT CPropertySheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const HWND window = m_hWnd;
+    const HWND pressed = message == WM_COMMAND ? ::GetFocus() : nullptr;
     const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+    MoveFocusOn(window, pressed);
     vorn::EndPageCreation();
     // The sheet runs without the system's own loop: that it is to end shows in its having no page any more.
     const int command = EndingCommand(message, wParam);
@@ -207,7 +242,12 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* message)
         return TRUE;
     if (IsPageKey(*message) && SendMessage(PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(message)))
         return TRUE;
-    return !IsIdleEscape(*message) && PreTranslateInput(message);
+    if (IsIdleEscape(*message))
+        return FALSE;
+    if (!IsEndingKeyOfField(*message))
+        return PreTranslateInput(message);
+    PressEndingButton(m_hWnd, message->wParam);
+    return TRUE;
 }
 
 BOOL CPropertySheet::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)

@@ -234,6 +234,10 @@ void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
         {
             continue; // the control updates itself
         }
+        if (CCmdTarget::OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr))
+        {
+            continue; // this window, a bar for instance, knows its controls better than the target does
+        }
         state.DoUpdate(pTarget, bDisableIfNoHndler && MayBeDisabled(child));
     }
 }

@@ -50,4 +50,8 @@ TEST(TipWidth, IsUnlimitedForTipsAndNeverForBoxes)
     EXPECT_EQ(120, TipWrapWidth(120, false));
     EXPECT_EQ(120, TipWrapWidth(120, true));
     EXPECT_EQ(0, TipWrapWidth(-5, false));
+    EXPECT_EQ(300, TipWrapWidth(0, true, 299));
+    EXPECT_EQ(340, TipWrapWidth(0, true, 340)) << "a box is as wide as its title";
+    EXPECT_EQ(120, TipWrapWidth(120, true, 340));
+    EXPECT_EQ(0, TipWrapWidth(0, false, 340));
 }

@@ -169,7 +169,8 @@ CFont& ToolTipCtrlEx::FontFor(bool bold)
 
 int ToolTipCtrlEx::WrapWidth() const
 {
-    return vorn::TipWrapWidth(m_maxWidth, m_state.Now() == vorn::TipState::Phase::InfoBox);
+    const bool isBox = m_state.Now() == vorn::TipState::Phase::InfoBox;
+    return vorn::TipWrapWidth(m_maxWidth, isBox, m_tipPlace.Width());
 }
 
 CSize ToolTipCtrlEx::TextSize(const CString& text, bool bold)
@@ -180,8 +181,9 @@ CSize ToolTipCtrlEx::TextSize(const CString& text, bool bold)
     }
     CClientDC dc(nullptr);
     CFont* const former = dc.SelectObject(&FontFor(bold));
-    CRect area(0, 0, WrapWidth(), 0);
-    dc.DrawText(text, &area, DrawingFlags(WrapWidth()) | DT_CALCRECT);
+    const int width = bold ? m_maxWidth : WrapWidth(); // a box's title has the lines that it had as a tip
+    CRect area(0, 0, width, 0);
+    dc.DrawText(text, &area, DrawingFlags(width) | DT_CALCRECT);
     dc.SelectObject(former);
     return area.Size();
 }
@@ -234,12 +236,13 @@ void ToolTipCtrlEx::PaintTip(CDC& dc, const CRect& area)
 /// Wraps where the text was wrapped when it was measured, also beyond a word that sticks out.
 void ToolTipCtrlEx::DrawPiece(CDC& dc, const CString& text, bool bold, const CRect& place)
 {
+    const int width = bold ? m_maxWidth : WrapWidth();
     CRect area = place;
-    if (WrapWidth() > 0)
+    if (width > 0)
     {
-        area.right = area.left + WrapWidth();
+        area.right = area.left + width;
     }
     CFont* const former = dc.SelectObject(&FontFor(bold));
-    dc.DrawText(text, &area, DrawingFlags(WrapWidth()) | DT_NOCLIP);
+    dc.DrawText(text, &area, DrawingFlags(width) | DT_NOCLIP);
     dc.SelectObject(former);
 }

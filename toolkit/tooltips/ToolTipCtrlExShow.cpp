@@ -68,8 +68,9 @@ void ToolTipCtrlEx::OpenInfoBox()
         return;
     }
     Follow(before);
-    const vorn::InfoBoxPlaces places = vorn::StackInfoBox(TextSize(m_tip, true), TextSize(m_info, false), m_margins);
-    m_tipPlace = places.title;
+    const CSize title = TextSize(m_tip, true);
+    m_tipPlace = CRect(m_margins.TopLeft(), title); // first: the text below it may be as wide
+    const vorn::InfoBoxPlaces places = vorn::StackInfoBox(title, TextSize(m_info, false), m_margins);
     m_infoPlace = places.text;
     CRect bounds(CPoint(0, 0), places.size);
     if (PlaceBox(CurrentTool(), bounds))

@@ -3,6 +3,7 @@
 #include "apps/planner/FlightLog.h"
 #include "apps/planner/FuelDialog.h"
 #include "apps/planner/GotoDialog.h"
+#include "apps/planner/HostIcon.h"
 #include "apps/planner/LegBar.h"
 #include "apps/planner/LinksDialog.h"
 #include "apps/planner/NewFlightWizard.h"
@@ -252,6 +253,7 @@ void ShotRun::TakeLegBar()
         m_failed = true;
         return;
     }
+    ShowHostIcon(*frame);
     frame->EnableDocking(CBRS_ALIGN_ANY);
     LegBar bar(m_data);
     if (bar.Open(*frame, ID_PLANNER_LEG_BAR))

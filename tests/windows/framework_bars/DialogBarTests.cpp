@@ -14,8 +14,16 @@ public:
     int initialised = 0;
     CString name;
     bool hadControls = false;
+    bool answersForNobody = false;
 
 protected:
+    afx_msg void OnUpdateNobody(CCmdUI* item)
+    {
+        if (answersForNobody)
+            item->Enable();
+        else
+            item->ContinueRouting();
+    }
     void DoDataExchange(CDataExchange* exchange) override
     {
         CDialogBar::DoDataExchange(exchange);
@@ -33,6 +41,7 @@ protected:
 
 BEGIN_MESSAGE_MAP(PlanBar, CDialogBar)
 ON_MESSAGE(WM_INITDIALOG, &PlanBar::OnInit)
+ON_UPDATE_COMMAND_UI(ID_TEST_NOBODY, OnUpdateNobody)
 END_MESSAGE_MAP()
 
 class DialogBars : public BarsTest
@@ -160,6 +169,17 @@ TEST_F(DialogBars, ButtonsWithoutHandlerAreDisabledAtIdleTime)
     EXPECT_TRUE(bar.GetDlgItem(ID_TEST_GO)->IsWindowEnabled());
     EXPECT_FALSE(bar.GetDlgItem(ID_TEST_NOBODY)->IsWindowEnabled());
     EXPECT_TRUE(bar.GetDlgItem(ID_TEST_NAME)->IsWindowEnabled()) << "fields keep their state";
+}
+
+TEST_F(DialogBars, AnswerForTheirControlsBeforeTheFrameIsAsked)
+{
+    frame->DockControlBar(&bar, AFX_IDW_DOCKBAR_TOP);
+    bar.answersForNobody = true;
+    AfxGetApp()->OnIdle(0);
+    EXPECT_TRUE(bar.GetDlgItem(ID_TEST_NOBODY)->IsWindowEnabled());
+    bar.answersForNobody = false;
+    AfxGetApp()->OnIdle(0);
+    EXPECT_FALSE(bar.GetDlgItem(ID_TEST_NOBODY)->IsWindowEnabled());
 }
 
 TEST_F(DialogBars, TabMovesAmongTheControls)

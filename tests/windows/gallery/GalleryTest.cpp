@@ -1,8 +1,11 @@
 #include "tests/windows/gallery/GalleryTest.h"
 
+#include "apps/planner/FlightLog.h"
 #include "apps/planner/FuelDialog.h"
 #include "apps/planner/GotoDialog.h"
 #include "apps/planner/LinksDialog.h"
+#include "apps/planner/NewFlightWizard.h"
+#include "apps/planner/PreferencesSheet.h"
 #include "apps/planner/PrintDialog.h"
 #include "apps/planner/RouteDialog.h"
 #include "apps/planner/WeightDialog.h"
@@ -13,7 +16,6 @@
 #include <algorithm>
 
 using vorn::planner::PlannerData;
-using vorn::planner::PlannerDialog;
 
 namespace vorn::test
 {
@@ -32,42 +34,169 @@ public:
 
 HostApp g_app;
 
-template <class Dialog>
-std::unique_ptr<PlannerDialog> Make(PlannerData& data)
+template <class Dialog, UINT id>
+class OpenDialog : public OpenWindow
 {
-    return std::make_unique<Dialog>(data, nullptr);
+public:
+    explicit OpenDialog(PlannerData& data) : m_dialog(data, nullptr)
+    {
+        m_dialog.Create(id, nullptr);
+    }
+    ~OpenDialog() override
+    {
+        m_dialog.DestroyWindow();
+    }
+    CWnd& Window() override
+    {
+        return m_dialog;
+    }
+
+private:
+    Dialog m_dialog;
+};
+
+/// With the buttons that it has in its loop.
+template <class Sheet>
+class OpenSheet : public OpenWindow
+{
+public:
+    template <class... Arguments>
+    explicit OpenSheet(Arguments&&... arguments) : m_sheet(std::forward<Arguments>(arguments)...)
+    {
+        m_sheet.ModelessWithButtons(true);
+        m_sheet.Create();
+    }
+    ~OpenSheet() override
+    {
+        m_sheet.DestroyWindow();
+    }
+    CWnd& Window() override
+    {
+        return m_sheet;
+    }
+    int Pages() const override
+    {
+        return m_sheet.GetPageCount();
+    }
+    void ShowPage(int page) override
+    {
+        m_sheet.SendMessage(PSM_SETCURSEL, static_cast<WPARAM>(page));
+    }
+
+private:
+    Sheet m_sheet;
+};
+
+class OpenLog : public OpenWindow
+{
+public:
+    explicit OpenLog(PlannerData& data) : m_log(new planner::FlightLogFrame(data)) // deletes itself with its window
+    {
+        m_owner.CreateEx(0, "STATIC", "", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
+        m_log->Open(m_owner);
+    }
+    ~OpenLog() override
+    {
+        m_log->SendMessage(WM_CLOSE);
+        m_owner.DestroyWindow();
+    }
+    CWnd& Window() override
+    {
+        return *m_log;
+    }
+    HWND ControlsOwner() override
+    {
+        return m_log->View();
+    }
+
+private:
+    CWnd m_owner;
+    planner::FlightLogFrame* m_log;
+};
+
+template <class Opened>
+std::unique_ptr<OpenWindow> Make(PlannerData& data)
+{
+    return std::make_unique<Opened>(data);
+}
+
+std::unique_ptr<OpenWindow> MakePreferences(PlannerData&)
+{
+    return std::make_unique<OpenSheet<planner::PreferencesSheet>>(nullptr, nullptr);
+}
+
+std::unique_ptr<OpenWindow> MakeWizard(PlannerData& data)
+{
+    return std::make_unique<OpenSheet<planner::NewFlightWizard>>(data, nullptr);
+}
+
+bool IsDialog(HWND window)
+{
+    char name[16] = {};
+    GetClassName(window, name, sizeof name);
+    return lstrcmp(name, "#32770") == 0;
+}
+
+void Collect(HWND window, std::vector<HWND>& controls)
+{
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+    {
+        if ((GetWindowLong(child, GWL_STYLE) & WS_VISIBLE) == 0)
+            continue;
+        if (IsDialog(child))
+            Collect(child, controls);
+        else
+            controls.push_back(child);
+    }
 }
 
 } // namespace
 
-const std::vector<GalleryDialog>& GalleryDialogs()
+HWND OpenWindow::ControlsOwner()
 {
-    static const std::vector<GalleryDialog> dialogs = {
-        {"Route", IDD_ROUTE, "RouteDialog", Make<planner::RouteDialog>},
-        {"Weight", IDD_WEIGHT, "WeightDialog", Make<planner::WeightDialog>},
-        {"Fuel", IDD_FUEL, "FuelDialog", Make<planner::FuelDialog>},
-        {"Print", IDD_PRINT, "PrintDialog", Make<planner::PrintDialog>},
-        {"Goto", IDD_GOTO, "GotoDialog", Make<planner::GotoDialog>},
-        {"Links", IDD_LINKS, "LinksDialog", Make<planner::LinksDialog>},
-    };
-    return dialogs;
+    return Window();
 }
 
-const GalleryDialog& GalleryDialogNamed(const std::string& name)
+int OpenWindow::Pages() const
 {
-    return *std::find_if(GalleryDialogs().begin(), GalleryDialogs().end(),
-                         [&name](const GalleryDialog& dialog)
+    return 1;
+}
+
+void OpenWindow::ShowPage(int)
+{
+}
+
+const std::vector<GalleryWindow>& GalleryWindows()
+{
+    static const std::vector<GalleryWindow> windows = {
+        {"Route", Make<OpenDialog<planner::RouteDialog, IDD_ROUTE>>},
+        {"Weight", Make<OpenDialog<planner::WeightDialog, IDD_WEIGHT>>},
+        {"Fuel", Make<OpenDialog<planner::FuelDialog, IDD_FUEL>>},
+        {"Print", Make<OpenDialog<planner::PrintDialog, IDD_PRINT>>},
+        {"Goto", Make<OpenDialog<planner::GotoDialog, IDD_GOTO>>},
+        {"Links", Make<OpenDialog<planner::LinksDialog, IDD_LINKS>>},
+        {"Preferences", MakePreferences, true},
+        {"NewFlight", MakeWizard, true},
+        {"Log", Make<OpenLog>},
+    };
+    return windows;
+}
+
+const GalleryWindow& GalleryWindowNamed(const std::string& name)
+{
+    return *std::find_if(GalleryWindows().begin(), GalleryWindows().end(),
+                         [&name](const GalleryWindow& window)
                          {
-                             return dialog.name == name;
+                             return window.name == name;
                          });
 }
 
-std::ostream& operator<<(std::ostream& stream, const GalleryDialog& dialog)
+std::ostream& operator<<(std::ostream& stream, const GalleryWindow& window)
 {
-    return stream << dialog.name;
+    return stream << window.name;
 }
 
-std::string NameOfDialog(const testing::TestParamInfo<GalleryDialog>& parameter)
+std::string NameOfWindow(const testing::TestParamInfo<GalleryWindow>& parameter)
 {
     return parameter.param.name;
 }
@@ -87,20 +216,36 @@ GalleryTest::~GalleryTest()
     AppRegMgr::FreeInst();
 }
 
-std::unique_ptr<PlannerDialog> GalleryTest::Open(const GalleryDialog& dialog)
+std::unique_ptr<OpenWindow> GalleryTest::Open(const GalleryWindow& window)
 {
-    std::unique_ptr<PlannerDialog> opened = dialog.make(m_data);
-    if (!opened->Create(dialog.id, nullptr))
+    std::unique_ptr<OpenWindow> opened = window.open(m_data);
+    if (opened->Window().m_hWnd == nullptr)
         return nullptr;
-    opened->ShowWindow(SW_SHOW);
+    opened->Window().ShowWindow(SW_SHOW);
     PumpWaiting();
     return opened;
 }
 
-void GalleryTest::Close(std::unique_ptr<PlannerDialog>& dialog)
+void GalleryWindowTest::SetUp()
 {
-    dialog->DestroyWindow();
-    dialog.reset();
+    m_open = Open(GetParam());
+    ASSERT_NE(m_open, nullptr);
+}
+
+void GalleryWindowTest::TearDown()
+{
+    m_open.reset(); // while its settings are there
+}
+
+CWnd& GalleryWindowTest::Window()
+{
+    return m_open->Window();
+}
+
+void GalleryWindowTest::Reopen()
+{
+    m_open.reset();
+    SetUp();
 }
 
 CRect WindowRect(HWND window)
@@ -113,6 +258,20 @@ CRect WindowRect(HWND window)
 void SizeTo(HWND window, int width, int height)
 {
     SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+std::string TextOf(HWND window)
+{
+    std::string text(256, '\0');
+    text.resize(static_cast<std::size_t>(GetWindowText(window, text.data(), 256)));
+    return text;
+}
+
+std::vector<HWND> ControlsOf(HWND window)
+{
+    std::vector<HWND> controls;
+    Collect(window, controls);
+    return controls;
 }
 
 std::string FaultsText(HWND window)

@@ -5,18 +5,11 @@
 
 #include <algorithm>
 
-// The planner's dialogs from the keyboard alone.
+// The planner's windows from the keyboard alone.
 namespace vorn::test
 {
 namespace
 {
-
-std::string TextOf(HWND window)
-{
-    std::string text(256, '\0');
-    text.resize(static_cast<std::size_t>(GetWindowText(window, text.data(), 256)));
-    return text;
-}
 
 char Mnemonic(const std::string& text)
 {
@@ -28,92 +21,108 @@ char Mnemonic(const std::string& text)
     return 0;
 }
 
-/// Of all controls, shown or not, whose texts have mnemonics.
-std::string Mnemonics(HWND dialog)
+bool IsOfClass(HWND control, const char* name)
+{
+    char own[16] = {};
+    GetClassName(control, own, sizeof own);
+    return lstrcmpi(own, name) == 0;
+}
+
+char MnemonicOf(HWND control)
+{
+    const bool isLabel =
+        IsOfClass(control, "Static") && (GetWindowLong(control, GWL_STYLE) & static_cast<LONG>(SS_NOPREFIX)) == 0;
+    return isLabel || IsOfClass(control, "Button") ? Mnemonic(TextOf(control)) : '\0';
+}
+
+std::vector<HWND> ChildrenOf(HWND window)
+{
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+        children.push_back(child);
+    return children;
+}
+
+std::string Mnemonics(const std::vector<HWND>& controls)
 {
     std::string all;
-    for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+    for (const HWND control : controls)
     {
-        const auto style = static_cast<DWORD>(GetWindowLong(child, GWL_STYLE));
-        char className[16] = {};
-        GetClassName(child, className, sizeof className);
-        const bool isLabel = lstrcmpi(className, "Static") == 0 && (style & SS_NOPREFIX) == 0;
-        const char mnemonic = isLabel || lstrcmpi(className, "Button") == 0 ? Mnemonic(TextOf(child)) : '\0';
-        if (mnemonic != 0)
+        if (const char mnemonic = MnemonicOf(control))
             all += mnemonic;
     }
+    std::sort(all.begin(), all.end());
     return all;
 }
 
-class KeyedDialog : public GalleryTest, public testing::WithParamInterface<GalleryDialog>
-{
-};
+using KeyedWindow = GalleryWindowTest;
 
-TEST_P(KeyedDialog, HasNoMnemonicTwice)
+TEST_P(KeyedWindow, HasNoMnemonicTwice)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    std::string mnemonics = Mnemonics(*dialog);
-    std::sort(mnemonics.begin(), mnemonics.end());
-    EXPECT_EQ(std::adjacent_find(mnemonics.begin(), mnemonics.end()), mnemonics.end()) << mnemonics;
-    Close(dialog);
+    for (int page = 0; page < m_open->Pages(); ++page)
+    {
+        m_open->ShowPage(page);
+        // Of a dialog also those of the tab that is hidden; of a sheet those that are seen together.
+        const bool isSheet = GetParam().isSheet;
+        const std::string mnemonics = Mnemonics(isSheet ? ControlsOf(Window()) : ChildrenOf(m_open->ControlsOwner()));
+        EXPECT_EQ(std::adjacent_find(mnemonics.begin(), mnemonics.end()), mnemonics.end()) << mnemonics;
+        EXPECT_GE(mnemonics.size(), GetParam().name == std::string("Links") ? 0u : 1u);
+    }
 }
 
-TEST_P(KeyedDialog, EveryLabelWithAMnemonicStandsBeforeAControlThatTakesTheFocus)
+TEST_P(KeyedWindow, EveryLabelWithAMnemonicStandsBeforeAControlThatTakesTheFocus)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    for (HWND child = GetWindow(*dialog, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+    for (int page = 0; page < m_open->Pages(); ++page)
     {
-        char className[16] = {};
-        GetClassName(child, className, sizeof className);
-        const HWND next = GetWindow(child, GW_HWNDNEXT);
-        const auto style = static_cast<DWORD>(GetWindowLong(child, GWL_STYLE));
-        if (lstrcmpi(className, "Static") == 0 && (style & SS_NOPREFIX) == 0 && Mnemonic(TextOf(child)) != 0)
+        m_open->ShowPage(page);
+        for (const HWND control : ControlsOf(m_open->ControlsOwner()))
         {
-            ASSERT_NE(next, nullptr) << TextOf(child);
-            EXPECT_EQ(SendMessage(next, WM_GETDLGCODE, 0, 0) & DLGC_STATIC, 0) << TextOf(child);
+            if (!IsOfClass(control, "Static") || MnemonicOf(control) == 0)
+                continue;
+            const HWND next = GetWindow(control, GW_HWNDNEXT);
+            ASSERT_NE(next, nullptr) << TextOf(control);
+            EXPECT_EQ(SendMessage(next, WM_GETDLGCODE, 0, 0) & DLGC_STATIC, 0) << TextOf(control);
         }
     }
-    Close(dialog);
 }
 
 /// What TAB reaches, from the first control on, once round.
-std::vector<int> TabOrder(HWND dialog, bool backwards)
+std::vector<HWND> TabOrder(HWND window, bool backwards)
 {
-    std::vector<int> order;
-    HWND control = GetNextDlgTabItem(dialog, nullptr, FALSE);
+    std::vector<HWND> order;
+    HWND control = GetNextDlgTabItem(window, nullptr, FALSE);
     const HWND first = control;
     do
     {
-        order.push_back(GetDlgCtrlID(control));
-        control = GetNextDlgTabItem(dialog, control, backwards ? TRUE : FALSE);
+        order.push_back(control);
+        control = GetNextDlgTabItem(window, control, backwards ? TRUE : FALSE);
     } while (control != nullptr && control != first && order.size() < 100);
     return order;
 }
 
-TEST_P(KeyedDialog, TabReachesEveryStopOnceAndComesRound)
+TEST_P(KeyedWindow, TabReachesEveryStopOnceAndComesRound)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    std::vector<int> order = TabOrder(*dialog, false);
-    std::vector<int> back = TabOrder(*dialog, true);
-    ASSERT_LT(order.size(), 100u);
-    std::reverse(back.begin() + 1, back.end());
-    EXPECT_EQ(back, order);
-    for (HWND child = GetWindow(*dialog, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+    for (int page = 0; page < m_open->Pages(); ++page)
     {
-        const auto style = static_cast<DWORD>(GetWindowLong(child, GWL_STYLE));
-        const DWORD stop = WS_TABSTOP | WS_VISIBLE;
-        if ((style & (stop | WS_DISABLED)) == stop)
+        m_open->ShowPage(page);
+        const HWND owner = m_open->ControlsOwner();
+        const std::vector<HWND> order = TabOrder(owner, false);
+        std::vector<HWND> back = TabOrder(owner, true);
+        ASSERT_LT(order.size(), 100u);
+        std::reverse(back.begin() + 1, back.end());
+        EXPECT_EQ(back, order);
+        for (const HWND control : ControlsOf(owner))
         {
-            EXPECT_EQ(std::count(order.begin(), order.end(), GetDlgCtrlID(child)), 1) << GetDlgCtrlID(child);
+            const auto style = static_cast<DWORD>(GetWindowLong(control, GWL_STYLE));
+            if ((style & (WS_TABSTOP | WS_DISABLED)) == WS_TABSTOP)
+            {
+                EXPECT_EQ(std::count(order.begin(), order.end(), control), 1) << GetDlgCtrlID(control);
+            }
         }
     }
-    Close(dialog);
 }
 
-INSTANTIATE_TEST_SUITE_P(Gallery, KeyedDialog, testing::ValuesIn(GalleryDialogs()), NameOfDialog);
+INSTANTIATE_TEST_SUITE_P(Gallery, KeyedWindow, testing::ValuesIn(GalleryWindows()), NameOfWindow);
 
 class GalleryKeys : public GalleryTest
 {

@@ -1,11 +1,10 @@
 #include "apps/planner/resource.h"
-#include "tests/support/GdiCount.h"
 #include "tests/support/PumpUntil.h"
 #include "tests/windows/gallery/GalleryTest.h"
 
 #include <map>
 
-// What the planner's dialogs paint when they are sized, and what they leave behind.
+// What the planner's windows paint when they are sized.
 namespace vorn::test
 {
 namespace
@@ -70,32 +69,59 @@ private:
     std::map<HWND, int> m_counts;
 };
 
-class PaintedDialog : public GalleryTest, public testing::WithParamInterface<GalleryDialog>
-{
-};
+using PaintedWindow = GalleryWindowTest;
 
-TEST_P(PaintedDialog, PaintsNothingWhenNoRectangleChanges)
+TEST_P(PaintedWindow, PaintsNothingWhenNoRectangleChanges)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    dialog->UpdateWindow();
+    Window().UpdateWindow();
     PumpWaiting();
-    const CRect place = WindowRect(*dialog);
+    const CRect place = WindowRect(Window());
     CRect client;
-    dialog->GetClientRect(&client);
-    PaintCounter paints(*dialog);
-    dialog->SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.right, client.bottom));
-    SizeTo(*dialog, place.Width(), place.Height());
-    dialog->SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
+    Window().GetClientRect(&client);
+    PaintCounter paints(Window());
+    if (!GetParam().isSheet)
+        Window().SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.right, client.bottom));
+    SizeTo(Window(), place.Width(), place.Height());
+    Window().SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
     PumpWaiting();
     EXPECT_EQ(paints.Total(), 0);
     // The counter does count.
-    dialog->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    Window().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     EXPECT_GT(paints.Total(), 5);
-    Close(dialog);
 }
 
-INSTANTIATE_TEST_SUITE_P(Gallery, PaintedDialog, testing::ValuesIn(GalleryDialogs()), NameOfDialog);
+/// Where a control stands in the window around it.
+CRect PlaceIn(HWND window, HWND control)
+{
+    CRect place = WindowRect(control);
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(static_cast<RECT*>(&place)), 2);
+    return place;
+}
+
+TEST_P(PaintedWindow, GrowingLeavesAloneWhatStays)
+{
+    if (GetParam().isSheet)
+        return; // they paint all
+    Window().UpdateWindow();
+    PumpWaiting();
+    std::map<HWND, CRect> before;
+    for (const HWND control : ControlsOf(Window()))
+        before[control] = PlaceIn(Window(), control);
+    const CRect place = WindowRect(Window());
+    PaintCounter paints(Window());
+    SizeTo(Window(), place.Width() + 40, place.Height() + 30);
+    PumpWaiting();
+    EXPECT_GT(paints.Total(), 0);
+    for (const auto& [control, former] : before)
+    {
+        if (PlaceIn(Window(), control) == former)
+        {
+            EXPECT_EQ(paints.Of(control), 0) << GetDlgCtrlID(control) << ' ' << TextOf(control);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Gallery, PaintedWindow, testing::ValuesIn(GalleryWindows()), NameOfWindow);
 
 class GalleryPainting : public GalleryTest
 {
@@ -103,80 +129,19 @@ class GalleryPainting : public GalleryTest
 
 TEST_F(GalleryPainting, GrowingPaintsWhatGrowsAndLeavesAloneWhatStays)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GalleryDialogNamed("Goto"));
-    ASSERT_NE(dialog, nullptr);
-    dialog->UpdateWindow();
+    const std::unique_ptr<OpenWindow> open = Open(GalleryWindowNamed("Goto"));
+    ASSERT_NE(open, nullptr);
+    CWnd& dialog = open->Window();
+    dialog.UpdateWindow();
     PumpWaiting();
-    const CRect place = WindowRect(*dialog);
-    PaintCounter paints(*dialog);
-    SizeTo(*dialog, place.Width() + 20, place.Height());
+    const CRect place = WindowRect(dialog);
+    PaintCounter paints(dialog);
+    SizeTo(dialog, place.Width() + 20, place.Height());
     PumpWaiting();
-    EXPECT_GT(paints.Of(::GetDlgItem(*dialog, IDC_GOTO_LATITUDE)), 0);
-    EXPECT_EQ(paints.Of(::GetDlgItem(*dialog, IDC_GOTO_LATITUDE_LABEL)), 0);
-    EXPECT_EQ(paints.Of(::GetDlgItem(*dialog, IDC_GOTO_BY_POSITION)), 0);
-    Close(dialog);
+    EXPECT_GT(paints.Of(::GetDlgItem(dialog, IDC_GOTO_LATITUDE)), 0);
+    EXPECT_EQ(paints.Of(::GetDlgItem(dialog, IDC_GOTO_LATITUDE_LABEL)), 0);
+    EXPECT_EQ(paints.Of(::GetDlgItem(dialog, IDC_GOTO_BY_POSITION)), 0);
 }
-
-BOOL CALLBACK CountWindow(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-int WindowsOfThisThread()
-{
-    int count = 0;
-    EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
-/// The system keeps some drawing objects for later windows; one left behind by each opening would be ten times as many.
-constexpr unsigned kKeptBySystem = 50;
-
-/// A thousand openings in all.
-struct Openings
-{
-    const char* dialog;
-    int count;
-};
-
-std::ostream& operator<<(std::ostream& stream, const Openings& openings)
-{
-    return stream << openings.count << " of " << openings.dialog;
-}
-
-class GalleryLeaks : public GalleryTest, public testing::WithParamInterface<Openings>
-{
-protected:
-    void OpenAndClose()
-    {
-        const GalleryDialog& kind = GalleryDialogNamed(GetParam().dialog);
-        std::unique_ptr<planner::PlannerDialog> dialog = kind.make(m_data);
-        EXPECT_TRUE(dialog->Create(kind.id, nullptr));
-        dialog->DestroyWindow();
-    }
-};
-
-TEST_P(GalleryLeaks, NoHandleStaysBehind)
-{
-    OpenAndClose(); // what is made once and kept is made now
-    PumpWaiting();
-    const unsigned drawing = CountGdiObjects();
-    const DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    const int windows = WindowsOfThisThread();
-    for (int i = 0; i < GetParam().count; ++i)
-        OpenAndClose();
-    PumpWaiting();
-    EXPECT_LE(CountGdiObjects(), drawing + kKeptBySystem);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), user);
-    EXPECT_EQ(WindowsOfThisThread(), windows);
-}
-
-INSTANTIATE_TEST_SUITE_P(Gallery, GalleryLeaks, testing::Values(Openings{"Goto", 500}, Openings{"Links", 500}),
-                         [](const testing::TestParamInfo<Openings>& openings)
-                         {
-                             return std::string(openings.param.dialog);
-                         });
 
 } // namespace
 } // namespace vorn::test

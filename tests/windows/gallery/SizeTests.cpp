@@ -3,15 +3,13 @@
 
 #include <map>
 
-// The planner's dialogs at every size that a user can give them.
+// The planner's windows at every size that a user can give them.
 namespace vorn::test
 {
 namespace
 {
 
-class SizedDialog : public GalleryTest, public testing::WithParamInterface<GalleryDialog>
-{
-};
+using SizedWindow = GalleryWindowTest;
 
 using Places = std::map<HWND, std::string>;
 
@@ -41,107 +39,98 @@ MINMAXINFO Limits(HWND window)
     return limits;
 }
 
-TEST_P(SizedDialog, HasNoFaultAtAnySize)
+TEST_P(SizedWindow, HasNoFaultAtAnySize)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(FaultsText(*dialog), "");
-    const POINT least = Limits(*dialog).ptMinTrackSize;
-    for (int step = 0; step <= 400; step += 37)
+    const POINT least = Limits(Window()).ptMinTrackSize;
+    const int stride = m_open->Pages() > 1 ? 133 : 66;
+    for (int page = 0; page < m_open->Pages(); ++page)
     {
-        SizeTo(*dialog, least.x + step, least.y + step * 3 / 4);
-        EXPECT_EQ(FaultsText(*dialog), "") << "by " << step;
-        SizeTo(*dialog, least.x + step, least.y);
-        EXPECT_EQ(FaultsText(*dialog), "") << "wider by " << step;
-        SizeTo(*dialog, least.x, least.y + step);
-        EXPECT_EQ(FaultsText(*dialog), "") << "higher by " << step;
+        m_open->ShowPage(page);
+        EXPECT_EQ(FaultsText(Window()), "") << page;
+        for (int step = 0; step <= 400; step += stride)
+        {
+            SizeTo(Window(), least.x + step, least.y + step * 3 / 4);
+            EXPECT_EQ(FaultsText(Window()), "") << page << " by " << step;
+            SizeTo(Window(), least.x + step, least.y);
+            EXPECT_EQ(FaultsText(Window()), "") << page << " wider by " << step;
+            SizeTo(Window(), least.x, least.y + step);
+            EXPECT_EQ(FaultsText(Window()), "") << page << " higher by " << step;
+        }
     }
-    Close(dialog);
 }
 
-TEST_P(SizedDialog, StopsAtItsLimits)
+TEST_P(SizedWindow, StopsAtItsLimits)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    const MINMAXINFO limits = Limits(*dialog);
-    SizeTo(*dialog, 1, 1);
-    EXPECT_EQ(WindowRect(*dialog).Size(), CSize(limits.ptMinTrackSize.x, limits.ptMinTrackSize.y));
-    SizeTo(*dialog, 20000, 20000);
-    const CSize largest = WindowRect(*dialog).Size();
+    const MINMAXINFO limits = Limits(Window());
+    SizeTo(Window(), 1, 1);
+    EXPECT_EQ(WindowRect(Window()).Size(), CSize(limits.ptMinTrackSize.x, limits.ptMinTrackSize.y));
+    SizeTo(Window(), 20000, 20000);
+    const CSize largest = WindowRect(Window()).Size();
     EXPECT_EQ(largest.cx, std::max(limits.ptMaxTrackSize.x, limits.ptMinTrackSize.x));
     EXPECT_EQ(largest.cy, std::max(limits.ptMaxTrackSize.y, limits.ptMinTrackSize.y));
-    EXPECT_EQ(FaultsText(*dialog), "");
-    Close(dialog);
+    EXPECT_EQ(FaultsText(Window()), "");
 }
 
-TEST_P(SizedDialog, ComesBackFromMaximisedAsItWas)
+TEST_P(SizedWindow, ComesBackFromMaximisedAsItWas)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    const CRect before = WindowRect(*dialog);
-    const Places places = PlacesOf(*dialog);
-    dialog->SendMessage(WM_SYSCOMMAND, SC_MAXIMIZE);
-    EXPECT_TRUE(dialog->IsZoomed());
-    EXPECT_EQ(FaultsText(*dialog), "");
-    dialog->SendMessage(WM_SYSCOMMAND, SC_RESTORE);
-    EXPECT_FALSE(dialog->IsZoomed());
-    EXPECT_EQ(RectText(WindowRect(*dialog)), RectText(before));
-    EXPECT_EQ(PlacesOf(*dialog), places);
-    Close(dialog);
+    const CRect before = WindowRect(Window());
+    const Places places = PlacesOf(Window());
+    Window().SendMessage(WM_SYSCOMMAND, SC_MAXIMIZE);
+    EXPECT_TRUE(Window().IsZoomed());
+    EXPECT_EQ(FaultsText(Window()), "");
+    Window().SendMessage(WM_SYSCOMMAND, SC_RESTORE);
+    EXPECT_FALSE(Window().IsZoomed());
+    EXPECT_EQ(RectText(WindowRect(Window())), RectText(before));
+    EXPECT_EQ(PlacesOf(Window()), places);
 }
 
-TEST_P(SizedDialog, OpensWhereItWasLeft)
+TEST_P(SizedWindow, OpensWhereItWasLeft)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    dialog->SetWindowPos(nullptr, 60, 70, 700, 560, SWP_NOZORDER);
-    const std::string left = RectText(WindowRect(*dialog));
-    Close(dialog);
-    dialog = Open(GetParam());
-    EXPECT_EQ(RectText(WindowRect(*dialog)), left);
-    EXPECT_EQ(FaultsText(*dialog), "");
-    Close(dialog);
+    Window().SetWindowPos(nullptr, 60, 70, 700, 560, SWP_NOZORDER);
+    const std::string left = RectText(WindowRect(Window()));
+    Reopen();
+    EXPECT_EQ(RectText(WindowRect(Window())), left);
+    EXPECT_EQ(FaultsText(Window()), "");
 }
 
-TEST_P(SizedDialog, OpensOnTheScreenAfterItWasLeftBeyondIt)
+TEST_P(SizedWindow, OpensOnTheScreenAfterItWasLeftBeyondIt)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    dialog->SetWindowPos(nullptr, 9000, 9000, 0, 0, SWP_NOZORDER | SWP_NOSIZE);
-    Close(dialog);
-    dialog = Open(GetParam());
-    EXPECT_NE(MonitorFromWindow(*dialog, MONITOR_DEFAULTTONULL), nullptr) << RectText(WindowRect(*dialog));
-    Close(dialog);
+    Window().SetWindowPos(nullptr, 9000, 9000, 0, 0, SWP_NOZORDER | SWP_NOSIZE);
+    Reopen();
+    EXPECT_NE(MonitorFromWindow(Window(), MONITOR_DEFAULTTONULL), nullptr) << RectText(WindowRect(Window()));
 }
 
-TEST_P(SizedDialog, OpensNormalAfterItWasClosedMinimised)
+TEST_P(SizedWindow, OpensNormalAfterItWasClosedMinimised)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    dialog->SetWindowPos(nullptr, 60, 70, 700, 560, SWP_NOZORDER);
-    const std::string normal = RectText(WindowRect(*dialog));
-    dialog->ShowWindow(SW_MINIMIZE);
-    ASSERT_TRUE(dialog->IsIconic());
-    Close(dialog);
-    dialog = Open(GetParam());
-    EXPECT_FALSE(dialog->IsIconic());
-    EXPECT_EQ(RectText(WindowRect(*dialog)), normal);
-    Close(dialog);
+    Window().SetWindowPos(nullptr, 60, 70, 700, 560, SWP_NOZORDER);
+    const std::string normal = RectText(WindowRect(Window()));
+    Window().ShowWindow(SW_MINIMIZE);
+    ASSERT_TRUE(Window().IsIconic());
+    Reopen();
+    EXPECT_FALSE(Window().IsIconic());
+    EXPECT_EQ(RectText(WindowRect(Window())), normal);
 }
 
-TEST_P(SizedDialog, OpensMaximisedAfterItWasClosedSo)
+TEST_P(SizedWindow, AnotherPageComesUpAtTheSizeThatTheFirstWasGiven)
 {
-    std::unique_ptr<planner::PlannerDialog> dialog = Open(GetParam());
-    ASSERT_NE(dialog, nullptr);
-    dialog->ShowWindow(SW_MAXIMIZE);
-    Close(dialog);
-    dialog = Open(GetParam());
-    EXPECT_TRUE(dialog->IsZoomed());
-    EXPECT_EQ(FaultsText(*dialog), "");
-    Close(dialog);
+    SizeTo(Window(), 800, 600);
+    for (int page = 0; page < m_open->Pages(); ++page)
+    {
+        m_open->ShowPage(page);
+        EXPECT_EQ(WindowRect(Window()).Size(), CSize(800, 600));
+        EXPECT_EQ(FaultsText(Window()), "") << page;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Gallery, SizedDialog, testing::ValuesIn(GalleryDialogs()), NameOfDialog);
+TEST_P(SizedWindow, OpensMaximisedAfterItWasClosedSo)
+{
+    Window().ShowWindow(SW_MAXIMIZE);
+    Reopen();
+    EXPECT_TRUE(Window().IsZoomed());
+    EXPECT_EQ(FaultsText(Window()), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Gallery, SizedWindow, testing::ValuesIn(GalleryWindows()), NameOfWindow);
 
 } // namespace
 } // namespace vorn::test

@@ -92,6 +92,41 @@ TEST_F(NumberField, ShowsThePlainNumberWhileItIsEdited)
     EXPECT_EQ(7.13, m_edit.GetValue());
 }
 
+TEST_F(NumberField, WhatWasSelectedStaysSelectedOfThePlainNumber)
+{
+    m_edit.SetPrefix("FL ");
+    m_edit.SetSuffix(" ft");
+    m_edit.SetValue(245);
+    const auto selectedOf = [this](int start, int end)
+    {
+        m_other.SetFocus();
+        m_edit.SetSel(start, end);
+        m_edit.SetFocus();
+        int first = -1;
+        int last = -1;
+        m_edit.GetSel(first, last);
+        return std::pair(first, last);
+    };
+    EXPECT_EQ(selectedOf(0, -1), std::pair(0, 3)) << "as dialogs select a field on the way of TAB";
+    EXPECT_EQ(selectedOf(5, 5), std::pair(2, 2));
+    EXPECT_EQ(selectedOf(1, 4), std::pair(0, 1));
+    EXPECT_EQ(selectedOf(7, 9), std::pair(3, 3)) << "behind the number";
+}
+
+TEST_F(NumberField, TakenOverWithTheFocusItIsBeingEdited)
+{
+    CEdit plain;
+    plain.Create(WS_CHILD | WS_VISIBLE, CRect(10, 90, 150, 110), &m_dialog, 9);
+    plain.SetFocus();
+    FloatEdit edit;
+    ASSERT_TRUE(edit.SubclassWindow(plain.Detach()));
+    edit.SetSuffix(" kt");
+    edit.SetValue(122);
+    EXPECT_EQ("122", TextOf(edit));
+    m_other.SetFocus();
+    EXPECT_EQ("122 kt", TextOf(edit));
+}
+
 TEST_F(NumberField, ATextThatIsNoNumberIsZero)
 {
     m_edit.SetSuffix(" kt");

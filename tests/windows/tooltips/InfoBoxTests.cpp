@@ -58,6 +58,22 @@ TEST_F(TipInfoBox, OpensByAClickAtTheSamePlace)
     EXPECT_LE(TipPlace().Width(), 305) << "wrapped at 300";
 }
 
+TEST_F(TipInfoBox, IsAsWideAsItsTitleWhichKeepsTheLinesOfTheTip)
+{
+    const char* const title = "A title of one line that is wider than three hundred pixels are";
+    const std::string text =
+        std::string(title) +
+        "\rAnd a text below it that is longer than the title in spite of its lighter letters, but not twice as long.";
+    m_tips.AddTool(Control(2), text.c_str()); // in place of what it has
+    Hover(2);
+    const CRect tip = TipPlace();
+    ASSERT_GT(tip.Width(), 305);
+    ClickTip();
+    EXPECT_GE(TipPlace().Width(), tip.Width()) << "bold";
+    const int lines = 3; // the title, and two of the text
+    EXPECT_EQ(TipPlace().Height(), lines * (tip.Height() - 5) + 5);
+}
+
 TEST_F(TipInfoBox, IsWrappedAtTheWidthThatIsSet)
 {
     m_tips.SetMaxTipWidth(150);

@@ -1,5 +1,7 @@
 #include "toolkit/tooltips/core/TipText.h"
 
+#include <algorithm>
+
 namespace vorn
 {
 namespace
@@ -26,9 +28,13 @@ CString TipField(const CString& text, int index, char separator)
     return CString();
 }
 
-int TipWrapWidth(int maxWidth, bool infoBox)
+int TipWrapWidth(int maxWidth, bool infoBox, int titleWidth)
 {
-    return maxWidth > 0 ? maxWidth : infoBox ? kInfoBoxWidth : 0;
+    if (maxWidth > 0)
+    {
+        return maxWidth;
+    }
+    return infoBox ? std::max(kInfoBoxWidth, titleWidth) : 0;
 }
 
 } // namespace vorn

@@ -15,7 +15,8 @@ inline constexpr int kTipTextLimit = 511;
 /// A field of a text, counted from 0: what stands between separators. A text without separator is one field.
 CString TipField(const CString& text, int index, char separator);
 
-/// The width at which a text is wrapped, 0 for none: an info box's always is.
-int TipWrapWidth(int maxWidth, bool infoBox);
+/// The width at which a text is wrapped, 0 for none. An info box's always is: by itself at 300 pixels, or at the width
+/// of the title above it when that is wider.
+int TipWrapWidth(int maxWidth, bool infoBox, int titleWidth = 0);
 
 } // namespace vorn
