@@ -20,6 +20,14 @@ public:
     {
         SetRegistryKey("VornStartupTests");
     }
+
+    int DoMessageBox(LPCTSTR prompt, UINT type, UINT promptId) override
+    {
+        lastBox = type;
+        return CWinApp::DoMessageBox(prompt, type, promptId);
+    }
+
+    UINT lastBox = 0;
 };
 
 TestApp theApp;
@@ -63,6 +71,11 @@ std::vector<std::string> TextsOf(const std::vector<ShownText>& shown)
 }
 
 } // namespace
+
+UINT LastMessageBox()
+{
+    return theApp.lastBox;
+}
 
 std::string TextOf(HWND window)
 {

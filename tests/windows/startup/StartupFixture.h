@@ -22,6 +22,9 @@ struct ShownText
     CRect place; ///< on the screen
 };
 
+/// Type (MB_ flags) of the last message box.
+UINT LastMessageBox();
+
 std::string TextOf(HWND window);
 CRect PlaceOf(HWND window);
 

@@ -128,7 +128,7 @@ TEST_F(StartupDialog, OkStoresTheCheckBox)
     EXPECT_EQ(0U, Stored());
 }
 
-TEST_F(StartupDialog, CancelAndEscapeStoreNothing)
+TEST_F(StartupDialog, CancelEscapeAndTheCloseBoxStoreNothing)
 {
     const auto check = [](HWND window)
     {
@@ -143,6 +143,15 @@ TEST_F(StartupDialog, CancelAndEscapeStoreNothing)
                             {
                                 check(window);
                                 ::PostMessageA(::GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1);
+                            },
+                            0));
+    EXPECT_EQ(std::nullopt, Stored());
+    EXPECT_EQ(IDCANCEL, Show(
+                            dialog,
+                            [&](HWND window)
+                            {
+                                check(window);
+                                ::PostMessageA(window, WM_SYSCOMMAND, SC_CLOSE, 0);
                             },
                             0));
     EXPECT_EQ(std::nullopt, Stored());

@@ -71,6 +71,17 @@ TEST_F(StartupDialog, ComesFromTheLibraryWhateverTheHostHasUnderItsNumbers)
              });
 }
 
+TEST_F(StartupDialog, ButtonsAndBoxSayWhatTheyDo)
+{
+    ShowWith({},
+             [](HWND dialog)
+             {
+                 EXPECT_EQ("Get &Update", Item(dialog, IDC_VORN_STARTUP_UPDATE));
+                 EXPECT_EQ("Do &not show the disclaimer again", Item(dialog, IDC_VORN_STARTUP_HIDE));
+                 EXPECT_EQ("OK", Item(dialog, IDOK));
+             });
+}
+
 TEST_F(StartupDialog, CopyrightHasTheYearsGivenOr1990And2004)
 {
     ShowWith({},

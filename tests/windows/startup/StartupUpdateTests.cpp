@@ -164,6 +164,7 @@ TEST_F(StartupDialog, AProgramThatIsMissingIsReported)
 {
     const ScratchFolder folder;
     EXPECT_EQ(Failure(ERROR_FILE_NOT_FOUND), FailureOf(folder.File("missing.exe")));
+    EXPECT_EQ(UINT{MB_OK | MB_ICONINFORMATION}, LastMessageBox());
     EXPECT_EQ(Failure(ERROR_FILE_NOT_FOUND), FailureOf("no-such-program-anywhere.exe")) << "no folder in the path";
 }
 
