@@ -1,5 +1,6 @@
 #include "apps/vorntool/Applications.h"
 #include "apps/vorntool/Commands.h"
+#include "apps/vorntool/ImagePicture.h"
 #include "apps/vorntool/TextConversion.h"
 #include "apps/vorntool/ToolHost.h"
 #include "apps/vorntool/core/ChartWords.h"
@@ -80,6 +81,7 @@ struct Wish
     std::optional<ChartPlace> centre;
     std::optional<double> scale;
     std::optional<int> projection;
+    std::optional<ImageKind> kind;
 };
 
 void TakeProjection(Wish& wish, const std::string& word)
@@ -123,8 +125,12 @@ Wish WishOf(const Invocation& call)
         wish.problem = "--view says centre and scale itself";
     if (call.Has("projection"))
         TakeProjection(wish, call.ValueOf("projection", ""));
+    const std::string out = call.ValueOf("out", "");
+    wish.kind = ImageKindOf(out);
     if (!call.Has("out"))
         wish.problem = "--out FILE says where the picture goes";
+    else if (!wish.kind)
+        wish.problem = Quoted(out) + " does not end in .bmp, .png, .jpg or .jpeg";
     return wish;
 }
 
@@ -142,23 +148,6 @@ bool TurnTo(chart::Chart& chart, const Wish& wish)
     if (wish.scale)
         chart.View().SetScale(*wish.scale);
     return true;
-}
-
-bool Write(const DIB& image, const std::string& path)
-{
-    const std::optional<CString> name = LibraryFromUtf8(path);
-    if (!name)
-        return false;
-    switch (PictureKindOf(path))
-    {
-    case PictureKind::Jpeg:
-        return image.WriteJPEG(*name, 0, 0, nullptr);
-    case PictureKind::Bmp:
-        return image.WriteBMP(*name);
-    case PictureKind::Png:
-        break;
-    }
-    return image.WritePNG(*name);
 }
 
 ExitStatus Fail(const Command& self, Output& output, ExitStatus status, const std::string& reason)
@@ -179,7 +168,8 @@ ExitStatus RenderChart(const Command& self, const Invocation& call, Output& outp
     chart::Chart chart;
     const std::string folder = call.Has("data") ? FolderIn(call.ValueOf("data", "")) : OwnData();
     if (const std::string missing = chart.Load(folder); !missing.empty())
-        return Fail(self, output, ExitStatus::Refused, "cannot open " + missing + " in " + Utf8FromLibrary(folder));
+        return Fail(self, output, ExitStatus::Refused,
+                    "cannot open " + missing + " in " + Quoted(Utf8FromLibrary(folder)));
     if (!TurnTo(chart, wish))
         return Fail(self, output, ExitStatus::Refused,
                     wish.view && ProjectionLib::mpInstance->ProjectionName(wish.view->mProjection) != nullptr
@@ -188,9 +178,14 @@ ExitStatus RenderChart(const Command& self, const Invocation& call, Output& outp
     DIB image;
     if (!chart.DrawInto(image))
         return Fail(self, output, ExitStatus::Refused, "there is no memory for the picture");
-    const std::string path = call.ValueOf("out", "");
-    if (!Write(image, path))
-        return Fail(self, output, ExitStatus::Refused, "cannot write " + Quoted(path));
+    try
+    {
+        WritePicture(image, call.ValueOf("out", ""), {*wish.kind, call.Has("force")});
+    }
+    catch (const ImageFailure& failure)
+    {
+        return Fail(self, output, failure.Status(), failure.what());
+    }
     ViewDefinition view;
     chart.Store(view);
     output.text = std::string(view.Format().GetString()) + '\n';
@@ -200,7 +195,7 @@ ExitStatus RenderChart(const Command& self, const Invocation& call, Output& outp
 constexpr const char* kDetails =
     "The picture shows the region's radio navigation aids and aerodromes, a route and the graticule,\n"
     "as the sample application's chart does. The whole region is shown unless a centre or a view says\n"
-    "otherwise. The ending of FILE chooses its kind: .png, .jpg or .bmp.\n"
+    "otherwise. The ending of FILE chooses its kind: .bmp, .png, .jpg or .jpeg.\n"
     "\n"
     "Printed is the text of the view, which --view takes.";
 
@@ -217,6 +212,7 @@ const CommandGroup& ChartCommands()
         {"night", nullptr, "colours for the night"},
         {"data", "FOLDER", "folder of navaids.dbf, runways.dbf and shores.dbf"},
         {"out", "FILE", "where the picture goes"},
+        {"force", nullptr, "replace FILE when it exists"},
         kAppOption,
     };
     static const Command commands[] = {

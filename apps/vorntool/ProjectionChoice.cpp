@@ -1,6 +1,7 @@
 #include "apps/vorntool/ProjectionChoice.h"
 
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/core/ChartWords.h"
 #include "apps/vorntool/core/ToolNumbers.h"
 
 #include <algorithm>
@@ -65,32 +66,14 @@ std::string ModulePath(const std::string& word)
     return length > 0 && length < MAX_PATH ? path : word;
 }
 
-std::string LowerCase(std::string text)
+std::vector<std::string> NamesOf(const ProjectionLib& library)
 {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char each)
-                   {
-                       return each >= 'A' && each <= 'Z' ? static_cast<char>(each + 32) : each;
-                   });
-    return text;
-}
-
-// -1 for a word that names none.
-int ProjectionNamed(const std::string& word)
-{
-    const ProjectionLib& library = *ProjectionLib::mpInstance;
-    if (const auto number = ParseWhole(word))
-    {
-        return *number >= 0 && *number < library.NumProjections() ? static_cast<int>(*number) : -1;
-    }
+    std::vector<std::string> names;
     for (int i = 0; i < library.NumProjections(); ++i)
     {
-        if (LowerCase(Utf8FromLibrary(library.ProjectionName(i))) == LowerCase(word))
-        {
-            return i;
-        }
+        names.push_back(Utf8FromLibrary(library.ProjectionName(i)));
     }
-    return -1;
+    return names;
 }
 
 // Numbers with commas between them; nothing when one is none.
@@ -225,16 +208,16 @@ std::optional<ProjectionSetup> TakeProjection(const Command& self, const Invocat
                                               ExitStatus& status)
 {
     const std::string& word = call.values[0];
-    const int index = ProjectionNamed(word);
-    if (index < 0)
+    const std::optional<int> index = ProjectionNamed(word, NamesOf(*ProjectionLib::mpInstance));
+    if (!index)
     {
         status = ExitStatus::WrongUse;
         ReportError(output, self, "unknown projection " + Quoted(word) + "; 'vorntool proj list' shows them");
         return std::nullopt;
     }
-    ProjectionSetup setup{std::unique_ptr<Projection>(ProjectionLib::mpInstance->CreateProjection(index)),
+    ProjectionSetup setup{std::unique_ptr<Projection>(ProjectionLib::mpInstance->CreateProjection(*index)),
                           call.Has("metres") ? kEarthRadius : 1};
-    const std::optional<Trouble> trouble = SetUp(setup.projection.get(), index, call);
+    const std::optional<Trouble> trouble = SetUp(setup.projection.get(), *index, call);
     if (!trouble)
     {
         return setup;

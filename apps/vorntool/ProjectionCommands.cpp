@@ -232,10 +232,10 @@ constexpr Option kProjectOptions[] = {
 };
 
 constexpr const char* kProjectDetails =
-    "PROJECTION is a number or a name of 'vorntool proj list'. Positions are in degrees, north\n"
-    "and east positive; map coordinates in Earth radii of 6378137 m, x to the right and\n"
-    "y up from the position of --center (from the pole in polar maps). --json adds the\n"
-    "scale along the parallel.";
+    "PROJECTION is a number or a name of 'vorntool proj list', or a beginning that only one\n"
+    "name has. Positions are in degrees, north and east positive; map coordinates in\n"
+    "Earth radii of 6378137 m, x to the right and y up from the position of --center (from\n"
+    "the pole in polar maps). --json adds the scale along the parallel.";
 
 constexpr Command kCommands[] = {
     {"proj", "list", "", "List the map projections with their parameters", "", 0, 0, kListOptions, ListProjections},

@@ -47,13 +47,3 @@ TEST(ChartWords, FindProjectionsByNumberNameAndBeginning)
     EXPECT_FALSE(ProjectionNamed("", names));
     EXPECT_FALSE(ProjectionNamed("globe", names));
 }
-
-TEST(ChartWords, KnowPicturesByTheirEndings)
-{
-    EXPECT_EQ(PictureKindOf("a.png"), PictureKind::Png);
-    EXPECT_EQ(PictureKindOf("a.JPG"), PictureKind::Jpeg);
-    EXPECT_EQ(PictureKindOf("a.b.jpeg"), PictureKind::Jpeg);
-    EXPECT_EQ(PictureKindOf("c:\\x\\a.Bmp"), PictureKind::Bmp);
-    EXPECT_EQ(PictureKindOf("a"), PictureKind::Png);
-    EXPECT_EQ(PictureKindOf("jpg"), PictureKind::Png);
-}

@@ -15,6 +15,13 @@ namespace
 constexpr int kMargin = 80;                      // pixels at 96 dpi: what lies beyond an edge and may still show
 constexpr double kSmallSymbolsAbove = 4'000'000; // scale
 constexpr double kSmallSymbol = 0.8;
+constexpr double kTinySymbolsAbove = 9'000'000; // scale
+constexpr double kTinySymbol = 0.55;
+
+double SymbolSize(double scale)
+{
+    return scale > kTinySymbolsAbove ? kTinySymbol : scale > kSmallSymbolsAbove ? kSmallSymbol : 1;
+}
 
 } // namespace
 
@@ -24,7 +31,7 @@ SceneDraft::SceneDraft(const ChartModel& itsModel, const ChartView& itsView, Lab
       labels(meter, {0, 0, itsView.Width(), itsView.Height()}, closed)
 {
     scene.unit = view.DotsPerInch() / 96;
-    scene.symbolUnit = scene.unit * (view.Scale() > kSmallSymbolsAbove ? kSmallSymbol : 1);
+    scene.symbolUnit = scene.unit * SymbolSize(view.Scale());
     reach = Grown({0, 0, view.Width(), view.Height()}, static_cast<int>(Px(kMargin)));
 }
 

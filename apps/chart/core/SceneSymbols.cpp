@@ -13,6 +13,7 @@ namespace
 
 // Pixels of a 96-dpi screen.
 constexpr double kLabelGap = 2.5;
+constexpr double kRouteStandOff = 16;
 constexpr double kRoseRadius = 46;
 constexpr double kTrueRunway = 22; // a runway of this length is drawn to scale
 constexpr double kRunwayHalf = 1.6;
@@ -45,8 +46,8 @@ struct SymbolLabel
     int priority;
     LabelText text;
     Ink ink;
-    double reach; ///< of the symbol
-    bool hasRose; ///< it may also stand outside the rose
+    double reach;    ///< of the symbol
+    double standOff; ///< it may also stand so far from the place; 0: it may not
 };
 
 void WishForLabel(SceneDraft& draft, SymbolLabel label, PixelPoint at)
@@ -56,10 +57,9 @@ void WishForLabel(SceneDraft& draft, SymbolLabel label, PixelPoint at)
     const PixelSize size = draft.labels.Measure(label.text);
     std::vector<PixelBox> places =
         PlacesAround(at, label.reach * draft.scene.symbolUnit + draft.Px(kLabelGap), size.width, size.height);
-    if (label.hasRose)
+    if (label.standOff > 0)
     {
-        const std::vector<PixelBox> outer =
-            PlacesAround(at, draft.Px(kRoseRadius + 2 * kLabelGap), size.width, size.height);
+        const std::vector<PixelBox> outer = PlacesAround(at, label.standOff, size.width, size.height);
         places.insert(places.end(), outer.begin(), outer.end());
     }
     draft.labels.Wish({{label.id, label.priority, std::move(places)}, std::move(label.text), label.ink, false});
@@ -68,6 +68,14 @@ void WishForLabel(SceneDraft& draft, SymbolLabel label, PixelPoint at)
 Ink InkOf(AidKind kind)
 {
     return HasRadials(kind) || kind == AidKind::Dme || kind == AidKind::Tacan ? Ink::Aid : Ink::Beacon;
+}
+
+/// Outside the rose. What lies on the route has a name even where it is crowded.
+double StandOff(const SceneDraft& draft, double reach, bool hasRose, bool onRoute)
+{
+    if (hasRose)
+        return draft.Px(kRoseRadius + 2 * kLabelGap);
+    return onRoute ? reach * draft.scene.symbolUnit + draft.Px(kRouteStandOff) : 0;
 }
 
 /// What is said of a place: at least its ident on the route.
@@ -103,7 +111,7 @@ void AddAid(SceneDraft& draft, int id, const Aid& aid)
     const SymbolShape& shape = ShapeOf(aid.kind);
     WishForLabel(draft,
                  {id, onRoute ? kRoutePriority : PriorityOf(aid), LabelOf(aid, DetailOf(draft, onRoute)), ink,
-                  shape.reach, hasRose},
+                  shape.reach, StandOff(draft, shape.reach, hasRose, onRoute)},
                  *at);
     AddSymbol(draft, {*at, shape, ink});
 }
@@ -143,7 +151,8 @@ void AddField(SceneDraft& draft, std::size_t index)
     }
     WishForLabel(draft,
                  {kFieldIds + static_cast<int>(index), onRoute ? kRoutePriority : PriorityOf(field),
-                  LabelOf(field, DetailOf(draft, onRoute)), Ink::Field, shape.reach, false},
+                  LabelOf(field, DetailOf(draft, onRoute)), Ink::Field, shape.reach,
+                  StandOff(draft, shape.reach, onRoute && draft.view.Scale() <= kRosesBelow, onRoute)},
                  *at);
     AddSymbol(draft, {*at, std::move(shape), Ink::Field});
 }

@@ -90,15 +90,4 @@ std::optional<int> ProjectionNamed(std::string_view word, const std::vector<std:
     return found;
 }
 
-PictureKind PictureKindOf(std::string_view path)
-{
-    const std::size_t dot = path.find_last_of('.');
-    const std::string_view ending = dot == std::string_view::npos ? std::string_view() : path.substr(dot);
-    const auto is = [ending](std::string_view other)
-    {
-        return ending.size() == other.size() && BeginsWith(ending, other);
-    };
-    return is(".jpg") || is(".jpeg") ? PictureKind::Jpeg : is(".bmp") ? PictureKind::Bmp : PictureKind::Png;
-}
-
 } // namespace vorn::tool

@@ -34,14 +34,4 @@ std::optional<double> ParseScale(std::string_view text);
 /// The number of a projection: the number itself, the name in either case, or a beginning that only one name has.
 std::optional<int> ProjectionNamed(std::string_view word, const std::vector<std::string>& names);
 
-enum class PictureKind
-{
-    Png,
-    Jpeg,
-    Bmp,
-};
-
-/// By the ending of a file's name, in either case: .jpg, .jpeg and .bmp; PNG for all others.
-PictureKind PictureKindOf(std::string_view path);
-
 } // namespace vorn::tool

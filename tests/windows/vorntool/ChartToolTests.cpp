@@ -22,7 +22,8 @@ protected:
     /// Renders a chart with these words more. @return the text of its view
     std::string Render(const char* name, std::vector<std::string> words)
     {
-        std::vector<std::string> all = {"chart", "render", "--out", m_folder.File(name), "--app", "VornToolTest"};
+        std::vector<std::string> all = {"chart",   "render", "--out",       m_folder.File(name),
+                                        "--force", "--app",  "VornToolTest"};
         all.insert(all.end(), words.begin(), words.end());
         const ToolRun run = RunVornTool(all);
         EXPECT_EQ(run.status, 0u) << run.errors;
@@ -161,6 +162,11 @@ TEST_F(ChartTool, SaysWhatIsWrongWithTheCall)
     ExpectFailure({"chart", "render", "--out", out, "--projection", "flat"}, 2,
                   "vorntool chart render: 'flat' is no projection; 'vorntool proj list' names them");
     EXPECT_EQ(m_folder.Read("x.png"), "");
+    for (const char* name : {"chart.gif", "chart", ""})
+    {
+        ExpectFailure({"chart", "render", "--out", name}, 2,
+                      std::string("vorntool chart render: '") + name + "' does not end in .bmp, .png, .jpg or .jpeg");
+    }
 }
 
 TEST_F(ChartTool, RefusesWhatCannotBeDone)
@@ -168,10 +174,14 @@ TEST_F(ChartTool, RefusesWhatCannotBeDone)
     const std::string out = m_folder.File("x.png");
     const std::string folder = m_folder.Path().string();
     ExpectFailure({"chart", "render", "--out", out, "--data", folder}, 1,
-                  "vorntool chart render: cannot open navaids.dbf, runways.dbf, shores.dbf in " + folder + "\\");
+                  "vorntool chart render: cannot open navaids.dbf, runways.dbf, shores.dbf in '" + folder + "\\'");
     const std::string nowhere = m_folder.File("no such folder\\x.png");
     ExpectFailure({"chart", "render", "--size", "32x32", "--out", nowhere}, 1,
-                  "vorntool chart render: cannot write '" + nowhere + "'");
+                  "vorntool chart render: '" + nowhere + "' could not be written");
+    const std::string old = m_folder.Write("old.png", "something");
+    ExpectFailure({"chart", "render", "--size", "32x32", "--out", old}, 1,
+                  "vorntool chart render: '" + old + "' exists; --force replaces it");
+    EXPECT_EQ(m_folder.Read("old.png"), "something");
     ExpectFailure({"chart", "render", "--out", out, "--view", "v1|99|0|0|0|0|0|0|180|0|25|0|"}, 1,
                   "vorntool chart render: the view's projection is not here");
     ExpectFailure({"chart", "render", "--out", out, "--view", "v1|2|2|45|-45|0|0|0|0|0|180|0|47|-120|"}, 1,

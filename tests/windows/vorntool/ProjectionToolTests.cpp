@@ -53,6 +53,7 @@ TEST(ProjectionTool, ProjectsForward)
                 "--decimals", "3"},
                "-37656.674 5260850.875\n0.000 0.000\n");
     ExpectDone({"proj", "forward", "orthographic", "0", "90"}, "1 0\n");
+    ExpectDone({"proj", "forward", "ortho", "0", "90"}, "1 0\n");
     ExpectDone({"proj", "forward", "EQUIDISTANT CYLINDRICAL", "-45", "-90", "--decimals=6"}, "-1.570796 -0.785398\n");
     ExpectDone({"proj", "forward", "0", "0", "90", "--skew", "90", "--decimals", "6"}, "0.000000 -1.570796\n");
 }
@@ -88,7 +89,7 @@ TEST(ProjectionTool, WhatIsNotOnTheMapIsReportedAndTheRestIsPrinted)
 TEST(ProjectionTool, WhatItDoesNotUnderstandIsWrongUse)
 {
     const std::string forward = "vorntool proj forward: ";
-    for (const char* name : {"6", "-1", "Mercato", "", "99999999999999999999"})
+    for (const char* name : {"6", "-1", "Mercators", "", "99999999999999999999"})
     {
         ExpectFailure({"proj", "forward", name, "1", "2"}, 2,
                       forward + "unknown projection '" + name + "'; 'vorntool proj list' shows them");
