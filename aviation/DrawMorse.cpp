@@ -2,7 +2,9 @@
 #include "framework/gdi/CDC.h"
 
 #include <algorithm>
+#include <array>
 #include <climits>
+#include <cstddef>
 
 namespace
 {
@@ -79,6 +81,83 @@ RECT VisiblePart(HDC dc)
     return {held(left), held(top), held(right), held(bottom)};
 }
 
+/// An ident as it is asked for, and its width.
+struct Ident
+{
+    int x;
+    int y;
+    int unit;
+    int align;
+    const char* text;
+    int width;
+};
+
+/// Fills the blocks of an ident one by one, cut to the bounds: on any device, with any mapping.
+void FillBlocks(const SolidFill& fill, const Ident& ident, const RECT& bounds)
+{
+    const LONG top = Within(ident.y, bounds.top, bounds.bottom);
+    const LONG bottom = Within(static_cast<long long>(ident.y) + ident.unit, bounds.top, bounds.bottom);
+    vorn::VisitMorse(ident.x, ident.unit, ident.align, ident.text,
+                     [&](const vorn::MorseBlock& block)
+                     {
+                         const LONG left = Within(block.left, bounds.left, bounds.right);
+                         const LONG right = Within(block.right, bounds.left, bounds.right);
+                         fill.Fill(left, top, right, bottom);
+                     });
+}
+
+/// A bitmap of true colours, a pixel a unit: what is combined with its pixels bit by bit is what one expects.
+bool HasPlainPixels(HDC dc)
+{
+    BITMAP bitmap = {};
+    return ::GetObjectType(dc) == OBJ_MEMDC && ::GetMapMode(dc) == MM_TEXT && ::GetGraphicsMode(dc) == GM_COMPATIBLE &&
+           ::GetLayout(dc) == 0 && ::GetObject(::GetCurrentObject(dc, OBJ_BITMAP), sizeof bitmap, &bitmap) != 0 &&
+           bitmap.bmBitsPixel >= 24;
+}
+
+/// Fills all blocks with one call, through a mask: there a call costs more than its pixels.
+class MaskedFill
+{
+public:
+    static bool IsPossible(HDC dc, const Ident& ident)
+    {
+        return ident.width <= kMostPixels / ident.unit && HasPlainPixels(dc);
+    }
+
+    /// @return false when nothing was drawn.
+    bool Fill(HDC dc, const Ident& ident)
+    {
+        const int left = static_cast<int>(vorn::MorseStart(ident.x, ident.width, ident.align));
+        MakeFirstRow(ident, left);
+        for (int row = 1; row < ident.unit; ++row)
+        {
+            std::copy_n(m_mask.begin(), ident.width, m_mask.begin() + std::ptrdiff_t{row} * ident.width);
+        }
+        BITMAPINFO info = {};
+        info.bmiHeader = {sizeof info.bmiHeader, ident.width, -ident.unit, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        const int rows = ::StretchDIBits(dc, left, ident.y, ident.width, ident.unit, 0, 0, ident.width, ident.unit,
+                                         m_mask.data(), &info, DIB_RGB_COLORS, kPatternOrTarget);
+        return rows != 0 && rows != static_cast<int>(GDI_ERROR);
+    }
+
+private:
+    static constexpr int kMostPixels = 1024;
+    static constexpr DWORD kPatternOrTarget = 0x00B8074A; // the brush where the mask is 0, what is there where it is 1
+
+    void MakeFirstRow(const Ident& ident, long long begin)
+    {
+        std::fill_n(m_mask.begin(), ident.width, ~DWORD{0});
+        vorn::VisitMorse(ident.x, ident.unit, ident.align, ident.text,
+                         [&](const vorn::MorseBlock& block)
+                         {
+                             std::fill(m_mask.begin() + static_cast<std::ptrdiff_t>(block.left - begin),
+                                       m_mask.begin() + static_cast<std::ptrdiff_t>(block.right - begin), DWORD{0});
+                         });
+    }
+
+    std::array<DWORD, kMostPixels> m_mask;
+};
+
 } // namespace
 
 void DrawMorse(CDC* dc, COLORREF color, int x, int y, int unit, int align, const char* text)
@@ -89,16 +168,11 @@ void DrawMorse(CDC* dc, COLORREF color, int x, int y, int unit, int align, const
     {
         return;
     }
+    const Ident ident = {x, y, unit, align, text, width};
     const bool isNear = IsNear(x) && IsNear(y) && IsNear(unit) && IsNear(width);
-    const RECT bounds = isNear ? Around(4 * kFar) : VisiblePart(output);
-    const LONG top = Within(y, bounds.top, bounds.bottom);
-    const LONG bottom = Within(static_cast<long long>(y) + unit, bounds.top, bounds.bottom);
     const SolidFill fill(output, color);
-    vorn::VisitMorse(x, unit, align, text,
-                     [&](const vorn::MorseBlock& block)
-                     {
-                         const LONG left = Within(block.left, bounds.left, bounds.right);
-                         const LONG right = Within(block.right, bounds.left, bounds.right);
-                         fill.Fill(left, top, right, bottom);
-                     });
+    if (!isNear || !MaskedFill::IsPossible(output, ident) || !MaskedFill().Fill(output, ident))
+    {
+        FillBlocks(fill, ident, isNear ? Around(4 * kFar) : VisiblePart(output));
+    }
 }

@@ -5,6 +5,10 @@
 #include <cstring>
 #include <vector>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace vorn
 {
 namespace
@@ -232,56 +236,95 @@ constexpr std::size_t kLanes = 8;
 /// As many pixels as have sums of 16 bits.
 constexpr int kMostSummed = 256;
 
+/// Four rows a turn: what is added to stays longer in the processor's registers.
 void SumRows(const ImageView& source, int first, int count, std::vector<std::uint16_t>& sums)
 {
     const std::size_t size = sums.size() - kLanes;
-    std::ranges::fill(sums, std::uint16_t{0});
+    std::uint16_t* const to = sums.data();
+    std::fill_n(to, size, std::uint16_t{0});
     int y = first;
-    for (; y + 1 < first + count; y += 2)
+    for (; y + 3 < first + count; y += 4)
     {
-        const unsigned char* one = source.Row(y);
-        const unsigned char* other = source.Row(y + 1);
+        const unsigned char* a = source.Row(y);
+        const unsigned char* b = source.Row(y + 1);
+        const unsigned char* c = source.Row(y + 2);
+        const unsigned char* d = source.Row(y + 3);
         for (std::size_t i = 0; i < size; ++i)
-            sums[i] = static_cast<std::uint16_t>(sums[i] + one[i] + other[i]);
+            to[i] = static_cast<std::uint16_t>(to[i] + a[i] + b[i] + c[i] + d[i]);
     }
-    const unsigned char* last = source.Row(first + count - 1);
-    for (std::size_t i = 0; y < first + count && i < size; ++i)
-        sums[i] = static_cast<std::uint16_t>(sums[i] + last[i]);
+    for (; y < first + count; ++y)
+    {
+        const unsigned char* row = source.Row(y);
+        for (std::size_t i = 0; i < size; ++i)
+            to[i] = static_cast<std::uint16_t>(to[i] + row[i]);
+    }
 }
 
-/// Divides by a number of pixels from 2 on, rounded, by a multiplication: exactly, for sums of 16 bits.
+/// Divides sums by a number of pixels from 2 on, rounded, exactly.
 class Average
 {
 public:
     explicit Average(int pixels)
-        : m_half(static_cast<std::uint32_t>(pixels) / 2), m_factor(0xFFFFFFFF / static_cast<std::uint32_t>(pixels) + 1)
+        : m_pixels(Alike(static_cast<std::uint16_t>(pixels))), m_half(Alike(static_cast<std::uint16_t>(pixels / 2))),
+          m_factor(Alike(static_cast<std::uint16_t>(65536 / pixels)))
     {
     }
-    unsigned char Of(std::uint32_t sum) const
+
+    /// The first four, the first one in the lowest byte.
+    std::uint32_t Of(Sums sums) const
     {
-        return static_cast<unsigned char>(std::uint64_t{sum + m_half} * m_factor >> 32);
+        sums += m_half;
+#ifdef __SSE2__
+        const auto high = reinterpret_cast<Sums>(
+            _mm_mulhi_epu16(reinterpret_cast<__m128i>(sums), reinterpret_cast<__m128i>(m_factor)));
+        const Sums quotients = high - reinterpret_cast<Sums>(sums - high * m_pixels >= m_pixels); // one too low at most
+        const auto packed = reinterpret_cast<__m128i>(quotients);
+        return static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_packus_epi16(packed, packed)));
+#else
+        return static_cast<std::uint32_t>(sums[0] / m_pixels[0]) |
+               static_cast<std::uint32_t>(sums[1] / m_pixels[0]) << 8 |
+               static_cast<std::uint32_t>(sums[2] / m_pixels[0]) << 16 |
+               static_cast<std::uint32_t>(sums[3] / m_pixels[0]) << 24;
+#endif
     }
 
 private:
-    std::uint32_t m_half;
-    std::uint32_t m_factor;
+    static Sums Alike(std::uint16_t value)
+    {
+        return Sums{} + value;
+    }
+
+    Sums m_pixels;
+    Sums m_half;
+    Sums m_factor;
 };
 
+/// The first of the sums are those of one pixel's channels.
+template <std::size_t Channels>
+Sums SumOfPixels(const std::uint16_t* from, int pixels)
+{
+    Sums sums{};
+    for (int i = 0; i < pixels; ++i, from += Channels)
+    {
+        Sums pixel;
+        std::memcpy(&pixel, from, sizeof pixel);
+        sums += pixel;
+    }
+    return sums;
+}
+
+// Four bytes a store: the next pixel takes what is too much.
 template <std::size_t Channels>
 void SumColumns(const std::uint16_t* from, int pixels, const Average& average, int width, unsigned char* to)
 {
-    for (int x = 0; x < width; ++x)
+    const std::size_t step = static_cast<std::size_t>(pixels) * Channels;
+    for (int x = 1; x < width; ++x, from += step, to += Channels)
     {
-        Sums sums{};
-        for (int i = 0; i < pixels; ++i, from += Channels)
-        {
-            Sums pixel;
-            std::memcpy(&pixel, from, sizeof pixel);
-            sums += pixel;
-        }
-        for (std::size_t i = 0; i < Channels; ++i)
-            *to++ = average.Of(sums[i]);
+        const std::uint32_t color = average.Of(SumOfPixels<Channels>(from, pixels));
+        std::memcpy(to, &color, 4);
     }
+    const std::uint32_t last = average.Of(SumOfPixels<Channels>(from, pixels));
+    std::memcpy(to, &last, Channels);
 }
 
 /// Whether each pixel is made of a whole number of the source's, and not too many, along each axis.

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
+#include <cstdint>
+#include <type_traits>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace vorn
 {
@@ -10,7 +14,7 @@ namespace vorn
 namespace
 {
 
-constexpr int kPart = 128;
+constexpr int kStep = 16; // pixels that are looked at together
 
 int BitsOf(int resolution)
 {
@@ -18,45 +22,98 @@ int BitsOf(int resolution)
     return std::has_single_bit(side) ? std::countr_zero(side) : -1;
 }
 
-// Plain loops without a branch, which compilers turn into several pixels at a time.
-void NumberCells(const BYTE* pixels, std::uint32_t* cells, int count, int bits)
+#ifdef __SSE2__
+
+using Four = __m128i; // pixels or cells
+
+Four Load(const void* from)
 {
-    const int drop = 8 - bits;
-    const std::uint32_t most = (1U << bits) - 1;
-    for (int i = 0; i < count; ++i)
-    {
-        std::uint32_t pixel = 0;
-        std::memcpy(&pixel, pixels + i * 4, sizeof pixel);
-        cells[i] =
-            (pixel >> (16 + drop) & most) << 2 * bits | (pixel >> (8 + drop) & most) << bits | (pixel >> drop & most);
-    }
+    return _mm_loadu_si128(static_cast<const __m128i*>(from));
 }
 
-/// Bytes of 255 among four have their top bit set.
-std::uint32_t Unknown(std::uint32_t four)
+/// The cells of pixels where a channel has so many bits of a cell's number.
+template <int BITS>
+Four CellsOf(Four pixels)
 {
-    return ((four & 0x7F7F7F7FU) + 0x01010101U) & four & 0x80808080U;
+    static_assert(BITS > 0 && BITS < 8);
+    constexpr int kDrop = 8 - BITS;
+    constexpr int kKept = 0xFF >> kDrop << kDrop;
+    const Four redAndBlue = _mm_and_si128(pixels, _mm_set1_epi32(kKept << 16 | kKept));
+    const Four green = _mm_and_si128(pixels, _mm_set1_epi32(kKept << 8));
+    const Four outerAndInner = _mm_madd_epi16(redAndBlue, _mm_set1_epi32(1 << (16 + 2 * BITS) | 1));
+    return _mm_srli_epi32(_mm_or_si128(outerAndInner, _mm_srli_epi32(green, 8 - BITS)), kDrop);
 }
 
-/// False when some are unknown.
-bool TakeCells(const BYTE* held, const std::uint32_t* cells, BYTE* indices, int count)
+/// The indices of kStep pixels.
+template <int BITS>
+void TakeStep(const BYTE* held, const BYTE* pixels, BYTE* indices)
 {
-    std::uint32_t unknown = 0;
-    int i = 0;
-    for (; i + 4 <= count; i += 4)
+    using Cell = std::conditional_t<BITS <= 5, std::uint16_t, std::uint32_t>; // 15 bits fit a signed word
+    alignas(16) std::array<Cell, kStep> cells;
+    constexpr int kPiece = 16 / static_cast<int>(sizeof(Cell));
+    for (int i = 0; i < kStep; i += kPiece, pixels += kPiece * 4)
     {
-        const std::uint32_t four = held[cells[i]] | std::uint32_t{held[cells[i + 1]]} << 8 |
-                                   std::uint32_t{held[cells[i + 2]]} << 16 | std::uint32_t{held[cells[i + 3]]} << 24;
-        unknown |= Unknown(four);
-        std::memcpy(indices + i, &four, sizeof four);
+        Four piece = CellsOf<BITS>(Load(pixels));
+        if constexpr (BITS <= 5)
+            piece = _mm_packs_epi32(piece, CellsOf<BITS>(Load(pixels + 16)));
+        _mm_store_si128(reinterpret_cast<__m128i*>(cells.data() + i), piece);
     }
-    for (; i < count; ++i)
-    {
+    for (std::size_t i = 0; i < cells.size(); ++i)
         indices[i] = held[cells[i]];
-        unknown |= Unknown(indices[i]);
-    }
-    return unknown == 0;
 }
+
+template <int BITS>
+int TakeSteps(const BYTE* held, const BYTE* pixels, BYTE* indices, int count)
+{
+    int at = 0;
+    for (; at + kStep <= count; at += kStep)
+        TakeStep<BITS>(held, pixels + at * 4, indices + at);
+    return at;
+}
+
+/// How many pixels have their indices: whole steps, for the resolutions in use.
+int TakeSteps(int bits, const BYTE* held, const BYTE* pixels, BYTE* indices, int count)
+{
+    switch (bits)
+    {
+    case 3:
+        return TakeSteps<3>(held, pixels, indices, count);
+    case 4:
+        return TakeSteps<4>(held, pixels, indices, count);
+    case 5:
+        return TakeSteps<5>(held, pixels, indices, count);
+    case 6:
+        return TakeSteps<6>(held, pixels, indices, count);
+    case 7:
+        return TakeSteps<7>(held, pixels, indices, count);
+    default:
+        return 0;
+    }
+}
+
+bool Has(BYTE wanted, const BYTE* bytes, int count)
+{
+    const __m128i all = _mm_set1_epi8(static_cast<char>(wanted));
+    __m128i found = _mm_setzero_si128();
+    int i = 0;
+    for (; i + 16 <= count; i += 16)
+        found = _mm_or_si128(found, _mm_cmpeq_epi8(Load(bytes + i), all));
+    return _mm_movemask_epi8(found) != 0 || std::find(bytes + i, bytes + count, wanted) != bytes + count;
+}
+
+#else
+
+int TakeSteps(int, const BYTE*, const BYTE*, BYTE*, int)
+{
+    return 0;
+}
+
+bool Has(BYTE wanted, const BYTE* bytes, int count)
+{
+    return std::find(bytes, bytes + count, wanted) != bytes + count;
+}
+
+#endif
 
 } // namespace
 
@@ -76,22 +133,9 @@ PaletteCells::PaletteCells(int resolution) : m_resolution(std::clamp(resolution,
 
 bool PaletteCells::LookUp(const BYTE* pixels, BYTE* indices, int count) const
 {
-    bool isKnown = true;
-    for (int at = 0; at < count; at += kPart)
-        isKnown &= LookUpPart(pixels + at * 4, indices + at, std::min(kPart, count - at));
-    return isKnown;
-}
-
-bool PaletteCells::LookUpPart(const BYTE* pixels, BYTE* indices, int count) const
-{
-    std::array<std::uint32_t, kPart> cells;
-    if (m_bits >= 0)
-        NumberCells(pixels, cells.data(), count, m_bits);
-    else
-        for (int i = 0; i < count; ++i)
-            cells[static_cast<std::size_t>(i)] =
-                static_cast<std::uint32_t>(CellOf(pixels[i * 4 + 2], pixels[i * 4 + 1], pixels[i * 4]));
-    return TakeCells(m_cells.data(), cells.data(), indices, count);
+    for (int i = TakeSteps(m_bits, m_cells.data(), pixels, indices, count); i < count; ++i)
+        indices[i] = m_cells[CellOf(pixels[i * 4 + 2], pixels[i * 4 + 1], pixels[i * 4])];
+    return !Has(kUnknown, indices, count);
 }
 
 void PaletteCells::Reset()

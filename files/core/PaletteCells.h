@@ -62,7 +62,6 @@ private:
 
     /// What the cells hold; false when some are unknown.
     bool LookUp(const BYTE* pixels, BYTE* indices, int count) const;
-    bool LookUpPart(const BYTE* pixels, BYTE* indices, int count) const;
 
     /// What each value of a channel adds to the cell's number.
     using Share = std::array<std::uint32_t, 256>;

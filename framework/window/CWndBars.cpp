@@ -1,4 +1,8 @@
 #include "framework/window/CWnd.h"
+#include "framework/window/WindowMap.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace
 {
@@ -40,9 +44,43 @@ void AfxRepositionWindow(AFX_SIZEPARENTPARAMS* lpLayout, HWND hWnd, LPCRECT lpRe
 namespace
 {
 
-/// Lets each bar take its part. @return the window that gets the rest, or null
+void LayOutBar(HWND bar, AFX_SIZEPARENTPARAMS& layout)
+{
+    ::SendMessage(bar, WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&layout));
+}
+
+/// The bars among a window's children, in no order.
+std::vector<HWND> BarsOf(HWND parent, UINT first, UINT last)
+{
+    std::vector<HWND> bars;
+    vorn::WindowMap().VisitPermanent(
+        [&](HWND window, CWnd*)
+        {
+            const UINT id = LOWORD(::GetDlgCtrlID(window));
+            if (id >= first && id <= last && ::GetAncestor(window, GA_PARENT) == parent)
+            {
+                bars.push_back(window);
+            }
+        });
+    return bars;
+}
+
+/// Lets each bar take its part, in the order of the windows. @return the window that gets the rest, or null
 HWND LayOutBars(HWND parent, UINT first, UINT last, UINT leftOver, AFX_SIZEPARENTPARAMS& layout)
 {
+    // To go from child to child is a question to the system each: a dialog of many controls has one bar or none.
+    if (const UINT least = std::max(first, 1U); leftOver == 0)
+    {
+        const std::vector<HWND> bars = BarsOf(parent, least, last);
+        if (bars.size() <= 1)
+        {
+            for (HWND bar : bars)
+            {
+                LayOutBar(bar, layout);
+            }
+            return nullptr;
+        }
+    }
     HWND rest = nullptr;
     for (HWND child = ::GetTopWindow(parent); child; child = ::GetWindow(child, GW_HWNDNEXT))
     {
@@ -53,7 +91,7 @@ HWND LayOutBars(HWND parent, UINT first, UINT last, UINT leftOver, AFX_SIZEPAREN
         }
         else if (id >= first && id <= last && CWnd::FromHandlePermanent(child))
         {
-            ::SendMessage(child, WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&layout));
+            LayOutBar(child, layout);
         }
     }
     return rest;

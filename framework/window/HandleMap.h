@@ -139,6 +139,16 @@ public:
         return m_permanent.size();
     }
 
+    /// Calls visit(handle, object) for each permanent object, in no order. It must change nothing here.
+    template <class Visit>
+    void VisitPermanent(Visit visit) const
+    {
+        for (const auto& [handle, object] : m_permanent)
+        {
+            visit(handle, object);
+        }
+    }
+
     void FreeTemporary(int depth) override
     {
         for (auto entry = m_temporary.begin(); entry != m_temporary.end();)

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstdint>
+#include <random>
 #include <vector>
 
 namespace
@@ -33,29 +35,71 @@ BYTE SomeIndex(BYTE red, BYTE green, BYTE blue)
     return static_cast<BYTE>(sum % 7 == 0 ? 255 : sum);
 }
 
+/// By rows what is found pixel by pixel, at each resolution; nothing is written behind the row.
+void ExpectIndicesOf(const std::vector<BYTE>& pixels)
+{
+    const std::size_t count = pixels.size() / 4;
+    for (const int resolution : {1, 2, 4, 5, 8, 16, 32, 64, 100, 128, 256})
+    {
+        vorn::PaletteCells byRow(resolution);
+        vorn::PaletteCells byPixel(resolution);
+        std::vector<BYTE> indices(count + 1, 77);
+        byRow.IndicesOf(pixels.data(), indices.data(), static_cast<int>(count), SomeIndex);
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            ASSERT_EQ(byPixel.IndexOf(pixels[i * 4 + 2], pixels[i * 4 + 1], pixels[i * 4], SomeIndex), indices[i])
+                << resolution << ' ' << count << ' ' << i;
+        }
+        EXPECT_EQ(77, indices.back());
+    }
+}
+
 TEST(PaletteCells, ARowHasTheIndicesOfItsPixels)
 {
-    for (const int resolution : {1, 2, 5, 8, 32, 64, 100, 256})
+    for (const int count : {0, 1, 3, 4, 7, 15, 16, 17, 300})
     {
-        for (const int count : {0, 1, 3, 4, 7, 300})
+        std::vector<BYTE> pixels;
+        for (int i = 0; i < count * 4; ++i)
         {
-            std::vector<BYTE> pixels;
-            for (int i = 0; i < count * 4; ++i)
-            {
-                pixels.push_back(static_cast<BYTE>(i * 37 + i / 11));
-            }
-            vorn::PaletteCells byRow(resolution);
-            vorn::PaletteCells byPixel(resolution);
-            std::vector<BYTE> indices(static_cast<std::size_t>(count) + 1, 77);
-            byRow.IndicesOf(pixels.data(), indices.data(), count, SomeIndex);
-            for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i)
-            {
-                EXPECT_EQ(byPixel.IndexOf(pixels[i * 4 + 2], pixels[i * 4 + 1], pixels[i * 4], SomeIndex), indices[i])
-                    << resolution << ' ' << count << ' ' << i;
-            }
-            EXPECT_EQ(77, indices.back());
+            pixels.push_back(static_cast<BYTE>(i * 37 + i / 11));
         }
+        ExpectIndicesOf(pixels);
     }
+}
+
+TEST(PaletteCells, ARowOfFewColoursHasTheIndicesOfItsPixels)
+{
+    std::mt19937 random(1903);
+    for (int round = 0; round < 6; ++round)
+    {
+        std::vector<BYTE> pixels;
+        for (unsigned run = 0; run < 60; ++run)
+        {
+            const auto color = static_cast<std::uint32_t>(random());
+            const bool isClear = random() % 2 == 0; // the fourth byte has no meaning
+            for (auto length = 1 + random() % (run % 3 == 0 ? 70 : 5); length > 0; --length)
+            {
+                for (const int shift : {0, 8, 16})
+                {
+                    pixels.push_back(static_cast<BYTE>(color >> shift));
+                }
+                pixels.push_back(static_cast<BYTE>(isClear ? 255 : random()));
+            }
+        }
+        ExpectIndicesOf(pixels);
+    }
+}
+
+TEST(PaletteCells, AKnownCellAnswersForLongRuns)
+{
+    vorn::PaletteCells cells(32);
+    Asked asked;
+    const std::vector<BYTE> pixels(std::size_t{4} * 100, 40);
+    std::vector<BYTE> indices(100);
+    cells.IndicesOf(pixels.data(), indices.data(), 100, asked);
+    cells.IndicesOf(pixels.data(), indices.data(), 100, asked);
+    EXPECT_EQ(asked.Colors(), std::vector<int>{0x282828});
+    EXPECT_EQ(indices, std::vector<BYTE>(100, 40));
 }
 
 } // namespace

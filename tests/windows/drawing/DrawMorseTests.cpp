@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstring>
 #include <random>
 #include <string>
 #include <vector>
@@ -30,6 +31,54 @@ std::string Empty(CSize size)
 {
     return Canvas(size.cx, size.cy).Picture();
 }
+
+/// A bitmap of any depth whose bytes are all of the same kind at first.
+class Bitmap
+{
+public:
+    explicit Bitmap(int depth)
+    {
+        struct
+        {
+            BITMAPINFOHEADER header;
+            RGBQUAD colors[256];
+        } info = {};
+        info.header = {sizeof info.header, 50, -6, 1, static_cast<WORD>(depth), BI_RGB, 0, 0, 0, 0, 0};
+        for (int i = 0; depth <= 8 && i < 1 << depth; ++i)
+        {
+            const auto value = static_cast<BYTE>(i * 255 / ((1 << depth) - 1));
+            info.colors[i] = {value, value, value, 0};
+        }
+        dc = ::CreateCompatibleDC(nullptr);
+        m_bitmap = ::CreateDIBSection(dc, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS, &m_bits, nullptr, 0);
+        m_size = static_cast<std::size_t>((50 * depth + 31) / 32 * 4 * 6);
+        std::memset(m_bits, 0xA5, m_size);
+        m_former = ::SelectObject(dc, m_bitmap);
+    }
+    ~Bitmap()
+    {
+        ::SelectObject(dc, m_former);
+        ::DeleteDC(dc);
+        ::DeleteObject(m_bitmap);
+    }
+    Bitmap(const Bitmap&) = delete;
+    Bitmap& operator=(const Bitmap&) = delete;
+
+    std::vector<int> Bytes() const
+    {
+        ::GdiFlush();
+        const auto* const bytes = static_cast<const BYTE*>(m_bits);
+        return {bytes, bytes + m_size};
+    }
+
+    HDC dc;
+
+private:
+    HBITMAP m_bitmap;
+    HGDIOBJ m_former;
+    void* m_bits = nullptr;
+    std::size_t m_size;
+};
 
 /// The signs of each letter: ITU-R M.1677-1, 1.1.1.
 constexpr const char* kSigns[] = {".-",   "-...", "-.-.", "-..",  ".",   "..-.", "--.",  "....", "..",
@@ -298,6 +347,24 @@ TEST(DrawMorse, MetafilesRecordIt)
     EXPECT_TRUE(canvas.dc.PlayMetaFile(recorded));
     EXPECT_EQ(canvas.Picture(), "..R.RRRR..\n..BBBBBBBB\n");
     ::DeleteMetaFile(recorded);
+}
+
+TEST(DrawMorse, BitmapsOfEachDepthGetTheSameBytesAsFromPixels)
+{
+    for (const int depth : {1, 4, 8, 16, 24, 32})
+    {
+        const Bitmap drawn(depth);
+        const Bitmap set(depth);
+        DrawMorse(CDC::FromHandle(drawn.dc), RGB(10, 120, 230), 3, 2, 2, 0, "SEA");
+        for (const int left : {0, 2, 4, 8, 12, 14, 15, 16, 17}) // a dash is as long as four dots
+        {
+            for (int i = 0; i < 4; ++i)
+            {
+                ::SetPixel(set.dc, 3 + 2 * left + i % 2, 2 + i / 2, RGB(10, 120, 230));
+            }
+        }
+        EXPECT_EQ(drawn.Bytes(), set.Bytes()) << depth;
+    }
 }
 
 TEST(DrawMorse, TheColourIsTheOneThatAPixelWouldGet)

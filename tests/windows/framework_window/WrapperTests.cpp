@@ -23,7 +23,33 @@ protected:
         of.GetWindowRect(&rect);
         return rect;
     }
+    CRect PlaceWithin(const CWnd& of) const
+    {
+        CRect rect = Place(of);
+        window.ScreenToClient(&rect);
+        return rect;
+    }
     CWnd window;
+};
+
+/// A bar at the top, 25 pixels high.
+class TopBar : public CWnd
+{
+public:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_SIZEPARENT)
+        {
+            auto* layout = reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
+            RECT mine = layout->rect;
+            mine.bottom = mine.top + 25;
+            layout->rect.top += 25;
+            layout->sizeTotal.cy += 25;
+            AfxRepositionWindow(layout, m_hWnd, &mine);
+            return 0;
+        }
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
 };
 
 } // namespace
@@ -312,44 +338,49 @@ TEST_F(Wrappers, ChooseASafeOwner)
 
 TEST_F(Wrappers, LayOutBarsAroundTheRest)
 {
-    class Bar : public CWnd
-    {
-    public:
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == WM_SIZEPARENT)
-            {
-                auto* layout = reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
-                RECT mine = layout->rect;
-                mine.bottom = mine.top + 25;
-                layout->rect.top += 25;
-                layout->sizeTotal.cy += 25;
-                AfxRepositionWindow(layout, m_hWnd, &mine);
-                return 0;
-            }
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
-    };
-    Bar bar;
+    TopBar bar;
     CWnd rest;
     ASSERT_TRUE(CreateChild(bar, window, AFX_IDW_TOOLBAR));
     ASSERT_TRUE(CreateChild(rest, window, AFX_IDW_PANE_FIRST));
-    const auto place = [&](const CWnd& of)
-    {
-        CRect rect = Place(of);
-        window.ScreenToClient(&rect);
-        return rect;
-    };
     CRect query;
     window.RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, CWnd::reposQuery, &query);
     EXPECT_EQ(query, CRect(0, 25, 200, 100));
-    EXPECT_EQ(place(bar), CRect(0, 0, 30, 20)) << "asking moves nothing";
+    EXPECT_EQ(PlaceWithin(bar), CRect(0, 0, 30, 20)) << "asking moves nothing";
     window.RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST);
-    EXPECT_EQ(place(bar), CRect(0, 0, 200, 25));
-    EXPECT_EQ(place(rest), CRect(0, 25, 200, 100));
+    EXPECT_EQ(PlaceWithin(bar), CRect(0, 0, 200, 25));
+    EXPECT_EQ(PlaceWithin(rest), CRect(0, 25, 200, 100));
     CRect extra(1, 2, 3, 4);
     window.RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, CWnd::reposExtra, &extra);
-    EXPECT_EQ(place(rest), CRect(1, 27, 197, 96));
+    EXPECT_EQ(PlaceWithin(rest), CRect(1, 27, 197, 96));
+}
+
+TEST_F(Wrappers, LayOutTheBarsOfAWindowThatGivesNoRest)
+{
+    TopBar only;
+    ASSERT_TRUE(CreateChild(only, window, AFX_IDW_STATUS_BAR));
+    TopBar inner;
+    ASSERT_TRUE(CreateChild(inner, only, AFX_IDW_TOOLBAR));
+    TopBar control;
+    ASSERT_TRUE(CreateChild(control, window, 1000));
+    const CRect child = PlaceWithin(control);
+    window.RepositionBars(AFX_IDW_CONTROLBAR_FIRST, AFX_IDW_CONTROLBAR_LAST, 0);
+    EXPECT_EQ(PlaceWithin(only), CRect(0, 0, 200, 25));
+    EXPECT_EQ(PlaceWithin(control), child) << "its number is no bar's";
+    EXPECT_EQ(PlaceWithin(inner).Height(), 20) << "a child of a bar is its own business";
+}
+
+TEST_F(Wrappers, LayOutBarsInTheOrderOfTheWindows)
+{
+    TopBar bars[3];
+    for (UINT i = 0; i < 3; ++i)
+    {
+        ASSERT_TRUE(CreateChild(bars[i], window, AFX_IDW_CONTROLBAR_FIRST + i));
+    }
+    bars[2].SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    window.RepositionBars(AFX_IDW_CONTROLBAR_FIRST, AFX_IDW_CONTROLBAR_LAST, 0);
+    EXPECT_EQ(PlaceWithin(bars[2]).top, 0);
+    EXPECT_EQ(PlaceWithin(bars[0]).top, 25);
+    EXPECT_EQ(PlaceWithin(bars[1]).top, 50);
 }
 
 TEST_F(Wrappers, TakeTheMouseAndTellWhoHadIt)
