@@ -29,6 +29,7 @@ ON_EN_CHANGE(IDC_GOTO_LATITUDE, OnPositionTyped)
 ON_EN_CHANGE(IDC_GOTO_LONGITUDE, OnPositionTyped)
 ON_CBN_SELCHANGE(IDC_GOTO_PLACE, OnPlaceTyped)
 ON_CBN_EDITCHANGE(IDC_GOTO_PLACE, OnPlaceTyped)
+ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 GotoDialog::GotoDialog(PlannerData& data, CWnd* parent) : PlannerDialog(IDD_GOTO, data, parent, "GotoDialog")
@@ -69,6 +70,27 @@ void GotoDialog::Arrange(Form& form)
     list << itemSpaceFixed(Horizontal, form.X(12)) << form.Large(IDC_GOTO_PLACE, 80, 60);
     CreateRoot(Vertical, form.Y(5)) << form.Fixed(IDC_GOTO_BY_POSITION) << indented << form.Fixed(IDC_GOTO_BY_PLACE)
                                     << list << form.Buttons({IDOK, IDCANCEL});
+}
+
+void GotoDialog::OnSize(UINT type, int cx, int cy)
+{
+    PlannerDialog::OnSize(type, cx, cy);
+    ShowChosen();
+}
+
+/// The list does not keep its choice in sight when it becomes lower.
+void GotoDialog::ShowChosen()
+{
+    const HWND list = ::FindWindowEx(m_place.m_hWnd, nullptr, "ComboLBox", nullptr);
+    if (m_place.m_hWnd == nullptr || list == nullptr)
+        return;
+    CRect client;
+    ::GetClientRect(list, &client);
+    const int visible = client.Height() / std::max(1, static_cast<int>(::SendMessage(list, LB_GETITEMHEIGHT, 0, 0)));
+    const int chosen = m_place.GetCurSel();
+    const int top = static_cast<int>(::SendMessage(list, LB_GETTOPINDEX, 0, 0));
+    if (chosen >= top + visible && visible > 0)
+        ::SendMessage(list, LB_SETTOPINDEX, static_cast<WPARAM>(chosen - visible + 1), 0);
 }
 
 void GotoDialog::OnPositionTyped()

@@ -21,9 +21,11 @@ protected:
 
     afx_msg void OnPositionTyped();
     afx_msg void OnPlaceTyped();
+    afx_msg void OnSize(UINT type, int cx, int cy);
     DECLARE_MESSAGE_MAP()
 
 private:
+    void ShowChosen();
     bool ByPosition();
     bool ByPlace();
     void Refuse(UINT id, const std::string& why);

@@ -108,6 +108,16 @@ void PutSmall(DIB& sheet, const std::string& file, int x, int y)
 
 } // namespace
 
+bool IsWholeOnScreen(HWND window)
+{
+    CRect place;
+    GetWindowRect(window, &place);
+    const CRect screen(CPoint(GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_YVIRTUALSCREEN)),
+                       CSize(GetSystemMetrics(SM_CXVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN)));
+    CRect seen;
+    return seen.IntersectRect(&place, &screen) && seen == place;
+}
+
 bool TakePicture(const std::vector<HWND>& windows, DIB& picture)
 {
     CRect all(0, 0, 0, 0);

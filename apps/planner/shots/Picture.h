@@ -8,6 +8,9 @@
 namespace vorn::planner
 {
 
+/// Whether nothing of a window lies beyond the screen, where its picture would show nothing.
+bool IsWholeOnScreen(HWND window);
+
 /// Makes `picture` what shown windows look like now, frames included, in their places: the later ones lie on top. What
 /// none of them covers is grey. False when there is nothing to see.
 bool TakePicture(const std::vector<HWND>& windows, DIB& picture);

@@ -18,6 +18,7 @@
 #include "apps/planner/shots/TipFacts.h"
 #include "apps/planner/shots/WindowFacts.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -53,6 +54,15 @@ void PaintAll(HWND window)
 void Resize(HWND window, int width, int height)
 {
     SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+/// As far as the screen allows: what lies beyond it is on no picture.
+void Enlarge(HWND window, int width, int height)
+{
+    RECT screen{};
+    SystemParametersInfo(SPI_GETWORKAREA, 0, &screen, 0);
+    SetWindowPos(window, nullptr, screen.left, screen.top, std::min<int>(width, screen.right - screen.left),
+                 std::min<int>(height, screen.bottom - screen.top), SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 /// Lets a tip come, which takes half a second.
@@ -370,10 +380,11 @@ void ShotRun::Sizes(HWND window, const std::string& name)
     Resize(window, 1, 1);
     PaintAll(window);
     Shot({window}, name + "-1-small", true);
-    Resize(window, static_cast<int>(first.Width() * kLarge), static_cast<int>(first.Height() * kLarge));
+    Enlarge(window, static_cast<int>(first.Width() * kLarge), static_cast<int>(first.Height() * kLarge));
     PaintAll(window);
     Shot({window}, name + "-3-large", true);
-    Resize(window, first.Width(), first.Height());
+    ::SetWindowPos(window, nullptr, first.left, first.top, first.Width(), first.Height(),
+                   SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void ShotRun::Shot(const std::vector<HWND>& windows, const std::string& name, bool isChecked)
@@ -387,6 +398,8 @@ void ShotRun::Shot(const std::vector<HWND>& windows, const std::string& name, bo
             m_faults.push_back(full + ": " + fault);
         for (const std::string& fault : UnexplainedControls(windows.front()))
             m_faults.push_back(full + ": " + fault);
+        if (!IsWholeOnScreen(windows.front()))
+            m_faults.push_back(full + ": the window lies partly beyond the screen");
     }
     DIB picture;
     if (!TakePicture(windows, picture) || !picture.WritePNG((m_folder + '\\' + full + ".png").c_str()))

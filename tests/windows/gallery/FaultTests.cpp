@@ -107,6 +107,23 @@ TEST_F(Looked, ThePagesOfATabControlLieInIt)
     EXPECT_EQ(Faults(), "");
 }
 
+TEST_F(Looked, AWindowPartlyBeyondTheScreenIsNotWhole)
+{
+    Template();
+    EXPECT_EQ(Faults(), "");
+    EXPECT_TRUE(planner::IsWholeOnScreen(m_dialog));
+    const CSize screen(GetSystemMetrics(SM_CXVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN));
+    const CSize size = WindowRect(m_dialog).Size();
+    for (const CPoint corner : {CPoint(-1, 0), CPoint(0, -1), CPoint(screen.cx - size.cx + 1, 0),
+                                CPoint(0, screen.cy - size.cy + 1), CPoint(9000, 9000)})
+    {
+        m_dialog.SetWindowPos(nullptr, corner.x, corner.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        EXPECT_FALSE(planner::IsWholeOnScreen(m_dialog)) << corner.x << ' ' << corner.y;
+    }
+    m_dialog.SetWindowPos(nullptr, screen.cx - size.cx, screen.cy - size.cy, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_TRUE(planner::IsWholeOnScreen(m_dialog));
+}
+
 TEST_F(Looked, APictureHasTheSizeOfItsWindowAndGoesOntoTheContactSheet)
 {
     ScratchFolder folder;

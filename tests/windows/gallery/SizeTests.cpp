@@ -1,3 +1,4 @@
+#include "apps/planner/resource.h"
 #include "tests/support/PumpUntil.h"
 #include "tests/windows/gallery/GalleryTest.h"
 
@@ -128,6 +129,31 @@ TEST_P(SizedWindow, OpensMaximisedAfterItWasClosedSo)
     Reopen();
     EXPECT_TRUE(Window().IsZoomed());
     EXPECT_EQ(FaultsText(Window()), "");
+}
+
+using SizedGoto = GalleryTest;
+
+TEST_F(SizedGoto, KeepsTheChosenPlaceInSightWhenItBecomesLower)
+{
+    for (int i = 0; i < 40; ++i)
+        m_data.places.push_back({"A" + std::to_string(10 + i), "", {47, -120}});
+    m_data.plan.departure = "KYKM"; // the last of the list
+    const std::unique_ptr<OpenWindow> open = Open(GalleryWindowNamed("Goto"));
+    ASSERT_NE(open, nullptr);
+    CWnd& box = *open->Window().GetDlgItem(IDC_GOTO_PLACE);
+    for (const int height : {700, 500, 1})
+    {
+        SizeTo(open->Window(), 400, height);
+        const auto chosen = box.SendMessage(CB_GETCURSEL);
+        ASSERT_EQ(chosen, 45);
+        const HWND list = ::FindWindowEx(box, nullptr, "ComboLBox", nullptr);
+        RECT place{};
+        ::SendMessage(list, LB_GETITEMRECT, static_cast<WPARAM>(chosen), reinterpret_cast<LPARAM>(&place));
+        RECT client{};
+        ::GetClientRect(list, &client);
+        EXPECT_GE(place.top, 0) << height;
+        EXPECT_LE(place.bottom, client.bottom) << height;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Gallery, SizedWindow, testing::ValuesIn(GalleryWindows()), NameOfWindow);
