@@ -1,17 +1,16 @@
 #include "apps/sample/model/ViewedPicture.h"
 
 #include "apps/sample/model/SamplePicture.h"
+#include "apps/sample/model/SavePicture.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <memory>
 
 namespace
 {
 
 constexpr int kMostImages = 1000;
-constexpr int kJpegQuality = 90;
 
 struct Format
 {
@@ -107,12 +106,6 @@ std::string Number(std::uint64_t value)
     return digits;
 }
 
-bool EndsWith(const std::string& path, const char* ending)
-{
-    const CString text(path.c_str());
-    return text.Right(static_cast<int>(std::strlen(ending))).CompareNoCase(ending) == 0;
-}
-
 } // namespace
 
 std::string ViewedPicture::Open(const std::string& path)
@@ -199,19 +192,7 @@ bool ViewedPicture::Resize(int width, int height, bool byArea)
 
 std::string ViewedPicture::Save(const std::string& path) const
 {
-    bool done = false;
-    if (EndsWith(path, ".png"))
-        done = m_picture.WritePNG(path.c_str());
-    else if (EndsWith(path, ".jpg") || EndsWith(path, ".jpeg"))
-        done = m_picture.WriteJPEG(path.c_str(), kJpegQuality, 0, nullptr);
-    else if (EndsWith(path, ".bmp"))
-    {
-        DIB colors;
-        done = m_picture.To24Bit(&colors) && colors.WriteBMP(path.c_str());
-    }
-    else
-        return "The name must end in .png, .jpg or .bmp.";
-    return done ? "" : "The picture could not be written to " + path + ".";
+    return SavePicture(m_picture, path);
 }
 
 bool ViewedPicture::IsEmpty() const

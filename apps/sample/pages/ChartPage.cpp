@@ -3,6 +3,7 @@
 #include "apps/chart/core/ScaleBar.h"
 #include "apps/planner/PlannerData.h"
 #include "apps/sample/model/Messages.h"
+#include "apps/sample/model/SavePicture.h"
 #include "apps/sample/resource.h"
 
 #include <algorithm>
@@ -44,16 +45,6 @@ public:
 private:
     int m_before;
 };
-
-bool WritePicture(const DIB& image, const CString& path)
-{
-    const CString ending = path.Mid(path.ReverseFind('.') + 1);
-    if (ending.CompareNoCase("bmp") == 0)
-        return image.WriteBMP(path);
-    if (ending.CompareNoCase("jpg") == 0 || ending.CompareNoCase("jpeg") == 0)
-        return image.WriteJPEG(path, 90, 0, nullptr);
-    return image.WritePNG(path);
-}
 
 } // namespace
 
@@ -200,9 +191,10 @@ void ChartPage::Export()
     if (dialog.DoModal() != IDOK)
         return;
     DIB image;
-    if (!m_chart.DrawInto(image) || !WritePicture(image, dialog.GetPathName()))
-        AfxMessageBox("The chart could not be written.\n\nIs the folder writable, and is there room?",
-                      MB_OK | MB_ICONEXCLAMATION);
+    const std::string trouble = m_chart.DrawInto(image) ? SavePicture(image, dialog.GetPathName().GetString())
+                                                        : "There is no memory for the picture.";
+    if (!trouble.empty())
+        AfxMessageBox(trouble.c_str(), MB_OK | MB_ICONEXCLAMATION);
 }
 
 bool ChartPage::OwnsCommand(UINT command) const

@@ -116,7 +116,8 @@ protected:
         return sample.ExitCode();
     }
 
-    std::string Export(const char* name)
+    /// Names the picture in the system's dialog. False when that does not come.
+    bool NameExport(const char* name)
     {
         PostMessageA(m_window, WM_COMMAND, kExportCommand, 0);
         const HWND dialog = m_sample->Dialog();
@@ -124,14 +125,19 @@ protected:
         if (field == nullptr)
             field = GetDlgItem(dialog, kFileName);
         if (field == nullptr)
-            return {};
+            return false;
         SendMessageA(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(m_folder.File(name).c_str()));
         PostMessageA(dialog, WM_COMMAND, IDOK, 0);
-        EXPECT_TRUE(PumpUntil(
+        return PumpUntil(
             [dialog]
             {
                 return IsWindow(dialog) == FALSE;
-            }));
+            });
+    }
+
+    std::string Export(const char* name)
+    {
+        EXPECT_TRUE(NameExport(name));
         EXPECT_TRUE(PumpUntil(
             [&]
             {
@@ -326,6 +332,26 @@ TEST_F(SampleChart, IsExportedAsPngBitmapAndJpeg)
     EXPECT_EQ(different, 0);
     EXPECT_LT(jpegOff / size.cx / size.cy, 4);
     EXPECT_GT(MeanLight(png), 120);
+}
+
+TEST_F(SampleChart, SaysWhatNamesAPictureMayHave)
+{
+    constexpr int kMessageText = 0xFFFF;
+    Start(std::string("--view \"") + kSeattle + '"');
+    ASSERT_TRUE(NameExport("chart.gif"));
+    const HWND box = m_sample->Dialog();
+    ASSERT_NE(box, nullptr);
+    char text[100] = "";
+    GetDlgItemTextA(box, kMessageText, text, sizeof text);
+    EXPECT_STREQ(text, "The name must end in .png, .jpg or .bmp.");
+    PostMessageA(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(PumpUntil(
+        [this]
+        {
+            return IsWindowEnabled(m_window) != FALSE;
+        }));
+    EXPECT_EQ(m_folder.Read("chart.gif"), "");
+    End();
 }
 
 TEST_F(SampleChart, TellsItsViewInTheSummary)

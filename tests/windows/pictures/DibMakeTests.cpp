@@ -1,3 +1,4 @@
+#include "tests/support/ScratchFolder.h"
 #include "tests/windows/pictures/DibText.h"
 
 #include <gtest/gtest.h>
@@ -143,6 +144,32 @@ TEST(DibMake, NoImageOfImpossibleSizes)
         EXPECT_EQ(IsWithoutImage(DIB(1, 1, depth, 0, 0, nullptr, nullptr)), !isDepth) << depth;
     }
     EXPECT_TRUE(IsWithoutImage(DIB(0, 1, 24, 0, 1, nullptr, nullptr)));
+}
+
+TEST(DibMake, AnImageWithoutRowsHarmsNothing)
+{
+    const ScratchFolder folder;
+    for (const int depth : {1, 8, 24, 32})
+    {
+        DIB none(5, 0, depth, 0, 0, nullptr, nullptr);
+        EXPECT_EQ(none.Height(), 0);
+        EXPECT_EQ(none.GetPixel(0, 0), 0U);
+        none.PutPixel(0, 0, 1);
+        DIB other = FromLetters("RG|BY");
+        other.Blt(0, 0, &none);
+        none.Blt(0, 0, &other);
+        EXPECT_EQ(Colors(other), "RG|BY");
+        EXPECT_FALSE(DIB().HQResize(2, 2, &none));
+        EXPECT_FALSE(DIB().LQResize(2, 2, &none));
+        EXPECT_FALSE(none.WritePNG(folder.File("none.png").c_str()));
+        EXPECT_FALSE(none.WriteJPEG(folder.File("none.jpg").c_str(), 75, 0, nullptr));
+        EXPECT_EQ(none.BuildCursor(nullptr, 4, 4, 0, 0, 0, 0, 0), nullptr);
+        const std::unique_ptr<DIB> turned(none.Rotate(30, 1, 0));
+        const std::unique_ptr<Image> mask(none.BuildMask(0, 0, 0));
+        none.To24Bit(&none);
+        EXPECT_EQ(none.Height(), 0);
+        EXPECT_EQ(DIB(none).Height(), 0);
+    }
 }
 
 TEST(DibMake, SectionHasThePixels)
