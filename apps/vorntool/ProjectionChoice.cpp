@@ -68,8 +68,10 @@ std::string ModulePath(const std::string& word)
 
 std::vector<std::string> NamesOf(const ProjectionLib& library)
 {
+    const int count = library.NumProjections();
     std::vector<std::string> names;
-    for (int i = 0; i < library.NumProjections(); ++i)
+    names.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
     {
         names.push_back(Utf8FromLibrary(library.ProjectionName(i)));
     }

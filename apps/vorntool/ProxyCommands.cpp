@@ -194,7 +194,7 @@ ExitStatus Add(const Command& self, const Invocation& call, Output& output)
     {
         return Fail(self, output, ExitStatus::Refused, "there is no memory for one more");
     }
-    proxy.release(); // the set's now
+    static_cast<void>(proxy.release()); // the set's now
     if (!StoreProxies(proxies))
     {
         proxies.DeleteProxy(proxies.GetAt(number - 1));
