@@ -35,15 +35,16 @@ void ExpectNothingLeft(int times, const std::function<void()>& action)
     action();
     std::string counts;
     bool isLevel = false;
+    Handles before;
     for (int round = 0; round < kRounds; ++round)
     {
-        const Handles before;
         for (int i = 0; i < times / kRounds; ++i)
             action();
         PumpWaiting();
         const Handles after;
         isLevel = isLevel || after == before;
         counts += TextOf(before) + " -> " + TextOf(after) + '\n';
+        before = after;
     }
     EXPECT_TRUE(isLevel) << counts;
 }
@@ -66,11 +67,11 @@ TEST(GalleryHandles, AreCounted)
 
 using LeavingWindow = GalleryWindowTest;
 
-/// All kinds together come to a thousand openings; those with many controls take longest.
+/// With the tips and the bar below more than a thousand openings in all; windows with many controls take longest.
 int OpeningsOf(const std::string& name)
 {
     const bool hasMany = name == "Route" || name == "Weight" || name == "Fuel" || name == "Print";
-    return hasMany ? 40 : 168;
+    return hasMany ? 16 : 60;
 }
 
 TEST_P(LeavingWindow, LeavesNothingBehind)
@@ -88,7 +89,7 @@ TEST_P(LeavingWindow, LeavesNothingBehind)
 TEST_P(LeavingWindow, LeavesNothingBehindWhenItWasUsed)
 {
     m_open.reset();
-    ExpectNothingLeft(8,
+    ExpectNothingLeft(4,
                       [this]
                       {
                           const std::unique_ptr<OpenWindow> open = Open(GetParam());
@@ -130,6 +131,7 @@ TEST_F(GalleryLeaks, TheBarOfTheLegsLeavesNothingBehind)
 TEST_F(GalleryLeaks, TheTipsOfADialogLeaveNothingBehind)
 {
     constexpr UINT_PTR kWaitTimer = 1;
+    constexpr int kTimes = 400;
     const std::unique_ptr<OpenWindow> open = Open(GalleryWindowNamed("Fuel"));
     ASSERT_NE(open, nullptr);
     auto& dialog = dynamic_cast<planner::PlannerDialog&>(open->Window());
@@ -163,8 +165,8 @@ TEST_F(GalleryLeaks, TheTipsOfADialogLeaveNothingBehind)
             GetCursorPos(&cursor);
             return CPoint(cursor) == middle;
         }));
-    ExpectNothingLeft(600, showOnce);
-    EXPECT_EQ(shown, 601);
+    ExpectNothingLeft(kTimes, showOnce);
+    EXPECT_GT(shown, kTimes * 9 / 10) << "or nothing was tried";
 }
 
 TEST_F(GalleryLeaks, ADialogThatRanLeavesNothingBehind)

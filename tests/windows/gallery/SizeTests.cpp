@@ -43,7 +43,7 @@ MINMAXINFO Limits(HWND window)
 TEST_P(SizedWindow, HasNoFaultAtAnySize)
 {
     const POINT least = Limits(Window()).ptMinTrackSize;
-    const int stride = m_open->Pages() > 1 ? 133 : 66;
+    const int stride = m_open->Pages() > 1 ? 200 : 100;
     for (int page = 0; page < m_open->Pages(); ++page)
     {
         m_open->ShowPage(page);
