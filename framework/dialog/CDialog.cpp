@@ -5,6 +5,7 @@
 #include "framework/dialog/ModalOwner.h"
 #include "framework/dialog/SharedCommands.h"
 #include "framework/gdi/CFont.h"
+#include "framework/window/CWinThread.h"
 
 using vorn::LoadedDialogTemplate;
 

@@ -146,6 +146,18 @@ TEST(PaneMeasure, AFixedPaneIsItsOwnSizeAcrossAndItsChildrenAlong)
     EXPECT_EQ(44, tree.Wanted(0, kHeight, 500));
 }
 
+TEST(PaneMeasure, AnOwnSizeBelowNothingIsAMinimumButNoMaximum)
+{
+    const PaneTree tree = Measured(With(Row(0, 3), kFixedHeight, -7), {Control(kFixedHeight, 0, 20)});
+    EXPECT_EQ(-7, tree.Least(0, kHeight));
+    EXPECT_EQ(20, tree.Most(0, kHeight));
+}
+
+TEST(PaneMeasure, ASpacerIsAlwaysShown)
+{
+    EXPECT_TRUE(Measured(Hidden(Spacer(false))).IsShown(0));
+}
+
 TEST(PaneMeasure, AFixedPaneWithoutAnOwnSizeIsAsLargeAsItsChildren)
 {
     const PaneTree tree = Measured(With(Row(0, 3), kFixedHeight, 0), {Control(kFixedHeight, 0, 20)});

@@ -214,6 +214,21 @@ TEST(PanePlace, AFixedPaneWithoutAnOwnSizeTakesItsMinimum)
     EXPECT_EQ((Edges{0, 84, 100, 100}), PlaceOf(tree, 2));
 }
 
+TEST(PanePlace, OnlyAPaneOfNoOwnSizeTakesItsMinimum)
+{
+    PaneTree tree;
+    tree.OpenPane(Row());
+    PaneForeignSpec foreign;
+    foreign.mode = kFixedWidth;
+    foreign.least[0] = 30;
+    tree.Add(foreign);
+    tree.Add(Control(0));
+    RecordedMoves moves;
+    EXPECT_TRUE(tree.Place(Rect(0, 0, 90, 20), moves));
+    EXPECT_EQ((Edges{0, 0, 0, 20}), PlaceOf(tree, 1));
+    EXPECT_EQ((Edges{0, 0, 90, 20}), PlaceOf(tree, 2));
+}
+
 TEST(PanePlace, ABoxMovesItsControlAndPlacesBelowItsCaption)
 {
     PaneTree tree;

@@ -180,6 +180,31 @@ TEST(ShareExtent, AProportionThatComesToNothingIsNotTakenFromPercentChildren)
     EXPECT_EQ((Sizes{15, 9, 9, 9, 9, 9, 9, 9, 9, 9}), Shared(children, 100));
 }
 
+TEST(ShareExtent, WhatIsLeftPaysItsPartEvenWhenTheRestFindsNoTaker)
+{
+    // Of 1200: ten times 12 wanted, 11 needed; 600 wanted and needed; 12 wanted, 200 needed. Those can give 10
+    // together, so the 468 that are left pay 178 of the 188. Of the 10 a small one would give 12*10/720, which is 0,
+    // and the large one has nothing to give: nobody does.
+    std::vector<ExtentShare> children(10, Percent(1, 11));
+    children.push_back(Percent(50, 600));
+    children.push_back(Percent(1, 200));
+    children.push_back(Greedy());
+    EXPECT_EQ((Sizes{12, 12, 12, 12, 12, 12, 12, 12, 12, 12, 600, 200, 290}), Shared(children, 1200));
+}
+
+TEST(ShareExtent, AGreedyChildOfNoSizeDoesNotTakeWhatAMaximumLeaves)
+{
+    // Of 1: nothing, and the 1 that the last may not have.
+    EXPECT_EQ((Sizes{0, 0}), Shared({Greedy(0), Greedy(0, 0)}, 1));
+}
+
+TEST(ShareExtent, OnlyFixedChildrenStretch)
+{
+    std::vector<ExtentShare> children{Percent(10), Fixed(20, true), Fixed(30)};
+    children[0].stretches = true;
+    EXPECT_EQ((Sizes{5, 65, 30}), Shared(children, 100));
+}
+
 TEST(ShareExtent, NothingIsSharedAmongNobody)
 {
     EXPECT_EQ((Sizes{}), Shared({}, 100));

@@ -132,6 +132,7 @@ TEST_F(TipStates, OverTheTipItStaysForEver)
     {
         ASSERT_TRUE(m_state.Looked(nullptr, true, kAutoPop));
     }
+    EXPECT_EQ(kAutoPop, m_state.ShownMs()) << "longer is not counted";
     EXPECT_FALSE(m_state.Looked(Tool(0), false, kAutoPop)) << "back in the tool its time has passed";
     EXPECT_EQ(Phase::Quiet, m_state.Now());
 }
@@ -210,6 +211,15 @@ TEST_F(TipStates, AToolThatGoesTakesItsTipAlong)
     m_state.Forget(Tool(0));
     EXPECT_EQ(Phase::Idle, m_state.Now());
     EXPECT_EQ(nullptr, m_state.Tool());
+}
+
+TEST_F(TipStates, AToolThatGoesIsNotAwaitedBehindAnother)
+{
+    ShowTip();
+    m_state.MouseMoved(Tool(1));
+    m_state.Forget(Tool(1));
+    EXPECT_FALSE(m_state.Looked(Tool(1), false, kAutoPop)) << "another one at the same address";
+    EXPECT_EQ(Phase::Idle, m_state.Now());
 }
 
 TEST(TipDelays, AreThoseOfTheSystemsOrder)

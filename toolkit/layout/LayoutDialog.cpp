@@ -42,7 +42,8 @@ BOOL LayoutDialog::OnInitDialog()
     ToolTipDlg::OnInitDialog();
     if (m_bResizable)
     {
-        TakeSizingFrame();
+        TakeSizingFrame(*this);
+        MatchSystemMenu();
     }
     if (m_bStatusBar)
     {
@@ -53,12 +54,6 @@ BOOL LayoutDialog::OnInitDialog()
         Load(m_strSection);
     }
     return TRUE;
-}
-
-void LayoutDialog::TakeSizingFrame()
-{
-    LayoutManagement::TakeSizingFrame(*this);
-    MatchSystemMenu();
 }
 
 /// The menu was made for the template's frame.

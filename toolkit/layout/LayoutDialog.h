@@ -46,7 +46,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void TakeSizingFrame();
     void MatchSystemMenu();
     void AddStatusBar();
 };

@@ -28,7 +28,7 @@ public:
         head.dwSize = sizeof head;
         head.iType = RDH_RECTANGLES;
         head.nCount = static_cast<DWORD>(rects.size());
-        head.nRgnSize = static_cast<DWORD>(rects.size() * sizeof(RECT));
+        head.nRgnSize = head.nCount * DWORD{sizeof(RECT)};
         std::vector<char> data(sizeof head + head.nRgnSize);
         std::memcpy(data.data(), &head, sizeof head);
         std::copy(rects.begin(), rects.end(), reinterpret_cast<RECT*>(data.data() + sizeof head));

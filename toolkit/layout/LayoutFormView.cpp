@@ -51,7 +51,7 @@ CRect LayoutFormView::GetRect()
 void LayoutFormView::OnSize(UINT type, int cx, int cy)
 {
     // There is nothing to scroll over but what the window shows.
-    SetScrollSizes(MM_TEXT, CSize(cx, cy));
+    SetScrollSizes(MM_TEXT, SIZE{cx, cy});
     CFormView::OnSize(type, cx, cy);
     if (cx != 0 || cy != 0)
     {

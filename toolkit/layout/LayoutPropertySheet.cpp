@@ -3,24 +3,15 @@
 #include "framework/controls/CTabCtrl.h"
 #include "framework/include/afxres.h"
 #include "framework/window/MessageMap.h"
-#include "toolkit/WindowIcons.h"
 #include "toolkit/layout/LayoutPropertyPage.h"
 #include "toolkit/layout/SizingFrame.h"
 
 #include <algorithm>
-#include <map>
 
 namespace LayoutManagement
 {
 namespace
 {
-
-/// The icons of the sheets that are open. For the user-interface thread.
-std::map<const CPropertySheet*, vorn::WindowIcons>& IconsOfSheets()
-{
-    static std::map<const CPropertySheet*, vorn::WindowIcons> icons;
-    return icons;
-}
 
 constexpr UINT kRedraw = 0x101; ///< RDW_INVALIDATE and RDW_UPDATENOW
 
@@ -98,7 +89,7 @@ BOOL LayoutPropertySheet::OnInitDialog()
     InitBase();
     if (!HasFlag(PSH_USEHICON | PSH_USEICONID)) // which name one of its own
     {
-        IconsOfSheets()[this].Put(*this, vorn::kHostIcon);
+        m_icons.Put(*this, GetIconID());
     }
     GetWindowRect(&m_rectOpened);
     if (GetTabControl() == nullptr || GetActivePage() == nullptr)
@@ -112,6 +103,11 @@ BOOL LayoutPropertySheet::OnInitDialog()
     DeclarePanes();
     Open();
     return TRUE;
+}
+
+UINT LayoutPropertySheet::GetIconID()
+{
+    return vorn::kHostIcon;
 }
 
 /// The framework's part, which takes the buttons of modeless sheets.
@@ -228,7 +224,6 @@ void LayoutPropertySheet::PostNcDestroy()
 {
     CPropertySheet::PostNcDestroy();
     m_hWndPlaced = nullptr;
-    IconsOfSheets().erase(this);
     if (m_bAutoDestroyPages)
     {
         DeletePages();

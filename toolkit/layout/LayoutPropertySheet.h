@@ -3,6 +3,7 @@
 /// @file
 /// A property sheet or wizard that the user can size.
 #include "framework/dialog/CPropertySheet.h"
+#include "toolkit/WindowIcons.h"
 #include "toolkit/layout/LayoutMgr.h"
 
 namespace LayoutManagement
@@ -10,7 +11,7 @@ namespace LayoutManagement
 
 /// A sheet whose pages grow and shrink with it above its row of buttons; pages of class LayoutPropertyPage lay their
 /// controls out in the area they get, others keep them where they are. Sheets cannot be made smaller than they open, so
-/// that no page is cut, and keep their placement.
+/// that no page is cut, and keep their placement. They have the application's icon, unless m_psh names another one.
 ///
 /// It works for property sheets and for wizards (SetWizardMode() or the flags of m_psh), modal and modeless.
 class VORNCOMMON_API LayoutPropertySheet : public CPropertySheet, protected LayoutMgr
@@ -45,6 +46,8 @@ public:
     CRect GetRect() override;
 
 protected:
+    /// Resource id of the icon, 128 here; it is looked for in the host first. Without such an icon nothing changes.
+    virtual UINT GetIconID();
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
 
@@ -82,6 +85,7 @@ private:
     void MoveFinishOntoNext();
     void DeletePages();
 
+    vorn::WindowIcons m_icons;
     HWND m_hWndPlaced = nullptr; ///< the page that PlaceActivePage() placed last
 };
 

@@ -78,6 +78,33 @@ TEST(IconPropertySheet, OneThatLaysItselfOutHasItToo)
     sheet.DestroyWindow();
 }
 
+namespace
+{
+class OtherIconSheet : public LayoutManagement::LayoutPropertySheet
+{
+public:
+    OtherIconSheet() : LayoutPropertySheet("Planning", nullptr, 0, nullptr)
+    {
+    }
+
+protected:
+    UINT GetIconID() override
+    {
+        return 4711;
+    }
+};
+} // namespace
+
+TEST(IconPropertySheet, OneThatLaysItselfOutMayChooseAnother)
+{
+    CPropertyPage page(IDD_TEST_EMPTY);
+    OtherIconSheet sheet;
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create());
+    EXPECT_FALSE(vorn::test::HasHostIcons(sheet)) << "there is none of that number";
+    sheet.DestroyWindow();
+}
+
 TEST(IconPropertySheet, OneThatLaysItselfOutKeepsAnIconOfItsOwn)
 {
     CPropertyPage page(IDD_TEST_EMPTY);
