@@ -14,6 +14,12 @@ namespace
 constexpr double kSmoothing = 0.6; // degrees: how far a known height reaches whole
 constexpr double kOutside = -1e9;
 
+/// Where the entry of a row and a column stands among all, row by row.
+std::size_t PlaceOf(int row, int columns, int column)
+{
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) + static_cast<std::size_t>(column);
+}
+
 /// A way through a square of the grid: from one of its sides to another. Sides: 0 south, 1 east, 2 north, 3 west.
 struct Way
 {
@@ -66,8 +72,7 @@ class Tracer
 public:
     Tracer(const HeightGrid& grid, double level) : m_grid(grid), m_level(level)
     {
-        const std::size_t squares = static_cast<std::size_t>(Squares(grid.Rows()) * Squares(grid.Columns()));
-        m_ways.resize(squares);
+        m_ways.resize(PlaceOf(Squares(grid.Rows()), Squares(grid.Columns()), 0));
         for (int row = -1; row < grid.Rows(); ++row)
         {
             for (int column = -1; column < grid.Columns(); ++column)
@@ -98,7 +103,7 @@ private:
 
     std::size_t IndexOf(int row, int column) const
     {
-        return static_cast<std::size_t>((row + 1) * Squares(m_grid.Columns()) + column + 1);
+        return PlaceOf(row + 1, Squares(m_grid.Columns()), column + 1);
     }
 
     double At(int row, int column) const
@@ -223,12 +228,12 @@ int HeightGrid::Columns() const
 
 double HeightGrid::At(int row, int column) const
 {
-    return m_heights[static_cast<std::size_t>(row * m_columns + column)];
+    return m_heights[PlaceOf(row, m_columns, column)];
 }
 
 void HeightGrid::Set(int row, int column, double feet)
 {
-    m_heights[static_cast<std::size_t>(row * m_columns + column)] = feet;
+    m_heights[PlaceOf(row, m_columns, column)] = feet;
 }
 
 void HeightGrid::Blend(const std::vector<KnownHeight>& known)

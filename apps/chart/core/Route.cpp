@@ -136,9 +136,12 @@ std::string LegText(const LatLon& from, const LatLon& to)
 
 std::vector<LatLon> MarksAlong(const std::vector<Waypoint>& route, double miles)
 {
-    std::vector<LatLon> corners;
-    for (const Waypoint& waypoint : route)
-        corners.push_back(waypoint.position);
+    std::vector<LatLon> corners(route.size());
+    std::transform(route.begin(), route.end(), corners.begin(),
+                   [](const Waypoint& waypoint)
+                   {
+                       return waypoint.position;
+                   });
     LatLon* marks = nullptr;
     const int count = DistributePoints(corners.data(), static_cast<int>(corners.size()), miles, &marks);
     const std::unique_ptr<LatLon[]> owner(marks);
