@@ -1,4 +1,8 @@
+#include "apps/planner/FuelDialog.h"
 #include "apps/planner/GotoDialog.h"
+#include "apps/planner/PrintDialog.h"
+#include "apps/planner/RouteDialog.h"
+#include "apps/planner/WeightDialog.h"
 #include "apps/planner/resource.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/windows/gallery/GalleryTest.h"
@@ -123,6 +127,60 @@ TEST_P(KeyedWindow, TabReachesEveryStopOnceAndComesRound)
 }
 
 INSTANTIATE_TEST_SUITE_P(Gallery, KeyedWindow, testing::ValuesIn(GalleryWindows()), NameOfWindow);
+
+/// A dialog in its loop.
+struct RunDialog
+{
+    const char* name;
+    INT_PTR (*run)(planner::PlannerData& data);
+    INT_PTR byReturn; ///< its result when Return is pressed first of all
+};
+
+std::ostream& operator<<(std::ostream& stream, const RunDialog& dialog)
+{
+    return stream << dialog.name;
+}
+
+template <class Dialog>
+INT_PTR Run(planner::PlannerData& data)
+{
+    return Dialog(data, nullptr).DoModal();
+}
+
+class EndedDialog : public GalleryTest, public testing::WithParamInterface<RunDialog>
+{
+protected:
+    /// Its result after a key in the control that has the focus first.
+    INT_PTR RunAndPress(WPARAM key)
+    {
+        const DialogDriver driver(
+            [key]
+            {
+                const HWND focus = GetFocus();
+                return focus != nullptr && IsWindowVisible(GetAncestor(focus, GA_ROOT)) &&
+                       PostMessage(focus, WM_KEYDOWN, key, 0);
+            });
+        return GetParam().run(m_data);
+    }
+};
+
+TEST_P(EndedDialog, ReturnPressesItsDefaultButtonAndEscapeCancels)
+{
+    EXPECT_EQ(RunAndPress(VK_RETURN), GetParam().byReturn);
+    EXPECT_EQ(RunAndPress(VK_ESCAPE), IDCANCEL);
+    EXPECT_EQ(RunAndPress(VK_RETURN), GetParam().byReturn) << "where it was left";
+}
+
+INSTANTIATE_TEST_SUITE_P(Gallery, EndedDialog,
+                         testing::Values(RunDialog{"Route", Run<planner::RouteDialog>, IDOK},
+                                         RunDialog{"Weight", Run<planner::WeightDialog>, IDOK},
+                                         RunDialog{"Fuel", Run<planner::FuelDialog>, IDOK},
+                                         RunDialog{"Print", Run<planner::PrintDialog>, IDOK},
+                                         RunDialog{"Goto", Run<planner::GotoDialog>, IDOK}),
+                         [](const testing::TestParamInfo<RunDialog>& dialog)
+                         {
+                             return std::string(dialog.param.name);
+                         });
 
 class GalleryKeys : public GalleryTest
 {
