@@ -132,6 +132,39 @@ TEST(ChartScene, ShowsLabelsWholeOrNotAtAll)
     }
 }
 
+TEST(ChartScene, NamesThePlacesOfTheRouteEvenWhereItIsCrowded)
+{
+    ChartData data;
+    const auto add = [&data](const char* ident, AidKind kind, const LatLon& at)
+    {
+        Aid aid;
+        aid.ident = ident;
+        aid.kind = kind;
+        aid.kilohertz = 350;
+        aid.position = at;
+        data.aids.push_back(aid);
+    };
+    const LatLon middle(47.5, -119);
+    add("AAX", AidKind::Vor, middle);
+    add("BBX", AidKind::Vor, LatLon(46.5, -117));
+    add("CCX", AidKind::Vor, LatLon(48.5, -117));
+    for (int i = 0; i < 8; ++i) // 12 pixels away, all around
+        add("ZZX", AidKind::Ndb, middle.EndPoint(i * 45, 3.43));
+    MercatorSphere plane;
+    PlainMeter meter;
+    const auto isNamed = [&](const char* route)
+    {
+        const ChartScene scene = SceneOf(ModelOf(data, route), View(plane, 2'000'000), meter, {}, {});
+        return std::any_of(scene.labels.begin(), scene.labels.end(),
+                           [](const SceneLabel& label)
+                           {
+                               return label.text.front().text == "AAX";
+                           });
+    };
+    EXPECT_FALSE(isNamed("BBX CCX")) << "there is no room beside it";
+    EXPECT_TRUE(isNamed("AAX BBX"));
+}
+
 TEST(ChartScene, IsTheSameForTheSameView)
 {
     MercatorSphere plane;
