@@ -5,7 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
-// A window of 200 controls whose size has changed so that none of them moves.
+// A shown window of 200 controls whose size has changed so that none of them moves.
 namespace
 {
 using LayoutManagement::LayoutMgr;
@@ -33,6 +33,8 @@ public:
             root << line;
         }
         UpdateLayout(false);
+        ShowWindow(SW_SHOWNA);
+        UpdateWindow();
     }
     ~ManyControls() override
     {

@@ -51,6 +51,45 @@ private:
     HRGN m_region;
 };
 
+/// Where on the screen a context draws.
+class DrawnPart
+{
+public:
+    explicit DrawnPart(HDC dc) : m_region(CreateRectRgn(0, 0, 0, 0)), m_isKnown(GetRandomRgn(dc, m_region, SYSRGN) == 1)
+    {
+    }
+    ~DrawnPart()
+    {
+        DeleteObject(m_region);
+    }
+    DrawnPart(const DrawnPart&) = delete;
+    DrawnPart& operator=(const DrawnPart&) = delete;
+
+    /// False also when nobody knows.
+    bool IsWithin(const DrawnPart& other)
+    {
+        return m_isKnown && other.m_isKnown && CombineRgn(m_region, m_region, other.m_region, RGN_DIFF) == NULLREGION;
+    }
+
+private:
+    HRGN m_region;
+    bool m_isKnown;
+};
+
+/// Whether no control stands where the window's context draws, as is common when its size changes. That is one question
+/// to the system; to go from child to child is one each.
+bool IsBesideControls(HWND window, HDC dc)
+{
+    if (WindowFromDC(dc) != window)
+    {
+        return false;
+    }
+    const HDC around = GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPCHILDREN);
+    const bool isBeside = around != nullptr && DrawnPart(dc).IsWithin(DrawnPart(around));
+    ReleaseDC(window, around);
+    return isBeside;
+}
+
 /// What the background depends on in a control's class.
 enum class ControlClass
 {
@@ -220,23 +259,34 @@ HBRUSH BrushOf(HWND window)
     return brush <= kLastColor ? GetSysColorBrush(static_cast<int>(brush) - 1) : reinterpret_cast<HBRUSH>(brush);
 }
 
+/// The client area without its controls, in device units as clip regions are.
+std::vector<RECT> AroundControls(HWND window, const RECT& client, const POINT& origin)
+{
+    std::vector<RECT> pieces = vorn::UncoveredArea(client, Covered(window));
+    for (RECT& piece : pieces)
+    {
+        OffsetRect(&piece, origin.x, origin.y);
+    }
+    return pieces;
+}
+
 void Erase(HWND window, HDC dc)
 {
     const RECT client = ClientOf(window);
     POINT origin{};
     GetViewportOrgEx(dc, &origin);
-    std::vector<RECT> pieces = vorn::UncoveredArea(client, Covered(window));
-    for (RECT& piece : pieces)
-    {
-        OffsetRect(&piece, origin.x, origin.y); // clip regions are in device units
-    }
-    if (pieces.empty())
+    const bool isBeside = IsBesideControls(window, dc);
+    const std::vector<RECT> pieces = isBeside ? std::vector<RECT>() : AroundControls(window, client, origin);
+    if (!isBeside && pieces.empty())
     {
         return;
     }
-    const Region around({origin.x, origin.y, client.right + origin.x, client.bottom + origin.y}, pieces);
     const int saved = SaveDC(dc);
-    ExtSelectClipRgn(dc, around.Get(), RGN_AND);
+    if (!isBeside)
+    {
+        const Region around({origin.x, origin.y, client.right + origin.x, client.bottom + origin.y}, pieces);
+        ExtSelectClipRgn(dc, around.Get(), RGN_AND);
+    }
     SetBrushOrgEx(dc, origin.x, origin.y, nullptr);
     FillRect(dc, &client, BrushOf(window));
     RestoreDC(dc, saved);

@@ -4,6 +4,7 @@
 #include "toolkit/options/PaintingHeldBack.h"
 
 #include <cstdarg>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -17,6 +18,20 @@ namespace
 {
 
 constexpr UINT kBuckets = 10; // at first; the map grows
+
+using ControlsByNumber = std::unordered_map<UINT, HWND>;
+
+/// The controls, of those with the same number the first one. Asked for each of them alone, the system would go through
+/// all of them every time.
+ControlsByNumber ControlsOf(HWND dialog)
+{
+    ControlsByNumber controls;
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        controls.try_emplace(static_cast<UINT>(::GetDlgCtrlID(child)), child);
+    }
+    return controls;
+}
 
 /// The style, not whether it can be seen: the dialog itself may be hidden yet.
 bool IsShown(HWND control)
@@ -114,29 +129,34 @@ LRESULT BaseOptionTreeDlg::OnCategoryMessage(WPARAM, LPARAM lParam)
 void BaseOptionTreeDlg::OnSelectCategory(HTREEITEM item)
 {
     // What a control does on being shown may change the mapping.
-    std::vector<std::pair<UINT, bool>> controls;
+    std::vector<std::pair<HWND, bool>> controls;
+    const ControlsByNumber present = ControlsOf(m_hWnd);
     for (const auto* entry = m_categories.PGetFirstAssoc(); entry != nullptr; entry = m_categories.PGetNextAssoc(entry))
     {
-        controls.emplace_back(entry->key, item != nullptr && entry->value == item);
-    }
-    for (const auto& [id, show] : controls)
-    {
-        if (!show)
+        if (const auto control = present.find(entry->key); control != present.end())
         {
-            LeaveControl(::GetDlgItem(m_hWnd, static_cast<int>(id)));
+            controls.emplace_back(control->second, item != nullptr && entry->value == item);
+        }
+    }
+    const HWND focus = ::GetFocus();
+    for (const auto& [control, show] : controls)
+    {
+        if (!show && focus != nullptr && (focus == control || ::IsChild(control, focus)))
+        {
+            LeaveControl(control);
         }
     }
     const vorn::PaintingHeldBack heldBack(*this);
-    for (const auto& [id, show] : controls)
+    for (const auto& [control, show] : controls)
     {
-        ShowControl(::GetDlgItem(m_hWnd, static_cast<int>(id)), show);
+        ShowControl(control, show);
     }
     UpdateLayout(true);
 }
 
 void BaseOptionTreeDlg::ShowControl(HWND control, bool show)
 {
-    if (control != nullptr && show != IsShown(control))
+    if (show != IsShown(control))
     {
         ::ShowWindow(control, show ? SW_SHOWNA : SW_HIDE);
     }

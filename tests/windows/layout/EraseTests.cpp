@@ -84,6 +84,61 @@ TEST_F(LayoutErase, ATabControlWithoutTabsIsSparedWhole)
     EXPECT_EQ(0, m_canvas.Count(::GetSysColor(COLOR_3DFACE)));
 }
 
+/// What is erased of a part of a shown window that was red before: a letter a place, '.' for the background.
+class LayoutErasePart : public LayoutErase
+{
+protected:
+    LayoutErasePart()
+    {
+        m_window.ShowWindow(SW_SHOWNA);
+    }
+    std::string Erased(const RECT& part, const std::vector<CPoint>& places)
+    {
+        ::ValidateRect(m_window.m_hWnd, nullptr);
+        ::InvalidateRect(m_window.m_hWnd, &part, FALSE);
+        CPaintDC dc(&m_window);
+        dc.FillSolidRect(CRect(0, 0, 100, 60), vorn::test::kRed);
+        m_window.EraseBkgnd(&dc);
+        std::string seen;
+        for (const CPoint& place : places)
+        {
+            const COLORREF color = dc.GetPixel(place);
+            seen += color == vorn::test::kRed ? 'R' : color == ::GetSysColor(COLOR_3DFACE) ? '.' : '?';
+        }
+        return seen;
+    }
+};
+
+TEST_F(LayoutErasePart, APartWithoutControlsIsPaintedWhole)
+{
+    m_window.AddButton(1, {10, 10, 30, 20});
+    EXPECT_EQ("....", Erased({40, 0, 100, 60}, {{40, 0}, {99, 59}, {70, 15}, {41, 30}}));
+    m_window.Add("Button", 2, 0, {50, 10, 70, 20});
+    EXPECT_EQ("..", Erased({40, 0, 100, 60}, {{55, 15}, {90, 15}})) << "hidden ones do not count";
+}
+
+TEST_F(LayoutErasePart, APartWithControlsIsPaintedAroundThem)
+{
+    m_window.AddButton(1, {10, 10, 30, 20});
+    m_window.Add("Button", 2, WS_VISIBLE | BS_GROUPBOX, {40, 0, 100, 60});
+    m_window.AddButton(3, {50, 20, 60, 30});
+    EXPECT_EQ(".R.", Erased({0, 0, 40, 60}, {{5, 15}, {15, 15}, {35, 15}}));
+    EXPECT_EQ(".R.", Erased({40, 0, 100, 60}, {{45, 25}, {55, 25}, {95, 25}})) << "frames are seen through";
+    EXPECT_EQ("R", Erased({51, 21, 59, 29}, {{55, 25}})) << "all of it a control";
+}
+
+TEST_F(LayoutErasePart, AContextOfAnotherWindowSparesTheControlsToo)
+{
+    m_window.AddButton(1, {10, 10, 30, 20});
+    LaidWindow other(100, 60);
+    other.ShowWindow(SW_SHOWNA);
+    CClientDC dc(&other);
+    dc.FillSolidRect(CRect(0, 0, 100, 60), vorn::test::kRed);
+    m_window.EraseBkgnd(&dc);
+    EXPECT_EQ(vorn::test::kRed, dc.GetPixel(15, 15));
+    EXPECT_EQ(::GetSysColor(COLOR_3DFACE), dc.GetPixel(35, 15));
+}
+
 TEST_F(LayoutErase, TheContextKeepsItsClip)
 {
     m_canvas.dc.IntersectClipRect(20, 20, 40, 40);
