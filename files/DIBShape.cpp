@@ -17,6 +17,16 @@ vorn::Rgb ColorOf(int r, int g, int b)
     return {static_cast<BYTE>(r), static_cast<BYTE>(g), static_cast<BYTE>(b)};
 }
 
+/// Whether a block begins as that of a new image of this size would, top-down.
+bool IsAsMade(std::span<const unsigned char> block, std::size_t bitsOffset, int width, int height)
+{
+    if (width < 1 || height < 1 || block.empty() || bitsOffset != vorn::kBitmapHeaderSize)
+        return false;
+    const BITMAPINFOHEADER header = vorn::HeaderOf(block);
+    const vorn::PackedImage head = vorn::PackedImage::MakeHead(width, -height, header.biBitCount, DIB_RGB_COLORS);
+    return !head.IsEmpty() && std::memcmp(block.data(), head.Block().data(), vorn::kBitmapHeaderSize) == 0;
+}
+
 /// The image with the palette indices that its pixels were made for.
 vorn::PackedImage WithIndices(const vorn::PackedImage& image, std::span<const unsigned char> indices)
 {
@@ -35,12 +45,16 @@ vorn::PackedImage WithIndices(const vorn::PackedImage& image, std::span<const un
 
 bool DIB::HQResize(int width, int height, DIB* source)
 {
-    return source && vorn::NoThrow(false,
-                                   [&]
-                                   {
-                                       vorn::PackedImage image = vorn::BoxResize(source->View(), width, height);
-                                       return !image.IsEmpty() && Adopt(std::move(image));
-                                   });
+    return source &&
+           vorn::NoThrow(false,
+                         [&]
+                         {
+                             if (source != this && !m_section && IsAsMade(Block(), TableEnd(), width, height) &&
+                                 m_usage == DIB_RGB_COLORS && vorn::PutResized(Canvas(), source->View()))
+                                 return true; // fresh memory costs as much as many pixels
+                             vorn::PackedImage image = vorn::BoxResize(source->View(), width, height);
+                             return !image.IsEmpty() && Adopt(std::move(image));
+                         });
 }
 
 DIB* DIB::Rotate(double angle, int flag, COLORREF background) const

@@ -211,7 +211,6 @@ void Repeat(const ImageView& source, const ImageCanvas& target)
     const auto channels = static_cast<std::size_t>(source.depth / 8);
     const std::vector<std::size_t> columns = Offsets(source.width, target.width, channels);
     const std::vector<std::size_t> rows = Offsets(source.height, target.height, 1);
-    const std::size_t used = columns.size() * channels;
     for (std::size_t y = 0; y < rows.size(); ++y)
     {
         unsigned char* to = target.Row(static_cast<int>(y));
@@ -225,7 +224,6 @@ void Repeat(const ImageView& source, const ImageCanvas& target)
             RepeatPixels<4>(from, columns, to);
         else
             RepeatPixels<3>(from, columns, to);
-        std::memset(to + used, 0, static_cast<std::size_t>(target.stride) - used);
     }
 }
 
@@ -355,29 +353,53 @@ bool IsPlain(const ImageView& image)
 {
     return image.depth >= 24 && !image.isMasked;
 }
+
+int PlainDepth(const ImageView& source)
+{
+    return source.depth == 32 ? 32 : 24;
+}
+
+void ClearGaps(const ImageCanvas& target)
+{
+    const std::size_t used = static_cast<std::size_t>(target.width) * static_cast<std::size_t>(target.depth / 8);
+    const std::size_t gap = static_cast<std::size_t>(target.stride) - used;
+    for (int y = 0; gap != 0 && y < target.height; ++y)
+        std::memset(target.Row(y) + used, 0, gap);
+}
+
+void Put(const ImageCanvas& target, const ImageView& plain)
+{
+    if (target.width >= plain.width && target.height >= plain.height)
+        Repeat(plain, target);
+    else if (IsWholeShrink(plain, target.width, target.height))
+        Sum(plain, target);
+    else if (plain.depth == 32)
+        Resample<4>(plain, target);
+    else
+        Resample<3>(plain, target);
+    ClearGaps(target);
+}
 } // namespace
+
+bool PutResized(const ImageCanvas& target, const ImageView& source)
+{
+    if (!source.hasRows || source.height < 1 || !target.hasRows || !target.isTopDown || target.isMasked ||
+        target.depth != PlainDepth(source) || target.bits == source.bits)
+        return false;
+    const PackedImage converted = IsPlain(source) ? PackedImage() : ToPlainChannels(source);
+    const ImageView plain = IsPlain(source) ? source : converted.View();
+    if (plain.hasRows)
+        Put(target, plain);
+    return plain.hasRows;
+}
 
 PackedImage BoxResize(const ImageView& source, int width, int height)
 {
     if (width < 1 || height < 1 || !source.hasRows || source.height < 1)
         return {};
-    const PackedImage converted = IsPlain(source) ? PackedImage() : ToPlainChannels(source);
-    const ImageView plain = IsPlain(source) ? source : converted.View();
-    if (!plain.hasRows)
+    PackedImage made = PackedImage::MakeUnfilled(width, -height, PlainDepth(source));
+    if (!made.IsEmpty() && !PutResized(made.Canvas(), source))
         return {};
-    const bool isGrowing = width >= plain.width && height >= plain.height;
-    PackedImage made = isGrowing ? PackedImage::MakeUnfilled(width, -height, plain.depth)
-                                 : PackedImage::Make(width, -height, plain.depth);
-    if (made.IsEmpty())
-        return made;
-    if (isGrowing)
-        Repeat(plain, made.Canvas());
-    else if (IsWholeShrink(plain, width, height))
-        Sum(plain, made.Canvas());
-    else if (plain.depth == 32)
-        Resample<4>(plain, made.Canvas());
-    else
-        Resample<3>(plain, made.Canvas());
     return made;
 }
 } // namespace vorn

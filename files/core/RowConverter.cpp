@@ -56,22 +56,18 @@ void RowConverter::ConvertBits(const unsigned char* from, unsigned char* to) con
         }
 }
 
-// Likewise. Four indices a load.
+// Likewise.
 void RowConverter::ConvertBytes(const unsigned char* from, unsigned char* to) const
 {
-    const unsigned char* last = from + m_source.width - 1;
-    for (; last - from >= 4; from += 4, to += 12)
-    {
-        DWORD indices = 0;
-        std::memcpy(&indices, from, sizeof indices);
-        std::memcpy(to, &m_colors[indices & 0xFF], 4);
-        std::memcpy(to + 3, &m_colors[indices >> 8 & 0xFF], 4);
-        std::memcpy(to + 6, &m_colors[indices >> 16 & 0xFF], 4);
-        std::memcpy(to + 9, &m_colors[indices >> 24], 4);
-    }
-    for (; from < last; ++from, to += 3)
-        std::memcpy(to, &m_colors[*from], 4);
-    PutThreeBytes(to, m_colors[*from]);
+    constexpr int kStep = 8;
+    const DWORD* const colors = m_colors.data();
+    int left = m_source.width - 1;
+    for (; left >= kStep; left -= kStep, from += kStep, to += kStep * 3)
+        for (int i = 0; i < kStep; ++i)
+            std::memcpy(to + i * 3, colors + from[i], 4);
+    for (; left > 0; --left, ++from, to += 3)
+        std::memcpy(to, colors + *from, 4);
+    PutThreeBytes(to, colors[*from]);
 }
 
 void RowConverter::ConvertChannels(const unsigned char* from, unsigned char* to) const

@@ -118,6 +118,31 @@ TEST(DibHQResize, SourceMayBeTheImage)
     EXPECT_EQ(Colors(image), "RB");
 }
 
+TEST(DibHQResize, AnImageOfTheSameSizeGivesItsBlock)
+{
+    DIB source = FromLetters("RG|BY|WK|RR", 24);
+    DIB image;
+    ASSERT_TRUE(image.HQResize(1, 2, &source));
+    const unsigned char* const bits = image.Bits();
+    std::memset(image.Bits(), 0x55, static_cast<std::size_t>(image.BytesPerScan()) * 2);
+    ASSERT_TRUE(image.HQResize(1, 2, &source));
+    EXPECT_EQ(bits, image.Bits());
+    DIB fresh;
+    ASSERT_TRUE(fresh.HQResize(1, 2, &source));
+    const auto bytesOf = [](const DIB& of)
+    {
+        return std::string(reinterpret_cast<const char*>(of.BitmapInfo()), 40U + 8U);
+    };
+    EXPECT_EQ(bytesOf(fresh), bytesOf(image)) << "with the gap at the end of each row";
+    DIB bottomUp = FromLetters("R|G", 24);
+    ASSERT_GT(bottomUp.BitmapInfo()->bmiHeader.biHeight, 0);
+    ASSERT_TRUE(bottomUp.HQResize(1, 2, &source));
+    EXPECT_EQ(bytesOf(fresh), bytesOf(bottomUp)) << "another order of rows";
+    image.BitmapInfo()->bmiHeader.biXPelsPerMeter = 3000;
+    ASSERT_TRUE(image.HQResize(1, 2, &source));
+    EXPECT_EQ(bytesOf(fresh), bytesOf(image)) << "nothing of the former picture stays";
+}
+
 TEST(DibHQResize, ImpossibleSizesChangeNothing)
 {
     DIB source = FromLetters("R");
