@@ -72,6 +72,9 @@ TEST_F(LayoutErase, TheEmptyEndOfARowOfTabsIsPainted)
     ASSERT_LT(tab.right, 90);
     Erase();
     EXPECT_EQ(kWhite, m_canvas.At(static_cast<int>(tab.left) + 3, static_cast<int>(tab.top) + 3));
+    EXPECT_EQ(kWhite, m_canvas.At(static_cast<int>(tab.right) + 1, static_cast<int>(tab.top) + 3))
+        << "the selected tab stands out by two pixels";
+    EXPECT_TRUE(IsPainted(static_cast<int>(tab.right) + 2, static_cast<int>(tab.top) + 3));
     EXPECT_TRUE(IsPainted(98, static_cast<int>(tab.top) + 1));
     EXPECT_EQ(kWhite, m_canvas.At(50, static_cast<int>(tab.bottom) + 5));
 }

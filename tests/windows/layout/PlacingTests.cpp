@@ -300,6 +300,9 @@ TEST(LayoutPlacing, ASpacerIsAsLongAsTheGapBetweenControlsLessTen)
     EXPECT_EQ(30, window.itemSpaceBetween(kRow, 1, 3)->getMinWidth()); // they overlap: near edge to near edge
     EXPECT_EQ(10, window.itemSpaceBetween(kColumn, 1, 3)->getMinHeight());
     EXPECT_EQ(-6, window.itemSpaceBetween(kRow, 1, 4)->getMinWidth());
+    window.AddButton(5, {60, 30, 90, 60});
+    EXPECT_EQ(-10, window.itemSpaceBetween(kRow, 1, 5)->getMinWidth()) << "they touch";
+    EXPECT_EQ(-10, window.itemSpaceBetween(kColumn, 1, 5)->getMinHeight());
     EXPECT_EQ(0, window.itemSpaceBetween(kRow, 1, 99)->getMinWidth());
     CWnd* const first = window.GetDlgItem(1);
     CWnd* const second = window.GetDlgItem(2);

@@ -173,6 +173,21 @@ TEST_F(LayoutSheetRules, ANewSizePaintsSheetAndTabsAtOnce)
     sheet.DestroyWindow();
 }
 
+TEST_F(LayoutSheetRules, ASheetIsLaidOutWhenItIsShown)
+{
+    PlannerPage page;
+    PlannerSheet sheet;
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create());
+    const CRect place = sheet.Place(IDCANCEL);
+    ::MoveWindow(sheet.Part(IDCANCEL), 1, 2, place.Width(), place.Height(), FALSE);
+    sheet.SendMessage(WM_SHOWWINDOW, FALSE, 0);
+    EXPECT_EQ(CPoint(1, 2), sheet.Place(IDCANCEL).TopLeft()) << "hidden";
+    sheet.SendMessage(WM_SHOWWINDOW, TRUE, 0);
+    EXPECT_EQ(place, sheet.Place(IDCANCEL));
+    sheet.DestroyWindow();
+}
+
 TEST_F(LayoutSheetRules, AButtonKeepsTheSizeThatTheSystemGaveIt)
 {
     PlainPage page;

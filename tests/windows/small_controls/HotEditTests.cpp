@@ -49,6 +49,21 @@ TEST_F(LitField, LightsUpBelowTheMouseUntilItHasGone)
     EXPECT_EQ(::GetSysColor(COLOR_BTNSHADOW), BorderColor(edit));
 }
 
+TEST_F(LitField, HiddenItIsDarkWhereverTheMouseIs)
+{
+    HotEdit edit;
+    Make(edit);
+    ::SetCursorPos(100, 70);
+    edit.HotActivate(true);
+    edit.ShowWindow(SW_HIDE);
+    EXPECT_TRUE(PumpUntil(
+        [&edit]
+        {
+            return !edit.IsHot();
+        }));
+    ::SetCursorPos(900, 700);
+}
+
 TEST_F(LitField, ItsBorderIsAPartOfIt)
 {
     HotEdit edit;

@@ -318,6 +318,9 @@ TEST_F(Link, HasTheColoursOfAllLinks)
     EXPECT_TRUE(HasColor(link, RGB(99, 0, 99)));
     link.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
     EXPECT_TRUE(HasColor(link, RGB(1, 2, 3)));
+    EXPECT_EQ(link.m_hWnd, ::GetFocus()) << "a press brings the focus";
+    link.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(500, 3));
+    EXPECT_TRUE(HasColor(link, RGB(99, 0, 99))) << "pressed, but beside it";
     ::ReleaseCapture();
 }
 
