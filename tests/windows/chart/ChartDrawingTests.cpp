@@ -1,4 +1,5 @@
 #include "apps/chart/Chart.h"
+#include "tests/support/GdiCount.h"
 
 #include <gtest/gtest.h>
 
@@ -148,7 +149,7 @@ TEST_F(ChartDrawing, HoldsNoMoreHandlesFromFrameToFrame)
 {
     Drawn(Chart::Quality::Fast);
     Drawn(Chart::Quality::Smooth);
-    const DWORD before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const unsigned before = vorn::test::CountGdiObjects();
     const int kept = ResMgr::Inst()->GetResourceCount();
     for (int frame = 0; frame < 60; ++frame)
     {
@@ -156,7 +157,7 @@ TEST_F(ChartDrawing, HoldsNoMoreHandlesFromFrameToFrame)
         Drawn(frame % 3 == 0 ? Chart::Quality::Smooth : Chart::Quality::Fast);
     }
     EXPECT_EQ(ResMgr::Inst()->GetResourceCount(), kept);
-    EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), before);
+    EXPECT_LE(vorn::test::CountGdiObjects(), before);
 }
 
 TEST_F(ChartDrawing, BecomesAnImageOfTheSamePixels)

@@ -1,5 +1,6 @@
 #include "tests/windows/framework_bars/BarFrame.h"
 
+#include "tests/support/GdiCount.h"
 #include "tests/support/PumpUntil.h"
 
 using namespace vorn::test;
@@ -220,12 +221,12 @@ TEST_F(Dragging, ADoubleClickOnTheCaptionDocks)
 
 TEST_F(Dragging, ALongDragLeavesNothingBehind)
 {
-    const DWORD gdi = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
+    const unsigned gdi = vorn::test::CountGdiObjects();
     for (int i = 0; i < 200; ++i)
     {
         Move(CPoint(200 + 3 * i, 200 + 2 * i));
     }
     bar.PostMessage(WM_KEYDOWN, VK_ESCAPE);
     Press();
-    EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), gdi + 3);
+    EXPECT_LE(vorn::test::CountGdiObjects(), gdi + 3);
 }

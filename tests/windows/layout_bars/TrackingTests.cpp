@@ -1,7 +1,9 @@
 #include "tests/windows/layout_bars/Bars.h"
 
 #include "framework/gdi/CWindowDC.h"
+#include "tests/support/GdiCount.h"
 #include "tests/support/PumpUntil.h"
+#include "tests/support/UserCount.h"
 #include "tests/support/WindowPicture.h"
 
 #include <cstdlib>
@@ -424,14 +426,14 @@ TEST_F(BarTracking, ManyDragsLeaveNothingBehind)
     };
     round(10);
     round(-10);
-    const DWORD gdi = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
-    const DWORD user = ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS);
+    const unsigned gdi = vorn::test::CountGdiObjects();
+    const unsigned user = vorn::test::CountUserObjects();
     for (int i = 0; i < 100; ++i)
     {
         round(i % 2 ? -10 : 10);
     }
-    EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), gdi + 2);
-    EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS), user + 2);
+    EXPECT_LE(vorn::test::CountGdiObjects(), gdi + 2);
+    EXPECT_LE(vorn::test::CountUserObjects(), user + 2);
 }
 
 /// For the eye: with VORN_PICTURES naming a folder, the bar docked and floating as files.

@@ -3,6 +3,7 @@
 #include "framework/include/afxres.h"
 #include "tests/support/GdiCount.h"
 #include "tests/support/PumpUntil.h"
+#include "tests/support/UserCount.h"
 #include "tests/windows/layout/ProfileApp.h"
 #include "tests/windows/layout_views/resource.h"
 #include "toolkit/layout/LayoutFormView.h"
@@ -350,11 +351,11 @@ TEST_F(LayoutForm, ManyOpeningsLeaveNoHandleBehind)
 {
     Child(400, 300)->DestroyWindow();
     const unsigned drawing = vorn::test::CountGdiObjects();
-    const DWORD user = ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS);
+    const unsigned user = vorn::test::CountUserObjects();
     for (int i = 0; i < 100; ++i)
     {
         Child(400, 300)->DestroyWindow();
     }
     EXPECT_EQ(drawing, vorn::test::CountGdiObjects());
-    EXPECT_EQ(user, ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS));
+    EXPECT_EQ(user, vorn::test::CountUserObjects());
 }

@@ -3,6 +3,7 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/GdiCount.h"
 #include "tests/support/PumpUntil.h"
+#include "tests/support/UserCount.h"
 #include "tests/windows/option_tree/resource.h"
 #include "toolkit/options/BaseOptionTreeDlg.h"
 
@@ -481,11 +482,11 @@ TEST(OptionDialogs, ManyOpeningsLeaveNoHandleBehind)
     };
     openAndClose();
     const unsigned drawing = vorn::test::CountGdiObjects();
-    const DWORD user = ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS);
+    const unsigned user = vorn::test::CountUserObjects();
     for (int i = 0; i < 100; ++i)
     {
         openAndClose();
     }
     EXPECT_EQ(drawing, vorn::test::CountGdiObjects());
-    EXPECT_EQ(user, ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS));
+    EXPECT_EQ(user, vorn::test::CountUserObjects());
 }

@@ -1,6 +1,7 @@
 #include "apps/planner/shots/TipFacts.h"
 #include "apps/planner/shots/WindowFacts.h"
 #include "tests/support/PumpUntil.h"
+#include "tests/support/UserCount.h"
 #include "tests/windows/preferences/PreferencesTest.h"
 
 #include <algorithm>
@@ -281,7 +282,7 @@ TEST_F(Preferences, LeaveNoHandleBehind)
     Open();
     Close();
     PumpWaiting();
-    const DWORD before = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    const unsigned before = vorn::test::CountUserObjects();
     for (int i = 0; i < 5; ++i)
     {
         Open();
@@ -289,7 +290,7 @@ TEST_F(Preferences, LeaveNoHandleBehind)
         Close();
     }
     PumpWaiting();
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), before);
+    EXPECT_EQ(vorn::test::CountUserObjects(), before);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/DialogTemplateBuilder.h"
 #include "tests/support/GdiCount.h"
+#include "tests/support/UserCount.h"
 #include "tests/windows/tooltips/TipTest.h"
 #include "toolkit/tooltips/ToolTipDlg.h"
 
@@ -263,13 +264,13 @@ TEST(ToolTipDlg, ManyOpeningsLeaveNothingBehind)
     };
     open();
     const unsigned drawing = vorn::test::CountGdiObjects();
-    const DWORD users = ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS);
+    const unsigned users = vorn::test::CountUserObjects();
     for (int i = 0; i < 200; ++i)
     {
         open();
     }
     EXPECT_EQ(drawing, vorn::test::CountGdiObjects());
-    EXPECT_EQ(users, ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS));
+    EXPECT_EQ(users, vorn::test::CountUserObjects());
 }
 
 TEST(ToolTipDlg, AnObjectThatEndsWithItsWindowEndsItsTips)
