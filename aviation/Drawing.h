@@ -33,6 +33,9 @@ VORNCOMMON_API void DrawMorse(CDC* dc, COLORREF color, int x, int y, int unit, i
 /// below 0 counts as not read.
 VORNCOMMON_API void GetNVScales(double& red, double& green, double& blue);
 
+/// The factors are read anew at their next use: for a host whose user has just changed them.
+VORNCOMMON_API void ForgetNVScales();
+
 /// The colour by night: each component times its factor, cut to a whole number and masked to 8 bits. The result is
 /// palette-relative (top byte 2), whatever `c` was.
 VORNCOMMON_API COLORREF MakeNightVision(COLORREF c);

@@ -25,8 +25,14 @@ vorn::PositionFormat ChosenFormat()
 
 CString LatLonToString(double degrees, bool isLatitude)
 {
+    const vorn::PositionFormat format = ChosenFormat();
+    return LatLonToString(degrees, isLatitude, format.seconds, format.decimals);
+}
+
+CString LatLonToString(double degrees, bool isLatitude, bool seconds, int decimals)
+{
     const vorn::Axis axis = isLatitude ? vorn::Axis::Latitude : vorn::Axis::Longitude;
-    return vorn::ToCString(vorn::PositionText(degrees, axis, ChosenFormat()).View());
+    return vorn::ToCString(vorn::PositionText(degrees, axis, {seconds, decimals}).View());
 }
 
 CString LatToString(double lat)

@@ -16,6 +16,8 @@
 /// A coordinate in degrees: "N 47° 30.0'", or with seconds "N 47° 30' 00.0". The last field has the precision that was
 /// chosen, and a rounded 60 carries. Coordinates do not wrap. The degree sign is byte 176.
 VORNCOMMON_API CString LatLonToString(double degrees, bool isLatitude);
+/// The same in a form of the caller's, such as one that a user has not accepted yet. @param decimals of the last field
+VORNCOMMON_API CString LatLonToString(double degrees, bool isLatitude, bool seconds, int decimals);
 VORNCOMMON_API CString LatToString(double lat);
 VORNCOMMON_API CString LonToString(double lon);
 

@@ -36,6 +36,11 @@ void GetNVScales(double& red, double& green, double& blue)
     blue = scales.blue;
 }
 
+void ForgetNVScales()
+{
+    cache = {};
+}
+
 COLORREF MakeNightVision(COLORREF c)
 {
     return Tables().Dimmed(c);

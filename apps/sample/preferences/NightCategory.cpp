@@ -79,6 +79,8 @@ bool NightCategory::Store()
         App().WriteSettingString(kColors, kKeys[i], FactorText(*factor).c_str());
         stored = true;
     }
+    if (stored)
+        ForgetNVScales();
     return stored;
 }
 

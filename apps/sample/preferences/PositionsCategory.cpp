@@ -19,6 +19,7 @@ constexpr std::array kTips = {
     Tip{IDC_OPT_MINUTE_DECIMALS_SPIN, 1330},
     Tip{IDC_OPT_SECOND_DECIMALS, 1329},
     Tip{IDC_OPT_SECOND_DECIMALS_SPIN, 1329},
+    Tip{IDC_OPT_POSITION_EXAMPLE, 1349},
 };
 
 /// The decimals of a position's last part.
@@ -45,7 +46,8 @@ int InForce(const Decimals& decimals)
 
 } // namespace
 
-PositionsCategory::PositionsCategory() : Category("Units|Positions", IDC_OPT_POSITIONS_FIRST)
+PositionsCategory::PositionsCategory(const Context& context)
+    : Category("Units|Positions", IDC_OPT_POSITIONS_FIRST), m_context(context)
 {
 }
 
@@ -65,6 +67,7 @@ void PositionsCategory::Fill()
         SetText(kDecimals[i].field, std::to_string(InForce(kDecimals[i])));
     }
     ShowState();
+    ShowExample();
 }
 
 void PositionsCategory::Arrange(Form& form, Form::Pane& area)
@@ -74,6 +77,7 @@ void PositionsCategory::Arrange(Form& form, Form::Pane& area)
     for (const Decimals& decimals : kDecimals)
         area << (form.Line() << form.Fixed(decimals.label)
                              << (form.Joined() << form.Fixed(decimals.field) << form.Fixed(decimals.spin)));
+    area << form.Wide(IDC_OPT_POSITION_EXAMPLE, 120);
 }
 
 std::optional<Fault> PositionsCategory::Check() const
@@ -101,6 +105,7 @@ bool PositionsCategory::OnControl(UINT id, UINT code)
 {
     if (id == IDC_OPT_SECONDS)
         ShowState();
+    ShowExample();
     return Category::OnControl(id, code);
 }
 
@@ -113,6 +118,19 @@ void PositionsCategory::ShowState() const
         for (const UINT id : {decimals.label, decimals.field, decimals.spin})
             Control(id).EnableWindow(counts);
     }
+}
+
+/// The middle of the chart as it will be written.
+void PositionsCategory::ShowExample() const
+{
+    const LatLon center = m_context.chartCenter ? m_context.chartCenter() : LatLon();
+    const bool seconds = IsChecked(IDC_OPT_SECONDS);
+    const std::optional<int> decimals = WholeNumber(TextAt(kDecimals[seconds ? 1 : 0].field), 0, kMostDecimals);
+    CString text;
+    if (decimals)
+        text = "For example " + LatLonToString(center.Lat(), true, seconds, *decimals) + "  " +
+               LatLonToString(center.Lon(), false, seconds, *decimals);
+    SetText(IDC_OPT_POSITION_EXAMPLE, text.GetString());
 }
 
 } // namespace vorn::preferences

@@ -11,7 +11,7 @@ namespace vorn::preferences
 class PositionsCategory : public Category
 {
 public:
-    PositionsCategory();
+    explicit PositionsCategory(const Context& context);
 
     std::span<const Tip> Tips() const override;
     void Fill() override;
@@ -22,7 +22,9 @@ public:
 
 private:
     void ShowState() const;
+    void ShowExample() const;
 
+    const Context& m_context;
     std::array<CSpinButtonCtrl, 2> m_spins;
 };
 

@@ -41,7 +41,7 @@ PreferencesDialog::PreferencesDialog(Context context, CWnd* parent)
     m_categories.push_back(std::make_unique<MessagesCategory>());
     m_categories.push_back(std::make_unique<StatisticsCategory>(m_context));
     m_categories.push_back(std::make_unique<UnitsCategory>());
-    m_categories.push_back(std::make_unique<PositionsCategory>());
+    m_categories.push_back(std::make_unique<PositionsCategory>(m_context));
     m_categories.push_back(std::make_unique<AltitudesCategory>());
     m_categories.push_back(std::make_unique<ChartCategory>());
     m_categories.push_back(std::make_unique<NightCategory>());

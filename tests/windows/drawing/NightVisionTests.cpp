@@ -129,6 +129,21 @@ TEST(NightVisionChild, DISABLED_ReadsOnceUnlessRedIsNegative)
     AppRegMgr::FreeInst();
 }
 
+TEST(NightVisionChild, DISABLED_ReadsAnewWhatItForgot)
+{
+    VornCommonApp host;
+    VornCommonApp::Inst(&host);
+    Store("NVRedScale", "0.5");
+    EXPECT_EQ(MakeNightVision(RGB(100, 100, 100)), 0x02282832U);
+    Store("NVRedScale", "0.25");
+    Store("NVBlueScale", "1");
+    EXPECT_EQ(MakeNightVision(RGB(100, 100, 100)), 0x02282832U) << "not asked yet";
+    ForgetNVScales();
+    EXPECT_EQ(MakeNightVision(RGB(100, 100, 100)), 0x02642819U);
+    VornCommonApp::FreeInst();
+    AppRegMgr::FreeInst();
+}
+
 TEST_F(NightVision, DefaultsDimAndBecomeSettings)
 {
     EXPECT_EQ(ReportElsewhere("0.4 0.4 0.4; 02142850 02000001; 80 40 20; 023264C8"), 0U);
@@ -168,6 +183,12 @@ TEST_F(NightVision, ProductsAreCutAndMasked)
     Store("NVBlueScale", "1");
     // 200 * 2 is 400, whose low byte is 144; 100 * 2.56 is 256, whose low byte is 0; 40 / 2.56 is 15.6.
     EXPECT_EQ(ReportElsewhere("2 2.56 1; 02320090 02000006; 144 0 50; 02140F28"), 0U);
+}
+
+TEST_F(NightVision, SettingsAreReadAgainWhenTheHostSaysSo)
+{
+    EXPECT_EQ(RunElsewhere("DISABLED_ReadsAnewWhatItForgot"), 0U);
+    EXPECT_EQ(StoredScales(), "0.25 0.4 1");
 }
 
 TEST_F(NightVision, SettingsAreReadOnceInAProcessUnlessTheRedScaleIsNegative)

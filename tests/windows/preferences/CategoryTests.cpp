@@ -109,7 +109,10 @@ TEST_F(PreferenceValues, PositionsAreWrittenAsChosen)
     Click(IDC_OPT_SECONDS);
     EXPECT_TRUE(Dialog().GetDlgItem(IDC_OPT_SECOND_DECIMALS)->IsWindowEnabled());
     EXPECT_FALSE(Dialog().GetDlgItem(IDC_OPT_MINUTE_DECIMALS)->IsWindowEnabled());
+    EXPECT_EQ(TextOf(IDC_OPT_POSITION_EXAMPLE), "For example N 47\xB0 30' 00.0  W122\xB0 15' 00.0");
     Type(IDC_OPT_SECOND_DECIMALS, "2");
+    EXPECT_EQ(TextOf(IDC_OPT_POSITION_EXAMPLE), "For example N 47\xB0 30' 00.00  W122\xB0 15' 00.00");
+    EXPECT_EQ(LatToString(47.5), "N 47\xB0 30.0'") << "not yet";
     Press(IDOK);
     EXPECT_EQ(Stored(), "General\\LatLonPrecSeconds=2\nGeneral\\Show seconds=1\n");
     EXPECT_EQ(LatToString(47.5), "N 47\xB0 30' 00.00");
@@ -229,12 +232,14 @@ TEST_F(PreferenceValues, TheColorSetTakesEffectAtOnce)
 
 TEST_F(PreferenceValues, NightFactorsAreStoredAsTextsOfTheLibrary)
 {
+    EXPECT_EQ(MakeNightVision(RGB(200, 100, 50)), 0x02000000 | RGB(80, 40, 20)); // read once, and stored
     OpenAt("Chart|Night");
     EXPECT_EQ(TextOf(IDC_OPT_SCALE + 1), "0.4");
     Type(IDC_OPT_SCALE + 1, "0.50");
     Type(IDC_OPT_SCALE + 5, "0");
     Press(IDOK);
-    EXPECT_EQ(Stored(), "Colors\\NVBlueScale=0\nColors\\NVRedScale=0.5\n");
+    EXPECT_EQ(Stored(), "Colors\\NVBlueScale=0\nColors\\NVGreenScale=0.4\nColors\\NVRedScale=0.5\n");
+    EXPECT_EQ(MakeNightVision(RGB(200, 100, 50)), 0x02000000 | RGB(100, 40, 0)) << "at once";
 }
 
 TEST_F(PreferenceValues, FactorsThatAreNoneAreRefused)

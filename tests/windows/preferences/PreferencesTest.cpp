@@ -66,6 +66,7 @@ PreferencesTest::PreferencesTest()
     VornCommonApp::Inst(&g_app);
     GetConversionBoy()->ReadUnits();
     ColorContext::Instance()->SetCurrentState(COLORSTATE_DAY);
+    ForgetNVScales();
     ToolTipCtrlEx::GlobalEnableTips(true);
 }
 

@@ -63,6 +63,14 @@ TEST_F(PositionTexts, AreEmptyForWhatIsNoPosition)
     EXPECT_EQ(LonToString(1e300), "");
 }
 
+TEST_F(PositionTexts, ComeInAFormOfTheCallersWhateverIsStored)
+{
+    Set("General", "LatLonPrecMinutes", 4);
+    EXPECT_EQ(LatLonToString(47.5, true, false, 1), "N 47" DEG " 30.0'");
+    EXPECT_EQ(LatLonToString(-122.2525, false, true, 0), "W122" DEG " 15' 009");
+    EXPECT_EQ(LatLonToString(59.9999999, true, false, 3), "N 60" DEG " 00.000'");
+}
+
 TEST_F(PositionTexts, SurviveAbsurdPrecisions)
 {
     for (const int decimals : {-1, -3, -100, 20, 500, 2147483647})
