@@ -1,8 +1,10 @@
 #include "apps/planner/PreferencesSheet.h"
 
+#include "apps/planner/GeneralSettings.h"
+#include "apps/planner/StoredValue.h"
+#include "apps/planner/UnitChoices.h"
 #include "apps/planner/resource.h"
 
-#include <span>
 #include <utility>
 
 namespace vorn::planner
@@ -12,32 +14,14 @@ namespace
 {
 
 constexpr const char* kGeneral = "General";
-constexpr int kMostDecimals = 4;
 constexpr UINT kApplyNow = 0x3021;
 
-struct UnitChoice
+/// The kinds of quantity on the page: fuel has its own dialog.
+constexpr std::array<std::size_t, 6> kKinds = {0, 1, 2, 4, 5, 6};
+
+const UnitChoice& Kind(std::size_t row)
 {
-    const char* key; // in section "Units"
-    int defaultUnit;
-    std::span<const int> units;
-};
-
-constexpr std::array<int, 3> kDistances = {UNIT_NM, UNIT_SM, UNIT_KM};
-constexpr std::array<int, 4> kSpeeds = {UNIT_KTS, UNIT_MPH, UNIT_KPH, UNIT_MPS};
-constexpr std::array<int, 3> kShortDistances = {UNIT_FT, UNIT_M, UNIT_YD};
-constexpr std::array<int, 2> kMasses = {UNIT_LBS, UNIT_KG};
-constexpr std::array<int, 2> kTemperatures = {UNIT_F, UNIT_C};
-constexpr std::array<int, 3> kPressures = {UNIT_INHG, UNIT_HPA, UNIT_MMHG};
-
-constexpr std::array kUnits = {
-    UnitChoice{"Distance", UNIT_NM, kDistances},       UnitChoice{"Speed", UNIT_KTS, kSpeeds},
-    UnitChoice{"ShortDist", UNIT_FT, kShortDistances}, UnitChoice{"Mass", UNIT_LBS, kMasses},
-    UnitChoice{"Temp", UNIT_F, kTemperatures},         UnitChoice{"Pressure", UNIT_INHG, kPressures},
-};
-
-VornCommonApp& App()
-{
-    return *VornCommonApp::Inst();
+    return UnitChoices()[kKinds[row]];
 }
 
 UINT LabelOf(std::size_t unit)
@@ -58,7 +42,7 @@ GeneralPage::GeneralPage() : PlannerPage(IDD_PREF_GENERAL)
 
 void GeneralPage::Fill()
 {
-    Check(IDC_PREF_TIPS, App().GetSettingInt(kGeneral, "Show Dialog Tips", 1) != 0);
+    Check(IDC_PREF_TIPS, ShowsTips());
     Check(IDC_PREF_WARNING, ReadSwitch(kWarns, true));
     Check(IDC_PREF_SECONDS, App().GetSettingInt(kGeneral, "Show seconds", 0) != 0);
     m_decimals.SubclassDlgItem(IDC_PREF_DECIMALS, this);
@@ -77,11 +61,17 @@ void GeneralPage::Arrange(Form& form)
 
 BOOL GeneralPage::OnApply()
 {
-    App().WriteSettingInt(kGeneral, "Show Dialog Tips", IsChecked(IDC_PREF_TIPS) ? 1 : 0);
+    const double decimals = m_decimals.GetValue();
+    if (decimals < 0 || decimals > kMostDecimals)
+    {
+        m_refusal.Show(*this, IDC_PREF_DECIMALS, "Not possible",
+                       "The number of decimals is a whole number from 0 to 4.");
+        return FALSE;
+    }
+    StoreTips(IsChecked(IDC_PREF_TIPS));
     WriteSwitch(kWarns, IsChecked(IDC_PREF_WARNING));
-    App().WriteSettingInt(kGeneral, "Show seconds", IsChecked(IDC_PREF_SECONDS) ? 1 : 0);
-    const int decimals = std::clamp(static_cast<int>(m_decimals.GetValue()), 0, kMostDecimals);
-    App().WriteSettingInt(kGeneral, "LatLonPrecMinutes", decimals);
+    StoreNumber(kGeneral, "Show seconds", 0, IsChecked(IDC_PREF_SECONDS) ? 1 : 0);
+    StoreNumber(kGeneral, "LatLonPrecMinutes", 1, static_cast<int>(decimals));
     return PlannerPage::OnApply();
 }
 
@@ -91,15 +81,13 @@ UnitsPage::UnitsPage() : PlannerPage(IDD_PREF_UNITS)
 
 void UnitsPage::Fill()
 {
-    for (std::size_t i = 0; i < kUnits.size(); ++i)
+    for (std::size_t i = 0; i < kKinds.size(); ++i)
     {
-        const UnitChoice& choice = kUnits[i];
         auto& box = static_cast<CComboBox&>(*GetDlgItem(static_cast<int>(BoxOf(i))));
-        const int inForce = App().GetSettingInt("Units", choice.key, choice.defaultUnit);
-        for (const int unit : choice.units)
+        for (const int unit : Kind(i).units)
         {
-            const int at = box.AddString(gUnitInfo[unit][0]);
-            if (unit == inForce)
+            const int at = box.AddString(UnitName(unit));
+            if (unit == UnitInForce(Kind(i)))
                 box.SetCurSel(at);
         }
     }
@@ -110,7 +98,7 @@ void UnitsPage::Arrange(Form& form)
 {
     form.Align({LabelOf(0), LabelOf(1), LabelOf(2), LabelOf(3), LabelOf(4), LabelOf(5)});
     CPane root = CreateRoot(Vertical, form.Y(4));
-    for (std::size_t i = 0; i < kUnits.size(); ++i)
+    for (std::size_t i = 0; i < kKinds.size(); ++i)
         root << form.Field(LabelOf(i), BoxOf(i), 80);
     root << itemSpace(Vertical) << item(IDC_PREF_EXAMPLE, FixedHeight, 0, 0, form.X(120));
 }
@@ -132,9 +120,9 @@ void UnitsPage::ShowExample()
     {
         const auto& box = static_cast<CComboBox&>(*GetDlgItem(static_cast<int>(BoxOf(i))));
         const int chosen = std::max(box.GetCurSel(), 0);
-        const int unit = kUnits[i].units[static_cast<std::size_t>(chosen)];
+        const int unit = Kind(i).units[static_cast<std::size_t>(chosen)];
         double value = examples[i];
-        ConvertValue(&value, static_cast<UNIT>(kUnits[i].defaultUnit), static_cast<UNIT>(unit));
+        ConvertValue(&value, static_cast<UNIT>(Kind(i).defaultUnit), static_cast<UNIT>(unit));
         text.AppendFormat("%s %.1f %s", i == 0 ? "" : " at", value, gUnitInfo[unit][1]);
     }
     SetDlgItemText(IDC_PREF_EXAMPLE, text);
@@ -142,13 +130,12 @@ void UnitsPage::ShowExample()
 
 BOOL UnitsPage::OnApply()
 {
-    for (std::size_t i = 0; i < kUnits.size(); ++i)
+    for (std::size_t i = 0; i < kKinds.size(); ++i)
     {
         const auto& box = static_cast<CComboBox&>(*GetDlgItem(static_cast<int>(BoxOf(i))));
         if (const int chosen = box.GetCurSel(); chosen >= 0)
-            App().WriteSettingInt("Units", kUnits[i].key, kUnits[i].units[static_cast<std::size_t>(chosen)]);
+            StoreUnit(Kind(i), Kind(i).units[static_cast<std::size_t>(chosen)]);
     }
-    GetConversionBoy()->ReadUnits();
     return PlannerPage::OnApply();
 }
 
@@ -170,7 +157,8 @@ void ChartPrefPage::Arrange(Form& form)
 
 BOOL ChartPrefPage::OnApply()
 {
-    ColorContext::Instance()->SetCurrentState(IsChecked(IDC_PREF_NIGHT) ? COLORSTATE_NIGHT : COLORSTATE_DAY);
+    if (IsChecked(IDC_PREF_NIGHT) != IsNightVision()) // dusk stays dusk
+        StoreColorState(IsChecked(IDC_PREF_NIGHT) ? COLORSTATE_NIGHT : COLORSTATE_DAY);
     WriteSwitch(kPositionTip, IsChecked(IDC_PREF_POSITION_TIP));
     return PlannerPage::OnApply();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/planner/PlannerPage.h"
+#include "apps/planner/Refusal.h"
 
 #include <array>
 
@@ -20,6 +21,7 @@ protected:
 
 private:
     FloatEdit m_decimals;
+    Refusal m_refusal;
 };
 
 /// The user's units.

@@ -40,6 +40,14 @@ int UnitInForce(const UnitChoice& choice)
     return App().GetSettingInt("Units", choice.key, choice.defaultUnit);
 }
 
+bool StoreUnit(const UnitChoice& choice, int unit)
+{
+    const bool stored = StoreNumber("Units", choice.key, choice.defaultUnit, unit);
+    if (stored)
+        GetConversionBoy()->ReadUnits();
+    return stored;
+}
+
 CString UnitName(int unit)
 {
     return unit == UNIT_AUTO ? "As each page asks" : gUnitInfo[unit][0];

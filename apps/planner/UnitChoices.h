@@ -22,6 +22,9 @@ std::span<const UnitChoice> UnitChoices();
 
 int UnitInForce(const UnitChoice& choice);
 
+/// Stores a unit and puts it into force, unless it is. @return whether it was stored
+bool StoreUnit(const UnitChoice& choice, int unit);
+
 /// The unit's name; for UNIT_AUTO that pages decide.
 CString UnitName(int unit);
 

@@ -1,5 +1,6 @@
 #include "apps/sample/SampleApp.h"
 
+#include "apps/planner/GeneralSettings.h"
 #include "apps/planner/shots/ShotRun.h"
 #include "apps/sample/LeftOver.h"
 #include "apps/sample/MainFrame.h"
@@ -10,7 +11,6 @@
 #include "apps/sample/core/ReportTable.h"
 #include "apps/sample/model/Messages.h"
 #include "apps/sample/model/Usage.h"
-#include "apps/sample/preferences/GeneralCategory.h"
 #include "apps/sample/resource.h"
 
 #include <memory>
@@ -56,7 +56,7 @@ std::string TakeOptions(PageView& view, const StartOptions& options)
 void TakeSettings()
 {
     BeginLog();
-    vorn::preferences::ApplyTips();
+    vorn::planner::ApplyTips();
 }
 
 void FreeSingletons()

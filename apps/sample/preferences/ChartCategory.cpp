@@ -1,5 +1,6 @@
 #include "apps/sample/preferences/ChartCategory.h"
 
+#include "apps/planner/GeneralSettings.h"
 #include "apps/sample/preferences/resource.h"
 
 namespace vorn::preferences
@@ -52,9 +53,7 @@ void ChartCategory::Arrange(Form& form, Form::Pane& area)
 bool ChartCategory::Store()
 {
     const int inForce = ColorContext::Instance()->GetCurrentState();
-    const int state = Chosen(IDC_OPT_COLOR_SET).value_or(inForce);
-    ColorContext::Instance()->SetCurrentState(state);
-    return StoreNumber("Chart", "Night", COLORSTATE_DAY, state) || state != inForce;
+    return planner::StoreColorState(Chosen(IDC_OPT_COLOR_SET).value_or(inForce));
 }
 
 bool ChartCategory::OnControl(UINT id, UINT code)

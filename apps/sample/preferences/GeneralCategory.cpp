@@ -1,5 +1,6 @@
 #include "apps/sample/preferences/GeneralCategory.h"
 
+#include "apps/planner/GeneralSettings.h"
 #include "apps/sample/preferences/resource.h"
 
 #include <array>
@@ -10,8 +11,6 @@ namespace vorn::preferences
 namespace
 {
 
-constexpr const char* kGeneral = "General";
-constexpr const char* kTipsKey = "Show Dialog Tips";
 constexpr const char* kStartup = "Startup";
 constexpr const char* kShowDialog = "ShowDialog";
 constexpr const char* kNoDisclaimer = "NoDisclaimer";
@@ -49,7 +48,7 @@ std::span<const Tip> GeneralCategory::Tips() const
 
 void GeneralCategory::Fill()
 {
-    SetCheck(IDC_OPT_TIPS, App().GetSettingInt(kGeneral, kTipsKey, 1) != 0);
+    SetCheck(IDC_OPT_TIPS, planner::ShowsTips());
     SetCheck(IDC_OPT_START, App().GetSettingInt(kStartup, kShowDialog, 1) != 0);
     SetCheck(IDC_OPT_DISCLAIMER, !HidesDisclaimer());
 }
@@ -61,16 +60,9 @@ void GeneralCategory::Arrange(Form& form, Form::Pane& area)
 
 bool GeneralCategory::Store()
 {
-    bool stored = StoreNumber(kGeneral, kTipsKey, 1, IsChecked(IDC_OPT_TIPS) ? 1 : 0);
-    if (stored)
-        ApplyTips();
+    bool stored = planner::StoreTips(IsChecked(IDC_OPT_TIPS));
     stored = StoreNumber(kStartup, kShowDialog, 1, IsChecked(IDC_OPT_START) ? 1 : 0) || stored;
     return StoreDisclaimer(!IsChecked(IDC_OPT_DISCLAIMER)) || stored;
-}
-
-void ApplyTips()
-{
-    ToolTipCtrlEx::GlobalEnableTips(App().GetSettingInt(kGeneral, kTipsKey, 1) != 0);
 }
 
 } // namespace vorn::preferences

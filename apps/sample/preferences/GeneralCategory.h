@@ -17,7 +17,4 @@ public:
     bool Store() override;
 };
 
-/// Puts the stored choice about tips into force, for all windows of the program.
-void ApplyTips();
-
 } // namespace vorn::preferences

@@ -1,17 +1,19 @@
 #include "apps/sample/preferences/PositionsCategory.h"
 
+#include "apps/planner/GeneralSettings.h"
 #include "apps/sample/preferences/core/Entries.h"
 #include "apps/sample/preferences/resource.h"
 
 namespace vorn::preferences
 {
 
+using planner::kMostDecimals;
+
 namespace
 {
 
 constexpr const char* kGeneral = "General";
 constexpr const char* kShowSeconds = "Show seconds";
-constexpr int kMostDecimals = 4;
 
 constexpr std::array kTips = {
     Tip{IDC_OPT_SECONDS, 1328},

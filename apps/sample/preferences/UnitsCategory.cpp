@@ -8,6 +8,7 @@
 namespace vorn::preferences
 {
 
+using planner::StoreUnit;
 using planner::UnitChoice;
 using planner::UnitChoices;
 using planner::UnitInForce;
@@ -95,10 +96,8 @@ bool UnitsCategory::Store()
     for (std::size_t kind = 0; kind < kinds.size(); ++kind)
     {
         if (const std::optional<int> unit = Chosen(BoxOf(kind)))
-            stored = StoreNumber("Units", kinds[kind].key, kinds[kind].defaultUnit, *unit) || stored;
+            stored = StoreUnit(kinds[kind], *unit) || stored;
     }
-    if (stored)
-        GetConversionBoy()->ReadUnits();
     return stored;
 }
 

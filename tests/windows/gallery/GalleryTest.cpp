@@ -212,6 +212,7 @@ GalleryTest::GalleryTest()
 
 GalleryTest::~GalleryTest()
 {
+    ToolTipCtrlEx::GlobalEnableTips(true); // what a test switched off
     VornCommonApp::FreeInst();
     AppRegMgr::FreeInst();
 }
