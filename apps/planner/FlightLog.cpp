@@ -1,5 +1,6 @@
 #include "apps/planner/FlightLog.h"
 
+#include "apps/planner/Distances.h"
 #include "apps/planner/Form.h"
 #include "apps/planner/HostIcon.h"
 #include "apps/planner/resource.h"
@@ -27,8 +28,10 @@ struct Column
 };
 constexpr std::array kColumns = {
     Column{"From", LVCFMT_LEFT, 16}, Column{"To", LVCFMT_LEFT, 16},    Column{"Course", LVCFMT_RIGHT, 17},
-    Column{"NM", LVCFMT_RIGHT, 17},  Column{"Time", LVCFMT_RIGHT, 17}, Column{"Over", LVCFMT_RIGHT, 17},
+    Column{"", LVCFMT_RIGHT, 17},    Column{"Time", LVCFMT_RIGHT, 17}, Column{"Over", LVCFMT_RIGHT, 17},
 };
+
+constexpr int kDistanceColumn = 3; // its heading is the user's unit
 
 /// Hours after midnight of a time such as "0930".
 double HoursOf(const std::string& hhmm)
@@ -101,6 +104,16 @@ void FlightLogView::Refresh()
     ShowLegs();
 }
 
+/// Over the distances.
+void FlightLogView::ShowUnit()
+{
+    CString unit = GetConversionBoy()->UnitStr(UNITTYPE_DISTANCE);
+    LVCOLUMN heading{};
+    heading.mask = LVCF_TEXT;
+    heading.pszText = unit.GetBuffer();
+    m_legs.SetColumn(kDistanceColumn, &heading);
+}
+
 void FlightLogView::ShowLegs()
 {
     CString typed;
@@ -108,6 +121,7 @@ void FlightLogView::ShowLegs()
     ValidateTime(typed);
     double over = HoursOf(typed.GetString());
     const std::vector<Leg> legs = m_data.Legs();
+    ShowUnit();
     m_legs.DeleteAllItems();
     for (int i = 0; i < static_cast<int>(legs.size()); ++i)
     {
@@ -116,11 +130,11 @@ void FlightLogView::ShowLegs()
         m_legs.InsertItem(i, leg.from.c_str());
         m_legs.SetItemText(i, 1, leg.to.c_str());
         m_legs.SetItemText(i, 2, CourseToString(leg.course, false));
-        m_legs.SetItemText(i, 3, NumberText(leg.miles, 1).c_str());
+        m_legs.SetItemText(i, kDistanceColumn, DistanceNumber(leg.miles, 1).c_str());
         m_legs.SetItemText(i, 4, HoursText(leg.hours).c_str());
         m_legs.SetItemText(i, 5, ClockText(over).c_str());
     }
-    const std::string total = SummaryOf(legs) + ", " + NumberText(SumOf(legs).gallons, 1) + " gal";
+    const std::string total = SummaryText(legs) + ", " + NumberText(SumOf(legs).gallons, 1) + " gal";
     SetDlgItemText(IDC_LOG_TOTAL, total.c_str());
 }
 

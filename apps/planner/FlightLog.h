@@ -32,6 +32,7 @@ private:
     void SizeColumns();
     void Arrange();
     void ShowLegs();
+    void ShowUnit();
 
     PlannerData& m_data;
     CListCtrl m_legs;

@@ -1,5 +1,6 @@
 #include "apps/planner/LegBar.h"
 
+#include "apps/planner/Distances.h"
 #include "apps/planner/Form.h"
 #include "apps/planner/resource.h"
 
@@ -12,7 +13,7 @@ namespace
 std::string LegText(const Leg& leg)
 {
     return leg.from + " - " + leg.to + "  " + CourseToString(leg.course, false).GetString() + "  " +
-           NumberText(leg.miles, 0) + " NM";
+           DistanceText(leg.miles);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "apps/planner/NewFlightWizard.h"
 
+#include "apps/planner/Distances.h"
 #include "apps/planner/PlannerDialog.h"
 #include "apps/planner/resource.h"
 
@@ -22,7 +23,7 @@ std::string Summary(const Plan& plan, const std::vector<Place>& places)
     const FuelSums fuel = FuelFor(plan, places);
     const LoadingSums loading = LoadingOf(plan, fuel.trip);
     const std::string fault = LoadingFault(loading);
-    std::string text = plan.departure + " to " + plan.destination + ": " + SummaryOf(legs) + "\r\n";
+    std::string text = plan.departure + " to " + plan.destination + ": " + SummaryText(legs) + "\r\n";
     text += "Fuel required: " + NumberText(fuel.required, 1) + " gal of " + NumberText(fuel.onBoard, 1) + " gal\r\n";
     text += "Takeoff: " + NumberText(loading.takeoff.weight, 0) + " lb at " + NumberText(loading.takeoff.Arm(), 1) +
             " in\r\n";

@@ -1,5 +1,6 @@
 #include "apps/planner/RouteDialog.h"
 
+#include "apps/planner/Distances.h"
 #include "apps/planner/resource.h"
 
 #include <algorithm>
@@ -160,7 +161,7 @@ bool RouteDialog::Take()
 
 void RouteDialog::ShowTotal(const Plan& plan)
 {
-    SetDlgItemText(IDC_ROUTE_TOTAL, SummaryOf(LegsOf(RouteOf(plan, m_data.places), plan.speed, plan.flow)).c_str());
+    SetDlgItemText(IDC_ROUTE_TOTAL, SummaryText(LegsOf(RouteOf(plan, m_data.places), plan.speed, plan.flow)).c_str());
 }
 
 void RouteDialog::OnPlacesChanged()

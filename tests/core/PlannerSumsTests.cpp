@@ -60,8 +60,8 @@ TEST(PlannerSums, LegsHaveCourseLengthTimeAndFuel)
     const Leg sum = SumOf(legs);
     EXPECT_EQ(sum.from + sum.to, "AAACCC");
     EXPECT_NEAR(sum.miles, 2 * kDegreeOnEquator, 1e-6);
-    EXPECT_EQ(SummaryOf(legs), "2 legs, 120 NM, 1:00");
-    EXPECT_EQ(SummaryOf({}), "0 legs, 0 NM, 0:00");
+    EXPECT_EQ(SummaryOf(legs, "120 NM"), "2 legs, 120 NM, 1:00");
+    EXPECT_EQ(SummaryOf({}, "0 KM"), "0 legs, 0 KM, 0:00");
 }
 
 TEST(PlannerSums, WithoutSpeedThereIsNoTimeAndNoFuel)

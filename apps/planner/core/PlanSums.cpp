@@ -75,11 +75,10 @@ Leg SumOf(std::span<const Leg> legs)
     return sum;
 }
 
-std::string SummaryOf(std::span<const Leg> legs)
+std::string SummaryOf(std::span<const Leg> legs, const std::string& distance)
 {
-    const Leg sum = SumOf(legs);
-    return std::to_string(legs.size()) + (legs.size() == 1 ? " leg, " : " legs, ") + NumberText(sum.miles, 0) +
-           " NM, " + HoursText(sum.hours);
+    return std::to_string(legs.size()) + (legs.size() == 1 ? " leg, " : " legs, ") + distance + ", " +
+           HoursText(SumOf(legs).hours);
 }
 
 FuelSums FuelFor(const Plan& plan, const std::vector<Place>& places)

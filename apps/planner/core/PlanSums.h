@@ -32,8 +32,8 @@ std::vector<Leg> LegsOf(std::span<const Place> route, double knots, double gallo
 /// All legs in one, from the first place to the last.
 Leg SumOf(std::span<const Leg> legs);
 
-/// "3 legs, 224 NM, 1:50".
-std::string SummaryOf(std::span<const Leg> legs);
+/// "3 legs, 224 NM, 1:50". @param distance of all legs, with its unit
+std::string SummaryOf(std::span<const Leg> legs, const std::string& distance);
 
 /// US gallons.
 struct FuelSums

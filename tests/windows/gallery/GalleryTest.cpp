@@ -205,6 +205,7 @@ GalleryTest::GalleryTest()
 {
     AppRegMgr::FreeInst();
     VornCommonApp::Inst(&g_app);
+    GetConversionBoy()->ReadUnits();
     m_data.places = {{"KSEA", "Seattle", {47.449, -122.309}},   {"KGEG", "Spokane", {47.620, -117.534}},
                      {"ELN", "Ellensburg", {47.024, -120.459}}, {"EPH", "Ephrata", {47.378, -119.424}},
                      {"KPSC", "Pasco", {46.265, -119.119}},     {"KYKM", "Yakima", {46.568, -120.544}}};

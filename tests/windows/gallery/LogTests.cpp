@@ -1,4 +1,5 @@
 #include "apps/planner/FlightLog.h"
+#include "apps/planner/UnitChoices.h"
 #include "apps/planner/resource.h"
 #include "tests/support/PumpUntil.h"
 #include "tests/windows/gallery/GalleryTest.h"
@@ -68,6 +69,28 @@ TEST_F(GalleryLog, TheTimesOverFollowTheTimeOfDeparture)
     EXPECT_EQ(m_data.plan.departureTime, "0900") << "while it is being typed";
     Press(VK_TAB);
     EXPECT_EQ(m_data.plan.departureTime, "2330");
+}
+
+TEST_F(GalleryLog, DistancesAreInTheUnitOfTheUser)
+{
+    auto& list = static_cast<CListCtrl&>(*CWnd::FromHandle(Control(IDC_LOG_LIST)));
+    const auto heading = [&list]
+    {
+        char text[16] = {};
+        LVCOLUMN column{};
+        column.mask = LVCF_TEXT;
+        column.pszText = text;
+        column.cchTextMax = sizeof text;
+        list.GetColumn(3, &column);
+        return std::string(text);
+    };
+    EXPECT_EQ(heading(), "NM");
+    const double miles = std::stod(Cell(0, 3));
+    planner::StoreUnit(planner::UnitChoices()[0], UNIT_KM);
+    static_cast<planner::FlightLogFrame&>(m_open->Window()).View().Refresh();
+    EXPECT_EQ(heading(), "KM");
+    EXPECT_NEAR(std::stod(Cell(0, 3)), miles * 1.852, 0.15);
+    EXPECT_NE(TextOf(Control(IDC_LOG_TOTAL)).find(" KM, "), std::string::npos);
 }
 
 TEST_F(GalleryLog, NotesAreOfSeveralLinesAndKeptWhenTheyAreLeft)
