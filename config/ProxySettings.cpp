@@ -120,7 +120,7 @@ int LoadProxies(ProxySet& proxies)
     auto proxy = std::make_unique<ProxyInfo>();
     for (int number = 1; number <= count && ProxyRecord(number).Read(*proxy) && proxies.AddProxy(proxy.get()); ++number)
     {
-        proxy.release(); // the set's now
+        static_cast<void>(proxy.release()); // the set's now
         proxy = std::make_unique<ProxyInfo>();
     }
     return proxies.GetCount();

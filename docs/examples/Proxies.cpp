@@ -36,7 +36,7 @@ void Add(ProxySet& proxies, const char* address, int type)
     proxy->mType = type;
     proxy->mAddress.Parse(address);
     if (proxies.AddProxy(proxy.get()))
-        proxy.release(); // the set's now
+        static_cast<void>(proxy.release()); // the set's now
 }
 
 } // namespace
