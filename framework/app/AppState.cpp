@@ -59,6 +59,11 @@ HINSTANCE AfxGetInstanceHandle()
     return instance ? instance : ::GetModuleHandle(nullptr);
 }
 
+void AfxSetInstanceHandle(HINSTANCE hInstance)
+{
+    vorn::SetInstance(hInstance);
+}
+
 HINSTANCE AfxGetResourceHandle()
 {
     const HINSTANCE resources = currentResources;

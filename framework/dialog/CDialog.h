@@ -92,7 +92,6 @@ private:
     BOOL CreateModeless(const vorn::LoadedDialogTemplate& dialogTemplate, CWnd* parent);
     bool CreateFrom(const vorn::LoadedDialogTemplate& dialogTemplate, HWND owner);
     int RunModal(const vorn::LoadedDialogTemplate& dialogTemplate, vorn::ModalOwner& owner);
-    void FinishModal(vorn::ModalOwner& owner);
 
     vorn::ModalOwner* m_modalOwner = nullptr; ///< while DoModal runs
     int m_modalResult = -1;                   ///< what EndDialog was given

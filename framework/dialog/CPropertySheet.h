@@ -145,7 +145,6 @@ private:
     bool PreparePages();
     bool CreateFrom(HWND owner);
     int RunModal(vorn::ModalOwner& owner);
-    void FinishModal(vorn::ModalOwner& owner);
     void RemoveButtons();
     bool IsIdleEscape(const MSG& message) const;
 

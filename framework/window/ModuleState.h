@@ -46,6 +46,9 @@ public:
 
 /// Module of the program (its executable, unless changed at start-up).
 HOSTFRAMEWORK_API HINSTANCE AfxGetInstanceHandle();
+/// Names another module, whose resources the application has too unless AfxSetResourceHandle() says otherwise; null for
+/// the executable again.
+HOSTFRAMEWORK_API void AfxSetInstanceHandle(HINSTANCE hInstance);
 /// Module where the application's resources are: the program unless changed.
 HOSTFRAMEWORK_API HINSTANCE AfxGetResourceHandle();
 HOSTFRAMEWORK_API void AfxSetResourceHandle(HINSTANCE hInstResource);

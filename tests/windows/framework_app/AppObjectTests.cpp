@@ -132,6 +132,22 @@ TEST(AppObject, MayBeMissing)
     EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandle(nullptr));
 }
 
+TEST(AppObject, StandsInTheModuleThatIsNamed)
+{
+    const HINSTANCE framework = ::GetModuleHandle("HostFramework.dll");
+    ASSERT_NE(nullptr, framework);
+    AfxSetInstanceHandle(framework);
+    EXPECT_EQ(framework, AfxGetInstanceHandle());
+    EXPECT_EQ(framework, AfxGetResourceHandle()) << "unless another module is named for them";
+    AfxSetResourceHandle(::GetModuleHandle("kernel32.dll"));
+    EXPECT_EQ(::GetModuleHandle("kernel32.dll"), AfxGetResourceHandle());
+    EXPECT_EQ(framework, AfxGetInstanceHandle());
+    AfxSetResourceHandle(nullptr);
+    AfxSetInstanceHandle(nullptr);
+    EXPECT_EQ(::GetModuleHandle(nullptr), AfxGetInstanceHandle());
+    EXPECT_EQ(::GetModuleHandle(nullptr), AfxGetResourceHandle());
+}
+
 TEST(AppObject, KeepsACopyOfItsName)
 {
     char name[] = "Changing";
