@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace
 {
@@ -48,6 +49,37 @@ double Expected(const vorn::ImageView& source, int channel, int x, int y, int wi
             sum += Share(sx, x, source.width, width) * Share(sy, y, source.height, height) *
                    source.Row(sy)[sx * source.depth / 8 + channel];
     return sum;
+}
+
+TEST(PutResized, GivesTheBytesThatANewImageHas)
+{
+    for (const int depth : {8, 24, 32})
+        for (const auto& [width, height] : {std::pair{3, 5}, {6, 4}, {5, 3}, {13, 9}})
+        {
+            const PackedImage source = Noise(12, 8, depth);
+            const PackedImage made = BoxResize(source.View(), width, height);
+            PackedImage target = made.Clone();
+            std::ranges::fill(target.Block().subspan(target.BitsOffset()), static_cast<unsigned char>(0x55));
+            EXPECT_TRUE(vorn::PutResized(target.Canvas(), source.View()));
+            EXPECT_TRUE(std::ranges::equal(made.Block(), target.Block())) << depth << ' ' << width << ' ' << height;
+        }
+}
+
+TEST(PutResized, TakesNoImageThatIsNotAsMade)
+{
+    PackedImage source = Noise(12, 8, 24);
+    const auto takes = [&](PackedImage target)
+    {
+        return vorn::PutResized(target.Canvas(), source.View());
+    };
+    EXPECT_TRUE(takes(PackedImage::Make(4, -4, 24)));
+    EXPECT_FALSE(takes(PackedImage::Make(4, 4, 24))) << "bottom-up";
+    EXPECT_FALSE(takes(PackedImage::Make(4, -4, 32)));
+    EXPECT_FALSE(takes(PackedImage::Make(4, -4, 8)));
+    EXPECT_FALSE(takes(PackedImage()));
+    EXPECT_FALSE(vorn::PutResized(source.Canvas(), source.View()));
+    PackedImage target = PackedImage::Make(4, -4, 24);
+    EXPECT_FALSE(vorn::PutResized(target.Canvas(), PackedImage().View()));
 }
 
 TEST(BoxResize, WholeNumbersOfPixelsAreAveragedExactly)
