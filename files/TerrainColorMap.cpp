@@ -45,7 +45,7 @@ TerrainColorMap::TerrainColorMap(bool makePens) : m_makePens(makePens)
 {
 }
 
-TerrainColorMap::TerrainColorMap(const TerrainColorMap& other) : ColorMap(), m_makePens(other.m_makePens)
+TerrainColorMap::TerrainColorMap(const TerrainColorMap& other) : TerrainColorMap(other.m_makePens)
 {
     CopyTools(other);
 }
