@@ -1,4 +1,5 @@
 #include "family/TarnUtil/core/ColorMap.h"
+#include "tests/support/SpecialNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +11,8 @@
 namespace
 {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinite = std::numeric_limits<double>::infinity();
+using vorn::test::kInfinite;
+using vorn::test::kNaN;
 constexpr double kLargest = std::numeric_limits<double>::max();
 
 constexpr DWORD kGreen = 0x002E8B57;

@@ -1,5 +1,6 @@
 #include "aviation/core/DistributePoints.h"
 #include "aviation/core/EvenSteps.h"
+#include "tests/support/SpecialNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -19,8 +20,8 @@ static void PrintTo(const CPoint& point, std::ostream* out)
 namespace
 {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinite = std::numeric_limits<double>::infinity();
+using vorn::test::kInfinite;
+using vorn::test::kNaN;
 
 using Points = std::vector<CPoint>;
 

@@ -1,4 +1,5 @@
 #include "family/TarnUtil/core/LatLon.h"
+#include "tests/support/SpecialNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +11,8 @@
 namespace
 {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinite = std::numeric_limits<double>::infinity();
+using vorn::test::kInfinite;
+using vorn::test::kNaN;
 /// A tenth of a millimetre, in nautical miles and in degrees of latitude.
 constexpr double kTenthMillimetre = 0.0001 / 1852;
 constexpr double kTenthMillimetreOfArc = 1e-9;

@@ -1,4 +1,5 @@
 #include "aviation/core/NightColors.h"
+#include "tests/support/SpecialNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +8,8 @@
 namespace
 {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinite = std::numeric_limits<double>::infinity();
+using vorn::test::kInfinite;
+using vorn::test::kNaN;
 constexpr vorn::NightScales kUsual = {0.4, 0.4, 0.4};
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "tests/support/SpecialNumbers.h"
 #include "toolkit/core/NumberEditing.h"
 
 #include <gtest/gtest.h>
@@ -14,8 +15,8 @@ using vorn::TypedNumber;
 
 namespace
 {
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinite = std::numeric_limits<double>::infinity();
+using vorn::test::kInfinite;
+using vorn::test::kNaN;
 
 bool Passes(unsigned character, const std::string& text, int position, bool pointAllowed = true)
 {

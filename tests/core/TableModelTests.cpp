@@ -39,7 +39,7 @@ private:
 
 std::string InventTable(Chance& chance)
 {
-    TableBytes table;
+    vorn::test::TableBytes table;
     const int fields = chance.Below(7);
     for (int i = 0; i < fields; ++i)
     {

@@ -9,7 +9,7 @@ using namespace vorn::tool;
 namespace
 {
 
-std::vector<std::uint8_t> Bytes(const std::string& text)
+std::vector<std::uint8_t> BytesOf(const std::string& text)
 {
     return {text.begin(), text.end()};
 }
@@ -75,8 +75,8 @@ DbfColumn ColumnOf(const std::vector<std::string>& values)
 
 TEST(DbfLayout, TakesTheHeaderApart)
 {
-    const DbfLayout layout = ReadDbfLayout(Bytes(Header(0xFEDCBA98, 97, 16) + Descriptor("IDENT", 'C', 5, 0) +
-                                                 Descriptor("ELEVENCHARS", 'N', 10, 0) + "\r"));
+    const DbfLayout layout = ReadDbfLayout(BytesOf(Header(0xFEDCBA98, 97, 16) + Descriptor("IDENT", 'C', 5, 0) +
+                                                   Descriptor("ELEVENCHARS", 'N', 10, 0) + "\r"));
     EXPECT_EQ(layout.version, 3);
     EXPECT_EQ(layout.year, 2026);
     EXPECT_EQ(layout.month, 2);
@@ -91,8 +91,8 @@ TEST(DbfLayout, TakesTheHeaderApart)
 
 TEST(DbfLayout, DecimalsMoveTheFieldsBehindBy256Each)
 {
-    const DbfLayout layout = ReadDbfLayout(Bytes(Header(1, 129, 16) + Descriptor("A", 'N', 8, 2) +
-                                                 Descriptor("B", 'C', 4, 1) + Descriptor("C", 'C', 1, 0)));
+    const DbfLayout layout = ReadDbfLayout(BytesOf(Header(1, 129, 16) + Descriptor("A", 'N', 8, 2) +
+                                                   Descriptor("B", 'C', 4, 1) + Descriptor("C", 'C', 1, 0)));
     ASSERT_EQ(layout.fields.size(), 3u);
     ExpectField(layout.fields[0], "A", 'N', 8, 2, 1);
     ExpectField(layout.fields[1], "B", 'C', 260, 0, 521);
@@ -102,7 +102,7 @@ TEST(DbfLayout, DecimalsMoveTheFieldsBehindBy256Each)
 TEST(DbfLayout, NegativeLengthsStayNegative)
 {
     const DbfLayout layout =
-        ReadDbfLayout(Bytes(Header(1, 97, 0xFFF0) + Descriptor("A", 'C', 0xFE, 0xFF) + Descriptor("B", 'C', 1, 0)));
+        ReadDbfLayout(BytesOf(Header(1, 97, 0xFFF0) + Descriptor("A", 'C', 0xFE, 0xFF) + Descriptor("B", 'C', 1, 0)));
     EXPECT_EQ(layout.recordLength, -16);
     ASSERT_EQ(layout.fields.size(), 2u);
     EXPECT_EQ(layout.fields[0].length, -2);
@@ -112,11 +112,11 @@ TEST(DbfLayout, NegativeLengthsStayNegative)
 TEST(DbfLayout, ReadsNoMoreThanThereIs)
 {
     EXPECT_TRUE(ReadDbfLayout({}).fields.empty());
-    EXPECT_EQ(ReadDbfLayout(Bytes(std::string(31, '\x7F'))).records, 0u);
-    EXPECT_TRUE(ReadDbfLayout(Bytes(Header(1, 97, 5))).fields.empty());
-    EXPECT_TRUE(ReadDbfLayout(Bytes(Header(1, 0x8000, 5) + Descriptor("A", 'C', 4, 0))).fields.empty());
-    EXPECT_TRUE(ReadDbfLayout(Bytes(Header(1, 63, 5) + Descriptor("A", 'C', 4, 0))).fields.empty());
-    EXPECT_EQ(ReadDbfLayout(Bytes(Header(1, 64, 5) + Descriptor("A", 'C', 4, 0))).fields.size(), 1u);
+    EXPECT_EQ(ReadDbfLayout(BytesOf(std::string(31, '\x7F'))).records, 0u);
+    EXPECT_TRUE(ReadDbfLayout(BytesOf(Header(1, 97, 5))).fields.empty());
+    EXPECT_TRUE(ReadDbfLayout(BytesOf(Header(1, 0x8000, 5) + Descriptor("A", 'C', 4, 0))).fields.empty());
+    EXPECT_TRUE(ReadDbfLayout(BytesOf(Header(1, 63, 5) + Descriptor("A", 'C', 4, 0))).fields.empty());
+    EXPECT_EQ(ReadDbfLayout(BytesOf(Header(1, 64, 5) + Descriptor("A", 'C', 4, 0))).fields.size(), 1u);
 }
 
 TEST(DbfLayout, CountsWholeRecordsOnly)

@@ -2,6 +2,7 @@
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
 #include "tests/windows/VornSample/SampleProcess.h"
+#include "tests/windows/VornSample/SampleSettings.h"
 
 #include <VornCommon.h>
 
@@ -17,8 +18,6 @@ using vorn::test::ScratchKey;
 
 namespace
 {
-
-constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
 
 // The sample's public numbers: of its view, the chart page's controls and commands.
 constexpr int kView = 0xE900;

@@ -3,6 +3,7 @@
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
 #include "tests/windows/VornSample/RunningSample.h"
+#include "tests/windows/VornSample/SampleSettings.h"
 
 #include <windows.h>
 
@@ -21,8 +22,6 @@ using vorn::test::ScratchKey;
 
 namespace
 {
-
-constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
 
 // The sample's public numbers: of the picture page's controls, of its commands and of its dialog's.
 constexpr int kPane = 2400;

@@ -3,6 +3,7 @@
 #include "tests/support/ScratchKey.h"
 #include "tests/support/WindowPicture.h"
 #include "tests/windows/VornSample/SampleProcess.h"
+#include "tests/windows/VornSample/SampleSettings.h"
 
 #include <gtest/gtest.h>
 
@@ -20,8 +21,6 @@ namespace
 constexpr WPARAM kFirstUnitCommand = 34000;
 constexpr WPARAM kKilometersCommand = kFirstUnitCommand + 2;
 constexpr WPARAM kHectopascalsCommand = kFirstUnitCommand + 6 * 32 + 1;
-
-constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
 
 class SampleHost : public testing::Test
 {

@@ -2,6 +2,7 @@
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
 #include "tests/windows/VornSample/SampleProcess.h"
+#include "tests/windows/VornSample/SampleSettings.h"
 
 #include <VornCommon.h>
 
@@ -18,7 +19,6 @@ using namespace vorn::test;
 namespace
 {
 
-constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
 constexpr const char* kBriefingSettings = "Software\\Vornwald\\VornBriefing";
 constexpr const char* kTitle = "Vornwald sample host (2025-2026)";
 constexpr auto kPatience = std::chrono::seconds(30);

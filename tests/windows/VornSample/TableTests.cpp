@@ -2,6 +2,7 @@
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
 #include "tests/windows/VornSample/RunningSample.h"
+#include "tests/windows/VornSample/SampleSettings.h"
 
 #include <windows.h>
 
@@ -20,15 +21,13 @@ using vorn::test::ScratchKey;
 namespace
 {
 
-constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
-
 // The sample's public numbers: of the table page's controls, of its commands and of its dialog's controls.
 constexpr int kList = 2200;
 constexpr int kField = 2201;
 constexpr int kValue = 2202;
 constexpr int kMethod = 2203;
 constexpr int kMemo = 2206;
-constexpr int kNotice = 2207;
+constexpr int kTableNotice = 2207;
 constexpr int kFind = 33205;
 constexpr WPARAM kPackCommand = 33203;
 constexpr int kEditField = 1010;
@@ -155,7 +154,7 @@ protected:
 
     std::string Notice() const
     {
-        return TextOf(Control(kNotice));
+        return TextOf(Control(kTableNotice));
     }
 
     bool NoticeBecomes(const std::string& beginning) const

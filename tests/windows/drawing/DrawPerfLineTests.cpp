@@ -30,7 +30,7 @@ std::string Drawn(CSize size, std::vector<CPoint> line, double spacing, const Pa
     return canvas.Picture();
 }
 
-std::string Empty(CSize size)
+std::string EmptyPicture(CSize size)
 {
     return Canvas(size.cx, size.cy).Picture();
 }
@@ -86,10 +86,10 @@ TEST(DrawPerfLine, OneCoordinateAloneIsNoMarker)
 
 TEST(DrawPerfLine, PatternsWithoutLengthDrawNothing)
 {
-    EXPECT_EQ(Drawn({22, 1}, kLevel, 2, {0, 0, 0, 0}), Empty({22, 1}));
-    EXPECT_EQ(Drawn({22, 1}, kLevel, 2, {-1, -1, -1, -1}), Empty({22, 1}));
-    EXPECT_EQ(Drawn({22, 1}, kLevel, 2, {0, 1, 0, 1}), Empty({22, 1}));
-    EXPECT_EQ(Drawn({22, 1}, kLevel, 2, {INT_MIN, INT_MIN, INT_MIN, INT_MIN}), Empty({22, 1}));
+    EXPECT_EQ(Drawn({22, 1}, kLevel, 2, {0, 0, 0, 0}), EmptyPicture({22, 1}));
+    EXPECT_EQ(Drawn({22, 1}, kLevel, 2, {-1, -1, -1, -1}), EmptyPicture({22, 1}));
+    EXPECT_EQ(Drawn({22, 1}, kLevel, 2, {0, 1, 0, 1}), EmptyPicture({22, 1}));
+    EXPECT_EQ(Drawn({22, 1}, kLevel, 2, {INT_MIN, INT_MIN, INT_MIN, INT_MIN}), EmptyPicture({22, 1}));
 }
 
 TEST(DrawPerfLine, HugePartsAreOneDash)

@@ -8,8 +8,8 @@
 namespace
 {
 
-constexpr int kChosen = 1;
-constexpr int kCancelled = 2;
+constexpr int kPathChosen = 1;
+constexpr int kPathCancelled = 2;
 
 CString Text(const std::filesystem::path& path)
 {
@@ -119,7 +119,7 @@ TEST_F(BrowsingForAPath, GivesTheFolderWithoutABackslash)
     {
         CString path = Text(m_charts) + end;
         AnswerAt(m_charts, IDOK);
-        EXPECT_EQ(BrowseForPath(path, nullptr), kChosen);
+        EXPECT_EQ(BrowseForPath(path, nullptr), kPathChosen);
         EXPECT_EQ(path, Text(m_charts));
     }
 }
@@ -128,7 +128,7 @@ TEST_F(BrowsingForAPath, OpensAtADrive)
 {
     CString path = "C:\\";
     AnswerAt("C:\\", IDOK);
-    EXPECT_EQ(BrowseForPath(path, nullptr), kChosen);
+    EXPECT_EQ(BrowseForPath(path, nullptr), kPathChosen);
     EXPECT_EQ(path, "C:\\");
 }
 
@@ -138,7 +138,7 @@ TEST_F(BrowsingForAPath, OpensAtTheCurrentFolderWithoutAPath)
     std::filesystem::current_path(m_data);
     CString path;
     AnswerAt(m_data, IDOK);
-    EXPECT_EQ(BrowseForPath(path, nullptr), kChosen);
+    EXPECT_EQ(BrowseForPath(path, nullptr), kPathChosen);
     std::filesystem::current_path(before);
     EXPECT_EQ(path, Text(m_data));
 }
@@ -147,7 +147,7 @@ TEST_F(BrowsingForAPath, LeavesThePathAsItWasWhenCancelled)
 {
     CString path = Text(m_charts) + "\\";
     AnswerAt(m_charts, IDCANCEL);
-    EXPECT_EQ(BrowseForPath(path, nullptr), kCancelled);
+    EXPECT_EQ(BrowseForPath(path, nullptr), kPathCancelled);
     EXPECT_EQ(path, Text(m_charts) + "\\");
 }
 
@@ -155,7 +155,7 @@ TEST_F(BrowsingForAPath, CutsAPathThatIsTooLong)
 {
     CString path = Text(m_data) + "\\" + CString('n', 1000);
     AnswerAt(m_data, IDOK);
-    EXPECT_EQ(BrowseForPath(path, nullptr), kChosen);
+    EXPECT_EQ(BrowseForPath(path, nullptr), kPathChosen);
     EXPECT_EQ(path, Text(m_data));
 }
 
@@ -171,7 +171,7 @@ TEST_F(BrowsingForAPath, ShowsItsTitleAndTheButtonForNewFolders)
                 EXPECT_EQ(dialog.Title(), expected);
                 EXPECT_TRUE(dialog.HasNewFolderButton());
             });
-        EXPECT_EQ(BrowseForPath(path, title), kCancelled);
+        EXPECT_EQ(BrowseForPath(path, title), kPathCancelled);
     }
 }
 
@@ -187,6 +187,6 @@ TEST_F(BrowsingForAPath, StandsAboveTheActiveWindow)
         {
             EXPECT_EQ(GetWindow(dialog.Window(), GW_OWNER), owner.m_hWnd);
         });
-    EXPECT_EQ(BrowseForPath(path, nullptr), kCancelled);
+    EXPECT_EQ(BrowseForPath(path, nullptr), kPathCancelled);
     owner.DestroyWindow();
 }

@@ -10,15 +10,15 @@ namespace
 {
 enum : UINT
 {
-    kCombo = 2001,
-    kSlider = 2002
+    kValidatedCombo = 2001,
+    kValidatedSlider = 2002
 };
 
 DialogTemplateBuilder ValidationTemplate()
 {
     auto builder = StandardTemplate();
-    builder.Add(DialogTemplateBuilder::ComboBox, kCombo, CBS_DROPDOWN, {90, 0, 60, 60});
-    return builder.Add("msctls_trackbar32", kSlider, 0, {90, 20, 60, 20});
+    builder.Add(DialogTemplateBuilder::ComboBox, kValidatedCombo, CBS_DROPDOWN, {90, 0, 60, 60});
+    return builder.Add("msctls_trackbar32", kValidatedSlider, 0, {90, 20, 60, 20});
 }
 
 class DataValidation : public testing::Test
@@ -132,12 +132,12 @@ TEST_F(DataValidation, LoadingLimitsWhatCanBeTyped)
     Exchange(false,
              [&](CDataExchange* data)
              {
-                 DDX_CBString(data, kCombo, text);
+                 DDX_CBString(data, kValidatedCombo, text);
                  DDV_MaxChars(data, text, 6);
              });
     COMBOBOXINFO info{};
     info.cbSize = sizeof(info);
-    ASSERT_TRUE(::GetComboBoxInfo(m_dialog.GetDlgItem(kCombo)->m_hWnd, &info));
+    ASSERT_TRUE(::GetComboBoxInfo(m_dialog.GetDlgItem(kValidatedCombo)->m_hWnd, &info));
     EXPECT_EQ(::SendMessageA(info.hwndItem, EM_GETLIMITTEXT, 0, 0), 6);
 }
 
@@ -147,10 +147,10 @@ TEST_F(DataValidation, SliderGetsRangeAndPosition)
     Exchange(false,
              [&](CDataExchange* data)
              {
-                 DDX_Slider(data, kSlider, value);
+                 DDX_Slider(data, kValidatedSlider, value);
                  DDV_MinMaxSlider(data, static_cast<DWORD>(value), 200, 300);
              });
-    EXPECT_EQ(m_dialog.SendDlgItemMessage(kSlider, TBM_GETRANGEMIN), 200);
-    EXPECT_EQ(m_dialog.SendDlgItemMessage(kSlider, TBM_GETRANGEMAX), 300);
-    EXPECT_EQ(m_dialog.SendDlgItemMessage(kSlider, TBM_GETPOS), 250);
+    EXPECT_EQ(m_dialog.SendDlgItemMessage(kValidatedSlider, TBM_GETRANGEMIN), 200);
+    EXPECT_EQ(m_dialog.SendDlgItemMessage(kValidatedSlider, TBM_GETRANGEMAX), 300);
+    EXPECT_EQ(m_dialog.SendDlgItemMessage(kValidatedSlider, TBM_GETPOS), 250);
 }

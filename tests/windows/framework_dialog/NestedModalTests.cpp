@@ -4,7 +4,7 @@
 
 namespace
 {
-bool IsShown(const CWnd& window)
+bool IsOnTheScreen(const CWnd& window)
 {
     return window.m_hWnd && ::IsWindowVisible(window.m_hWnd);
 }
@@ -19,7 +19,7 @@ TEST(NestedModalDialogs, EachReturnsItsOwnResult)
     DialogDriver innerDriver(
         [&]
         {
-            if (!IsShown(inner))
+            if (!IsOnTheScreen(inner))
                 return false;
             outerEnabledInside = outer.IsWindowEnabled();
             inner.EndDialog(2);
@@ -28,11 +28,11 @@ TEST(NestedModalDialogs, EachReturnsItsOwnResult)
     DialogDriver outerDriver(
         [&]
         {
-            if (!IsShown(outer))
+            if (!IsOnTheScreen(outer))
                 return false;
             innerResult = inner.DoModal();
             EXPECT_TRUE(outer.IsWindowEnabled());
-            EXPECT_TRUE(IsShown(outer));
+            EXPECT_TRUE(IsOnTheScreen(outer));
             outer.EndDialog(1);
             return true;
         });
@@ -49,7 +49,7 @@ TEST(NestedModalDialogs, EndOfTheOuterWaitsForTheInner)
     DialogDriver innerDriver(
         [&]
         {
-            if (!IsShown(inner))
+            if (!IsOnTheScreen(inner))
                 return false;
             outer.EndDialog(10); // from inside the inner loop
             inner.EndDialog(20);
@@ -58,7 +58,7 @@ TEST(NestedModalDialogs, EndOfTheOuterWaitsForTheInner)
     DialogDriver outerDriver(
         [&]
         {
-            if (!IsShown(outer))
+            if (!IsOnTheScreen(outer))
                 return false;
             EXPECT_EQ(inner.DoModal(), 20);
             innerReturned = true;
@@ -76,13 +76,13 @@ TEST(NestedModalDialogs, DestroyedOuterTakesTheInnerAlong)
     DialogDriver innerDriver(
         [&]
         {
-            return IsShown(inner) && outer.DestroyWindow();
+            return IsOnTheScreen(inner) && outer.DestroyWindow();
         });
     INT_PTR innerResult = 0;
     DialogDriver outerDriver(
         [&]
         {
-            if (!IsShown(outer))
+            if (!IsOnTheScreen(outer))
                 return false;
             innerResult = inner.DoModal();
             return true;
@@ -100,7 +100,7 @@ TEST(NestedModalDialogs, OpenedInOnInitDialogOfAnother)
     DialogDriver innerDriver(
         [&]
         {
-            if (!IsShown(inner))
+            if (!IsOnTheScreen(inner))
                 return false;
             inner.EndDialog(5);
             return true;
@@ -114,7 +114,7 @@ TEST(NestedModalDialogs, OpenedInOnInitDialogOfAnother)
     DialogDriver outerDriver(
         [&]
         {
-            if (!IsShown(outer) || inner.m_hWnd)
+            if (!IsOnTheScreen(outer) || inner.m_hWnd)
                 return false;
             outer.EndDialog(6);
             return true;
@@ -138,7 +138,7 @@ TEST(NestedModalDialogs, ThreeDeepGiveTheOwnersBackOneByOne)
     DialogDriver thirdDriver(
         [&]
         {
-            if (!IsShown(third))
+            if (!IsOnTheScreen(third))
                 return false;
             note();
             third.EndDialog(3);
@@ -147,7 +147,7 @@ TEST(NestedModalDialogs, ThreeDeepGiveTheOwnersBackOneByOne)
     DialogDriver secondDriver(
         [&]
         {
-            if (!IsShown(second))
+            if (!IsOnTheScreen(second))
                 return false;
             third.DoModal();
             note();
@@ -157,7 +157,7 @@ TEST(NestedModalDialogs, ThreeDeepGiveTheOwnersBackOneByOne)
     DialogDriver firstDriver(
         [&]
         {
-            if (!IsShown(first))
+            if (!IsOnTheScreen(first))
                 return false;
             second.DoModal();
             enabled.push_back(owner.IsWindowEnabled() * 4 + first.IsWindowEnabled() * 2);

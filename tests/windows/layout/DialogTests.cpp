@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr DWORD kCaption = WS_POPUP | WS_CAPTION | WS_SYSMENU;
+constexpr DWORD kCaptionStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU;
 
 struct Looks
 {
@@ -26,7 +26,7 @@ public:
         : LayoutDialog(0U, nullptr, looks.section, looks.hasStatusBar, looks.isResizable), m_isBounded(looks.isBounded)
     {
         DialogTemplateBuilder builder;
-        const auto bytes = builder.Style(kCaption | DS_MODALFRAME, WS_EX_DLGMODALFRAME)
+        const auto bytes = builder.Style(kCaptionStyle | DS_MODALFRAME, WS_EX_DLGMODALFRAME)
                                .At({20, 20, 250, 160})
                                .Add(DialogTemplateBuilder::Button, 1, WS_CHILD | WS_VISIBLE, {0, 0, 10, 10})
                                .Bytes();

@@ -6,17 +6,18 @@
 namespace
 {
 
-constexpr auto kRow = LayoutMgr::Horizontal;
-constexpr auto kColumn = LayoutMgr::Vertical;
-constexpr auto kGreedy = LayoutMgr::Greedy;
-constexpr auto kFixed = LayoutMgr::FixedBoth;
+constexpr auto kPlacedRow = LayoutMgr::Horizontal;
+constexpr auto kPlacedColumn = LayoutMgr::Vertical;
+constexpr auto kGreedyMode = LayoutMgr::Greedy;
+constexpr auto kFixedMode = LayoutMgr::FixedBoth;
 
 TEST(LayoutPlacing, ControlsStandInTheClientAreaLessTheRootBorders)
 {
     LaidWindow window(300, 200);
     window.AddButton(1);
     window.AddButton(2);
-    window.CreateRoot(kRow, 5, 0) << window.item(1, kFixed, 80, 0, 0, 0) << window.item(2, kGreedy, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 5, 0) << window.item(1, kFixedMode, 80, 0, 0, 0)
+                                        << window.item(2, kGreedyMode, 0, 0, 0, 0);
     window.UpdateLayout(false);
     EXPECT_EQ((Edges{5, 5, 25, 15}), window.PlaceOf(1)); // its slot is 80 wide, the control keeps its size
     EXPECT_EQ((Edges{90, 5, 295, 195}), window.PlaceOf(2));
@@ -31,7 +32,8 @@ TEST(LayoutPlacing, ASizeOfZeroIsThePresentOne)
     window.AddButton(1, {0, 0, 70, 25});
     window.AddButton(2);
     window.SetRootBorders(0, 0);
-    window.CreateRoot(kRow, 0, 0) << window.item(1, kFixed, 0, 0, 0, 0) << window.item(2, kGreedy, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 0, 0) << window.item(1, kFixedMode, 0, 0, 0, 0)
+                                        << window.item(2, kGreedyMode, 0, 0, 0, 0);
     window.UpdateLayout(false);
     EXPECT_EQ((Edges{0, 0, 70, 25}), window.PlaceOf(1));
     EXPECT_EQ((Edges{70, 0, 300, 200}), window.PlaceOf(2));
@@ -41,7 +43,7 @@ TEST(LayoutPlacing, ANegativeMinimumIsThePresentSize)
 {
     LaidWindow window(300, 200);
     const HWND button = window.AddButton(1, {0, 0, 70, 25});
-    const auto item = window.item(1, kGreedy, 0, 0, -1, -1);
+    const auto item = window.item(1, kGreedyMode, 0, 0, -1, -1);
     ::MoveWindow(button, 0, 0, 10, 10, FALSE);
     EXPECT_EQ(70, item->getMinWidth());
     EXPECT_EQ(25, item->getMinHeight());
@@ -55,7 +57,8 @@ TEST(LayoutPlacing, HiddenControlsLeaveNoGapAndComeBack)
     const HWND first = window.AddButton(1);
     window.AddButton(2);
     window.SetRootBorders(0, 0);
-    window.CreateRoot(kRow, 10, 0) << window.item(1, kGreedy, 0, 0, 0, 0) << window.item(2, kGreedy, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 10, 0) << window.item(1, kGreedyMode, 0, 0, 0, 0)
+                                         << window.item(2, kGreedyMode, 0, 0, 0, 0);
     ::ShowWindow(first, SW_HIDE);
     window.UpdateLayout(false);
     EXPECT_EQ((Edges{0, 0, 210, 100}), window.PlaceOf(2));
@@ -70,7 +73,7 @@ TEST(LayoutPlacing, ControlsOfAWindowThatIsNotShownYetCountAsShown)
     LaidWindow window(100, 100);
     window.AddButton(1);
     ASSERT_FALSE(window.IsWindowVisible());
-    EXPECT_TRUE(window.item(1, kGreedy, 0, 0, 0, 0)->isShown(true));
+    EXPECT_TRUE(window.item(1, kGreedyMode, 0, 0, 0, 0)->isShown(true));
 }
 
 TEST(LayoutPlacing, ControlsThatHaveGoneOrMovedAwayAreLeftOut)
@@ -81,8 +84,9 @@ TEST(LayoutPlacing, ControlsThatHaveGoneOrMovedAwayAreLeftOut)
     const HWND away = window.AddButton(2);
     window.AddButton(3);
     window.SetRootBorders(0, 0);
-    window.CreateRoot(kRow, 10, 0) << window.item(1, kGreedy, 0, 0, 0, 0) << window.item(2, kGreedy, 0, 0, 0, 0)
-                                   << window.item(3, kGreedy, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 10, 0) << window.item(1, kGreedyMode, 0, 0, 0, 0)
+                                         << window.item(2, kGreedyMode, 0, 0, 0, 0)
+                                         << window.item(3, kGreedyMode, 0, 0, 0, 0);
     ::DestroyWindow(gone);
     ::SetParent(away, other.m_hWnd);
     const int moves = window.MovesOf(away);
@@ -94,7 +98,7 @@ TEST(LayoutPlacing, ControlsThatHaveGoneOrMovedAwayAreLeftOut)
 TEST(LayoutPlacing, AnIdWithoutControlMeasuresLikeASpacer)
 {
     LaidWindow window(200, 100);
-    const auto item = window.item(99, kGreedy, 0, 0, -1, 40);
+    const auto item = window.item(99, kGreedyMode, 0, 0, -1, 40);
     EXPECT_EQ(5, item->getMinWidth());
     EXPECT_EQ(40, item->getMinHeight());
     EXPECT_TRUE(item->isShown(true));
@@ -108,8 +112,8 @@ TEST(LayoutPlacing, AControlIsAlignedByItsPresentSize)
     LaidWindow window(200, 100);
     const HWND button = window.AddButton(1, {0, 0, 50, 20});
     window.SetRootBorders(0, 0);
-    window.CreateRoot(kRow, 0, 0) << window.item(1, kFixed | LayoutMgr::AlignRight | LayoutMgr::AlignVCenter, 120, 0, 0,
-                                                 0);
+    window.CreateRoot(kPlacedRow, 0, 0) << window.item(1, kFixedMode | LayoutMgr::AlignRight | LayoutMgr::AlignVCenter,
+                                                       120, 0, 0, 0);
     ::MoveWindow(button, 0, 0, 40, 30, FALSE);
     window.UpdateLayout(false);
     EXPECT_EQ((Edges{80, 35, 120, 65}), window.PlaceOf(1));
@@ -122,7 +126,7 @@ TEST(LayoutPlacing, ADropDownComboBoxKeepsItsClosedHeight)
     const Edges closed = window.PlaceOf(combo);
     ASSERT_LT(closed[3], 60);
     window.SetRootBorders(0, 0);
-    window.CreateRoot(kColumn, 0, 0) << window.item(1, kGreedy, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedColumn, 0, 0) << window.item(1, kGreedyMode, 0, 0, 0, 0);
     window.UpdateLayout(false);
     EXPECT_EQ((Edges{0, 0, 200, closed[3]}), window.PlaceOf(combo));
 }
@@ -134,7 +138,7 @@ TEST(LayoutPlacing, AComboBoxWithAnOpenListTakesTheHeightOfItsFirstPart)
     const HWND part = ::GetDlgItem(combo, 1000);
     ASSERT_NE(nullptr, part);
     window.SetRootBorders(0, 0);
-    window.CreateRoot(kColumn, 0, 0) << window.item(1, kGreedy, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedColumn, 0, 0) << window.item(1, kGreedyMode, 0, 0, 0, 0);
 
     ::MoveWindow(combo, 0, 0, 200, 160, FALSE);
     RECT bounds{};
@@ -159,9 +163,9 @@ TEST(LayoutPlacing, NothingIsMovedOrPaintedWhenNothingChanges)
     const HWND tab = window.Add(WC_TABCONTROLA, 3, WS_VISIBLE, {0, 0, 30, 30});
     CTabCtrl tabs;
     tabs.Attach(tab);
-    auto box = window.paneCtrl(2, kColumn, kGreedy, 5, 5, 12, 0);
-    box << window.item(1, kGreedy, 0, 0, 0, 0);
-    window.CreateRoot(kRow, 5, 0) << box << window.paneTab(&tabs, kColumn, kGreedy, 0, 0, 0);
+    auto box = window.paneCtrl(2, kPlacedColumn, kGreedyMode, 5, 5, 12, 0);
+    box << window.item(1, kGreedyMode, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 5, 0) << box << window.paneTab(&tabs, kPlacedColumn, kGreedyMode, 0, 0, 0);
     tabs.Detach();
     window.UpdateLayout(false);
     vorn::test::PumpWaiting();
@@ -186,7 +190,7 @@ TEST(LayoutPlacing, OneControlIsMovedOnce)
 {
     LaidWindow window(300, 200);
     const HWND button = window.AddButton(1);
-    window.CreateRoot(kRow, 5, 0) << window.item(1, kGreedy, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 5, 0) << window.item(1, kGreedyMode, 0, 0, 0, 0);
     window.UpdateLayout(false);
     EXPECT_EQ(1, window.MovesOf(button));
     window.Resize(310, 200);
@@ -200,9 +204,9 @@ TEST(LayoutPlacing, AGroupBoxIsMovedWithItsPane)
     window.Add("Button", 2, WS_VISIBLE | BS_GROUPBOX, {0, 0, 30, 30});
     window.AddButton(1);
     window.SetRootBorders(0, 0);
-    auto box = window.paneCtrl(2, kColumn, kGreedy, 5, 6, 12, 0);
-    box << window.item(1, kGreedy, 0, 0, 0, 0);
-    window.CreateRoot(kRow, 0, 0) << box;
+    auto box = window.paneCtrl(2, kPlacedColumn, kGreedyMode, 5, 6, 12, 0);
+    box << window.item(1, kGreedyMode, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 0, 0) << box;
     window.UpdateLayout(false);
     EXPECT_EQ((Edges{0, 0, 200, 100}), window.PlaceOf(2));
     EXPECT_EQ((Edges{6, 18, 194, 94}), window.PlaceOf(1));
@@ -217,9 +221,9 @@ TEST(LayoutPlacing, ATabControlGivesItsDisplayArea)
     tabs.InsertItem(0, "One");
     window.AddButton(1);
     window.SetRootBorders(0, 0);
-    auto pane = window.paneTab(&tabs, kColumn, kGreedy, 0, 0, 0);
-    pane << window.item(1, kGreedy, 0, 0, 0, 0);
-    window.CreateRoot(kRow, 0, 0) << pane;
+    auto pane = window.paneTab(&tabs, kPlacedColumn, kGreedyMode, 0, 0, 0);
+    pane << window.item(1, kGreedyMode, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 0, 0) << pane;
     window.UpdateLayout(false);
     CRect area(0, 0, 200, 100);
     tabs.AdjustRect(FALSE, &area);
@@ -237,9 +241,9 @@ TEST(LayoutPlacing, ATabPaneWithoutTabControlIsAPlainOne)
     LaidWindow window(200, 100);
     window.AddButton(1);
     window.SetRootBorders(0, 0);
-    auto pane = window.paneTab(nullptr, kColumn, kGreedy, 0, 0, 0);
-    pane << window.item(1, kGreedy, 0, 0, 0, 0);
-    window.CreateRoot(kRow, 0, 0) << pane;
+    auto pane = window.paneTab(nullptr, kPlacedColumn, kGreedyMode, 0, 0, 0);
+    pane << window.item(1, kGreedyMode, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 0, 0) << pane;
     window.UpdateLayout(false);
     EXPECT_EQ((Edges{0, 0, 200, 100}), window.PlaceOf(1));
 }
@@ -253,7 +257,7 @@ TEST(LayoutPlacing, AControlInAnotherParentGoesToTheSamePlaceOfTheWindow)
     window.SetRootBorders(0, 0);
     CWnd control;
     control.Attach(inner);
-    window.CreateRoot(kRow, 0, 30) << window.item(&control, kGreedy, 0, 0, 0, 0);
+    window.CreateRoot(kPlacedRow, 0, 30) << window.item(&control, kGreedyMode, 0, 0, 0, 0);
     control.Detach();
     window.UpdateLayout(false);
     EXPECT_EQ((Edges{30, 30, 170, 70}), window.PlaceOf(inner));
@@ -265,14 +269,14 @@ TEST(LayoutPlacing, AControlInAnotherParentGoesToTheSamePlaceOfTheWindow)
 TEST(LayoutPlacing, SpacersGrowAlongTheirOrientationOnly)
 {
     LaidWindow window(100, 100);
-    const auto space = window.itemSpace(kRow);
+    const auto space = window.itemSpace(kPlacedRow);
     EXPECT_EQ(5, space->getMinWidth());
     EXPECT_EQ(-1, space->getMaxWidth());
     EXPECT_EQ(0, space->getMaxHeight());
-    const auto vertical = window.itemSpace(kColumn);
+    const auto vertical = window.itemSpace(kPlacedColumn);
     EXPECT_EQ(0, vertical->getMaxWidth());
     EXPECT_EQ(-1, vertical->getMaxHeight());
-    const auto fixed = window.itemSpaceFixed(kColumn, 12);
+    const auto fixed = window.itemSpaceFixed(kPlacedColumn, 12);
     EXPECT_EQ(0, fixed->getMinWidth());
     EXPECT_EQ(12, fixed->getMinHeight());
     EXPECT_EQ(12, fixed->getMaxHeight());
@@ -283,9 +287,9 @@ TEST(LayoutPlacing, ASpacerIsAsLongAsAControl)
     LaidWindow window(200, 200);
     const HWND button = window.AddButton(1, {10, 10, 73, 34});
     CWnd* const same = CWnd::FromHandle(button);
-    EXPECT_EQ(63, window.itemSpaceLike(kRow, 1)->getMinWidth());
-    EXPECT_EQ(24, window.itemSpaceLike(kColumn, same)->getMinHeight());
-    EXPECT_EQ(0, window.itemSpaceLike(kRow, 99)->getMinWidth());
+    EXPECT_EQ(63, window.itemSpaceLike(kPlacedRow, 1)->getMinWidth());
+    EXPECT_EQ(24, window.itemSpaceLike(kPlacedColumn, same)->getMinHeight());
+    EXPECT_EQ(0, window.itemSpaceLike(kPlacedRow, 99)->getMinWidth());
 }
 
 TEST(LayoutPlacing, ASpacerIsAsLongAsTheGapBetweenControlsLessTen)
@@ -295,18 +299,18 @@ TEST(LayoutPlacing, ASpacerIsAsLongAsTheGapBetweenControlsLessTen)
     window.AddButton(2, {80, 45, 120, 65});
     window.AddButton(3, {40, 20, 90, 60});
     window.AddButton(4, {64, 10, 90, 60});
-    EXPECT_EQ(10, window.itemSpaceBetween(kRow, 1, 2)->getMinWidth());
-    EXPECT_EQ(5, window.itemSpaceBetween(kColumn, 1, 2)->getMinHeight());
-    EXPECT_EQ(30, window.itemSpaceBetween(kRow, 1, 3)->getMinWidth()); // they overlap: near edge to near edge
-    EXPECT_EQ(10, window.itemSpaceBetween(kColumn, 1, 3)->getMinHeight());
-    EXPECT_EQ(-6, window.itemSpaceBetween(kRow, 1, 4)->getMinWidth());
+    EXPECT_EQ(10, window.itemSpaceBetween(kPlacedRow, 1, 2)->getMinWidth());
+    EXPECT_EQ(5, window.itemSpaceBetween(kPlacedColumn, 1, 2)->getMinHeight());
+    EXPECT_EQ(30, window.itemSpaceBetween(kPlacedRow, 1, 3)->getMinWidth()); // they overlap: near edge to near edge
+    EXPECT_EQ(10, window.itemSpaceBetween(kPlacedColumn, 1, 3)->getMinHeight());
+    EXPECT_EQ(-6, window.itemSpaceBetween(kPlacedRow, 1, 4)->getMinWidth());
     window.AddButton(5, {60, 30, 90, 60});
-    EXPECT_EQ(-10, window.itemSpaceBetween(kRow, 1, 5)->getMinWidth()) << "they touch";
-    EXPECT_EQ(-10, window.itemSpaceBetween(kColumn, 1, 5)->getMinHeight());
-    EXPECT_EQ(0, window.itemSpaceBetween(kRow, 1, 99)->getMinWidth());
+    EXPECT_EQ(-10, window.itemSpaceBetween(kPlacedRow, 1, 5)->getMinWidth()) << "they touch";
+    EXPECT_EQ(-10, window.itemSpaceBetween(kPlacedColumn, 1, 5)->getMinHeight());
+    EXPECT_EQ(0, window.itemSpaceBetween(kPlacedRow, 1, 99)->getMinWidth());
     CWnd* const first = window.GetDlgItem(1);
     CWnd* const second = window.GetDlgItem(2);
-    EXPECT_EQ(10, window.itemSpaceBetween(kRow, first, second)->getMinWidth());
+    EXPECT_EQ(10, window.itemSpaceBetween(kPlacedRow, first, second)->getMinWidth());
 }
 
 TEST(LayoutPlacing, TheLargestOfSeveralControlsIsFound)

@@ -10,7 +10,7 @@ using Strings = std::vector<std::string>;
 
 namespace
 {
-constexpr int kBuiltIn = 6;
+constexpr int kBuiltInNames = 6;
 
 /// The process's log while it lives.
 struct SharedLog : VornLog
@@ -40,9 +40,9 @@ TEST_F(WinProjectionLibTest, WithoutModulesItKnowsTheBuiltInProjections)
     EXPECT_TRUE(WinProjectionLib::Init(nullptr, 0));
     ASSERT_NE(ProjectionLib::mpInstance, nullptr);
     EXPECT_NE(dynamic_cast<WinProjectionLib*>(ProjectionLib::mpInstance), nullptr);
-    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltIn);
-    EXPECT_EQ(ProjectionLib::mpInstance->NumBuiltIn(), kBuiltIn);
-    for (int i = 0; i < kBuiltIn; ++i)
+    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltInNames);
+    EXPECT_EQ(ProjectionLib::mpInstance->NumBuiltIn(), kBuiltInNames);
+    for (int i = 0; i < kBuiltInNames; ++i)
     {
         const auto projection = Make(i);
         ASSERT_NE(projection, nullptr);
@@ -78,10 +78,10 @@ TEST_F(WinProjectionLibTest, EndsAndStartsAgain)
 TEST_F(WinProjectionLibTest, ModulesFollowTheBuiltInProjectionsInTheirOrder)
 {
     ASSERT_TRUE(StartWith({"first", "second", "third"}));
-    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltIn + 3);
-    EXPECT_EQ(ProjectionLib::mpInstance->NumBuiltIn(), kBuiltIn);
+    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltInNames + 3);
+    EXPECT_EQ(ProjectionLib::mpInstance->NumBuiltIn(), kBuiltInNames);
     EXPECT_EQ(Names(), Strings({"First", "Second", "Third"}));
-    for (int i = kBuiltIn; i < kBuiltIn + 3; ++i)
+    for (int i = kBuiltInNames; i < kBuiltInNames + 3; ++i)
     {
         const auto projection = Make(i);
         ASSERT_TRUE(IsExternal(projection));
@@ -98,9 +98,9 @@ TEST_F(WinProjectionLibTest, InitialisesAndEndsTheModulesProjections)
 {
     ASSERT_TRUE(StartWith({"first"}));
     {
-        const auto one = Make(kBuiltIn);
+        const auto one = Make(kBuiltInNames);
         EXPECT_EQ(Counter("first", "g_inits"), 1);
-        const auto two = Make(kBuiltIn);
+        const auto two = Make(kBuiltInNames);
         EXPECT_EQ(Counter("first", "g_inits"), 2);
         EXPECT_EQ(Counter("first", "g_living"), 2);
     }
@@ -116,12 +116,12 @@ TEST_F(WinProjectionLibTest, SkipsModulesWithoutAReadableNameAndLetsThemGo)
         EXPECT_TRUE(StartWith({name}));
         EXPECT_TRUE(Names().empty()) << name;
         EXPECT_FALSE(IsLoaded(name)) << name;
-        EXPECT_EQ(Make(kBuiltIn), nullptr) << name;
+        EXPECT_EQ(Make(kBuiltInNames), nullptr) << name;
         WinProjectionLib::Deinit();
     }
     EXPECT_TRUE(StartWith({"null_name", "first", "no_query", "second", "bad_name"}));
     EXPECT_EQ(Names(), Strings({"First", "Second"}));
-    EXPECT_STREQ(Make(kBuiltIn + 1)->QueryProjectionName(), "Second");
+    EXPECT_STREQ(Make(kBuiltInNames + 1)->QueryProjectionName(), "Second");
 }
 
 TEST_F(WinProjectionLibTest, SkipsWhatIsNoModule)
@@ -142,7 +142,7 @@ TEST_F(WinProjectionLibTest, SkipsWhatIsNoModule)
 TEST_F(WinProjectionLibTest, SkipsNullPaths)
 {
     EXPECT_TRUE(WinProjectionLib::Init(nullptr, 3));
-    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltIn);
+    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltInNames);
     WinProjectionLib::Deinit();
 
     std::string first = PluginPath("first");
@@ -152,17 +152,17 @@ TEST_F(WinProjectionLibTest, SkipsNullPaths)
     WinProjectionLib::Deinit();
 
     EXPECT_TRUE(WinProjectionLib::Init(paths, -1));
-    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltIn);
+    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltInNames);
     WinProjectionLib::Deinit();
     EXPECT_TRUE(WinProjectionLib::Init(paths, 1)); // no further than it is told
-    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltIn);
+    EXPECT_EQ(ProjectionLib::mpInstance->NumProjections(), kBuiltInNames);
 }
 
 TEST_F(WinProjectionLibTest, TakesEveryReadableName)
 {
     ASSERT_TRUE(StartWith({"empty_name", "page_name", "changing_name", "first"}));
     EXPECT_EQ(Names(), Strings({"", "AB", "A", "First"}));
-    const auto projection = Make(kBuiltIn + 2);
+    const auto projection = Make(kBuiltInNames + 2);
     EXPECT_STREQ(projection->QueryProjectionName(), "B"); // the module's text changes, the registry's does not
     EXPECT_EQ(Names(), Strings({"", "AB", "A", "First"}));
 }
@@ -171,8 +171,8 @@ TEST_F(WinProjectionLibTest, TheSamePathTwiceIsTwoProjections)
 {
     ASSERT_TRUE(StartWith({"first", "first"}));
     EXPECT_EQ(Names(), Strings({"First", "First"}));
-    EXPECT_TRUE(IsExternal(Make(kBuiltIn)));
-    EXPECT_TRUE(IsExternal(Make(kBuiltIn + 1)));
+    EXPECT_TRUE(IsExternal(Make(kBuiltInNames)));
+    EXPECT_TRUE(IsExternal(Make(kBuiltInNames + 1)));
     WinProjectionLib::Deinit();
     EXPECT_FALSE(IsLoaded("first")); // both references are gone
 }
@@ -181,11 +181,11 @@ TEST_F(WinProjectionLibTest, NumbersThatThereAreNotGiveNull)
 {
     ASSERT_TRUE(StartWith({"first"}));
     for (const int index :
-         {-1, kBuiltIn + 1, kBuiltIn + 2, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
+         {-1, kBuiltInNames + 1, kBuiltInNames + 2, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
     {
         EXPECT_EQ(Make(index), nullptr) << index;
     }
-    EXPECT_TRUE(IsExternal(Make(kBuiltIn)));
+    EXPECT_TRUE(IsExternal(Make(kBuiltInNames)));
 }
 
 TEST_F(WinProjectionLibTest, AModuleThatCannotCreateIsDroppedAndTheLaterOnesMoveUp)
@@ -193,18 +193,18 @@ TEST_F(WinProjectionLibTest, AModuleThatCannotCreateIsDroppedAndTheLaterOnesMove
     ASSERT_TRUE(StartWith({"first", "no_create", "second", "third"}));
     EXPECT_EQ(Names(), Strings({"First", "No create", "Second", "Third"}));
     EXPECT_TRUE(IsLoaded("no_create"));
-    EXPECT_EQ(Make(kBuiltIn + 1), nullptr);
+    EXPECT_EQ(Make(kBuiltInNames + 1), nullptr);
     EXPECT_FALSE(IsLoaded("no_create"));
     EXPECT_EQ(Names(), Strings({"First", "No create", "Second", "Third"})); // names stay
-    EXPECT_STREQ(Make(kBuiltIn)->QueryProjectionName(), "First");
-    EXPECT_STREQ(Make(kBuiltIn + 1)->QueryProjectionName(), "Second");
-    EXPECT_STREQ(Make(kBuiltIn + 2)->QueryProjectionName(), "Third");
+    EXPECT_STREQ(Make(kBuiltInNames)->QueryProjectionName(), "First");
+    EXPECT_STREQ(Make(kBuiltInNames + 1)->QueryProjectionName(), "Second");
+    EXPECT_STREQ(Make(kBuiltInNames + 2)->QueryProjectionName(), "Third");
     for (int i = 0; i < 3; ++i)
     {
-        EXPECT_EQ(Make(kBuiltIn + 3), nullptr); // a name without a module
+        EXPECT_EQ(Make(kBuiltInNames + 3), nullptr); // a name without a module
     }
     EXPECT_TRUE(IsLoaded("first") && IsLoaded("second") && IsLoaded("third"));
-    EXPECT_STREQ(Make(kBuiltIn + 2)->QueryProjectionName(), "Third");
+    EXPECT_STREQ(Make(kBuiltInNames + 2)->QueryProjectionName(), "Third");
     WinProjectionLib::Deinit();
     EXPECT_FALSE(IsLoaded("first") || IsLoaded("second") || IsLoaded("third"));
 }
@@ -212,16 +212,16 @@ TEST_F(WinProjectionLibTest, AModuleThatCannotCreateIsDroppedAndTheLaterOnesMove
 TEST_F(WinProjectionLibTest, ADroppedLastModuleLeavesTheOthers)
 {
     ASSERT_TRUE(StartWith({"first", "no_create"}));
-    EXPECT_EQ(Make(kBuiltIn + 1), nullptr);
-    EXPECT_EQ(Make(kBuiltIn + 1), nullptr);
+    EXPECT_EQ(Make(kBuiltInNames + 1), nullptr);
+    EXPECT_EQ(Make(kBuiltInNames + 1), nullptr);
     EXPECT_FALSE(IsLoaded("no_create"));
-    EXPECT_TRUE(IsExternal(Make(kBuiltIn)));
+    EXPECT_TRUE(IsExternal(Make(kBuiltInNames)));
 }
 
 TEST_F(WinProjectionLibTest, AModuleMayLackEverythingButNameAndCreation)
 {
     ASSERT_TRUE(StartWith({"bare"}));
-    const auto projection = Make(kBuiltIn);
+    const auto projection = Make(kBuiltInNames);
     ASSERT_TRUE(IsExternal(projection));
     EXPECT_STREQ(projection->QueryProjectionName(), "Bare");
     double x = 3;
@@ -235,18 +235,18 @@ TEST_F(WinProjectionLibTest, AModuleMayLackEverythingButNameAndCreation)
 TEST_F(WinProjectionLibTest, GivesProjectionsThatRefuseToStartAndZeroHandles)
 {
     ASSERT_TRUE(StartWith({"unwilling", "zero_handle"}));
-    const auto unwilling = Make(kBuiltIn);
+    const auto unwilling = Make(kBuiltInNames);
     ASSERT_TRUE(IsExternal(unwilling));
     EXPECT_EQ(Counter("unwilling", "g_inits"), 1);
     EXPECT_FALSE(unwilling->Init());
-    EXPECT_TRUE(IsExternal(Make(kBuiltIn + 1)));
+    EXPECT_TRUE(IsExternal(Make(kBuiltInNames + 1)));
 }
 
 TEST_F(WinProjectionLibTest, ProjectionsOutliveTheRegistry)
 {
     ASSERT_TRUE(StartWith({"first", "bare"}));
-    auto first = Make(kBuiltIn);
-    auto bare = Make(kBuiltIn + 1);
+    auto first = Make(kBuiltInNames);
+    auto bare = Make(kBuiltInNames + 1);
     WinProjectionLib::Deinit();
     EXPECT_TRUE(IsLoaded("first") && IsLoaded("bare"));
     double x = 0;
@@ -278,7 +278,7 @@ TEST_F(WinProjectionLibTest, AThousandStartsKeepNothing)
     ASSERT_TRUE(StartWith({"first"}));
     for (int i = 0; i < 1000; ++i)
     {
-        ASSERT_TRUE(IsExternal(Make(kBuiltIn)));
+        ASSERT_TRUE(IsExternal(Make(kBuiltInNames)));
     }
     EXPECT_EQ(Counter("first", "g_living"), 0);
     WinProjectionLib::Deinit();
@@ -293,5 +293,5 @@ TEST_F(WinProjectionLibTest, StartingARunningRegistryAnewReplacesItsModules)
     EXPECT_TRUE(ProjectionLib::Init(paths, 1));
     EXPECT_EQ(Names(), Strings({"Third"}));
     EXPECT_FALSE(IsLoaded("first") || IsLoaded("second"));
-    EXPECT_STREQ(Make(kBuiltIn)->QueryProjectionName(), "Third");
+    EXPECT_STREQ(Make(kBuiltInNames)->QueryProjectionName(), "Third");
 }

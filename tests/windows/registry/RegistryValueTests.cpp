@@ -6,7 +6,7 @@ using namespace std::string_view_literals;
 namespace
 {
 constexpr DWORD kWrongType = 1804;
-constexpr DWORD kInvalidParameter = 87;
+constexpr DWORD kRefused = 87;
 constexpr DWORD kInvalidData = 13;
 constexpr DWORD kNotFound = 2;
 
@@ -83,7 +83,7 @@ TEST_F(RegistryValues, RawTextsAreStoredToTheByte)
         EXPECT_TRUE(Done(key, key.SetValue("Text", type, nullptr, 0)));
         EXPECT_EQ(Get("Text"), (RawValue{type, ""}));
     }
-    EXPECT_TRUE(Refused(key, key.SetValue("Text", Registry::TypeString, nullptr, 3), kInvalidParameter));
+    EXPECT_TRUE(Refused(key, key.SetValue("Text", Registry::TypeString, nullptr, 3), kRefused));
 }
 
 TEST_F(RegistryValues, NullNamesAreInvalidAndNeverTheDefaultValue)
@@ -96,19 +96,19 @@ TEST_F(RegistryValues, NullNamesAreInvalidAndNeverTheDefaultValue)
     CStringArray texts;
     BYTE data[] = {1};
     auto type = Registry::TypeLink;
-    EXPECT_TRUE(Refused(key, key.QueryValue(nullptr, type, data, size), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.SetValue(nullptr, Registry::TypeBinary, data, 1), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.GetStringValue(nullptr, text), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.SetStringValue(nullptr, "x"), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.SetStringValue("x", nullptr), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.GetDoubleWordValue(nullptr, number), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.SetDoubleWordValue(nullptr, 1), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.GetBinaryValue(nullptr, bytes), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.SetBinaryValue(nullptr, bytes), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.GetStringArrayValue(nullptr, texts), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.SetStringArrayValue(nullptr, texts), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.GetValue(nullptr, number), kInvalidParameter));
-    EXPECT_TRUE(Refused(key, key.SetValue(nullptr, 1), kInvalidParameter));
+    EXPECT_TRUE(Refused(key, key.QueryValue(nullptr, type, data, size), kRefused));
+    EXPECT_TRUE(Refused(key, key.SetValue(nullptr, Registry::TypeBinary, data, 1), kRefused));
+    EXPECT_TRUE(Refused(key, key.GetStringValue(nullptr, text), kRefused));
+    EXPECT_TRUE(Refused(key, key.SetStringValue(nullptr, "x"), kRefused));
+    EXPECT_TRUE(Refused(key, key.SetStringValue("x", nullptr), kRefused));
+    EXPECT_TRUE(Refused(key, key.GetDoubleWordValue(nullptr, number), kRefused));
+    EXPECT_TRUE(Refused(key, key.SetDoubleWordValue(nullptr, 1), kRefused));
+    EXPECT_TRUE(Refused(key, key.GetBinaryValue(nullptr, bytes), kRefused));
+    EXPECT_TRUE(Refused(key, key.SetBinaryValue(nullptr, bytes), kRefused));
+    EXPECT_TRUE(Refused(key, key.GetStringArrayValue(nullptr, texts), kRefused));
+    EXPECT_TRUE(Refused(key, key.SetStringArrayValue(nullptr, texts), kRefused));
+    EXPECT_TRUE(Refused(key, key.GetValue(nullptr, number), kRefused));
+    EXPECT_TRUE(Refused(key, key.SetValue(nullptr, 1), kRefused));
     EXPECT_EQ(Std(text), "untouched");
     EXPECT_EQ(number, 7u);
     EXPECT_EQ(type, Registry::TypeLink);
