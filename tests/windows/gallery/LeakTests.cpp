@@ -22,7 +22,7 @@ struct Handles
     bool operator==(const Handles&) const = default;
 };
 
-std::string TextOf(const Handles& handles)
+std::string CountsOf(const Handles& handles)
 {
     return std::to_string(handles.drawing) + " drawing objects, " + std::to_string(handles.user) + " windows and menus";
 }
@@ -43,7 +43,7 @@ void ExpectNothingLeft(int times, const std::function<void()>& action)
         PumpWaiting();
         const Handles after;
         isLevel = isLevel || after == before;
-        counts += TextOf(before) + " -> " + TextOf(after) + '\n';
+        counts += CountsOf(before) + " -> " + CountsOf(after) + '\n';
         before = after;
     }
     EXPECT_TRUE(isLevel) << counts;
