@@ -65,6 +65,7 @@ std::vector<COLORREF> ColorsOf(int state)
 {
     const StateScope scope(state);
     std::vector<COLORREF> colors;
+    colors.reserve(APPCOLOR_COUNT);
     for (int type = 0; type < APPCOLOR_COUNT; ++type)
         colors.push_back(ColorContext::Instance()->GetColor(static_cast<AppColorsType>(type)));
     return colors;
@@ -82,11 +83,8 @@ CRect ColorPreview::Swatch(const CRect& area, std::size_t index) const
     const int columns = (static_cast<int>(m_colors.size()) + kRows - 1) / kRows;
     const int row = static_cast<int>(index) / columns;
     const int column = static_cast<int>(index) % columns;
-    CRect swatch(MulDiv(area.Width(), column, columns), MulDiv(area.Height(), row, kRows),
-                 MulDiv(area.Width(), column + 1, columns), MulDiv(area.Height(), row + 1, kRows));
-    swatch.right -= kGap;
-    swatch.bottom -= kGap;
-    return swatch;
+    return {MulDiv(area.Width(), column, columns), MulDiv(area.Height(), row, kRows),
+            MulDiv(area.Width(), column + 1, columns) - kGap, MulDiv(area.Height(), row + 1, kRows) - kGap};
 }
 
 void ColorPreview::OnPaint()
