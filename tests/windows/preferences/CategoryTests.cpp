@@ -1,5 +1,6 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/PumpUntil.h"
+#include "tests/support/PutCursor.h"
 #include "tests/windows/preferences/PreferencesTest.h"
 
 #include "apps/sample/preferences/MessagesCategory.h"
@@ -30,7 +31,7 @@ TEST_F(PreferenceValues, TipsGoAndComeAtOnce)
     {
         CRect place;
         control.GetWindowRect(&place);
-        SetCursorPos(place.CenterPoint().x, place.CenterPoint().y);
+        PutCursor(place.CenterPoint());
         MSG move{};
         move.hwnd = control;
         move.message = WM_MOUSEMOVE;
@@ -51,14 +52,14 @@ TEST_F(PreferenceValues, TipsGoAndComeAtOnce)
     Click(IDC_OPT_TIPS);
     Press(IDC_OPT_APPLY);
     EXPECT_EQ(Stored(), "General\\Show Dialog Tips=1\n");
-    SetCursorPos(0, 0);
+    PutCursor({0, 0});
     MSG away{};
     away.hwnd = Dialog();
     away.message = WM_MOUSEMOVE;
     tips.RelayEvent(&away);
     point();
     EXPECT_TRUE(PumpUntil(isShown));
-    SetCursorPos(0, 0);
+    PutCursor({0, 0});
 }
 
 TEST_F(PreferenceValues, TheStartupDialogFindsItsSwitches)

@@ -6,29 +6,6 @@
 namespace vorn::test
 {
 
-namespace
-{
-constexpr DWORD kStaysMs = 20;
-} // namespace
-
-void PutCursor(CPoint point)
-{
-    DWORD since = ::GetTickCount();
-    ::SetCursorPos(point.x, point.y);
-    EXPECT_TRUE(PumpUntil(
-        [&]
-        {
-            POINT present{};
-            const bool there = ::GetCursorPos(&present) && point == present;
-            if (!there)
-            {
-                ::SetCursorPos(point.x, point.y);
-                since = ::GetTickCount();
-            }
-            return ::GetTickCount() - since >= kStaysMs;
-        }));
-}
-
 CRect WatchedTips::GetBoundsRect(CString text, int extra)
 {
     if (m_whenMeasured)

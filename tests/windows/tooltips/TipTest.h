@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/include/afxwin.h"
+#include "tests/support/PutCursor.h"
 #include "tests/windows/tooltips/resource.h"
 #include "toolkit/tooltips/ToolTipCtrlEx.h"
 
@@ -11,10 +12,6 @@
 
 namespace vorn::test
 {
-
-/// Puts the cursor to a place even where the system takes it to be there already, as it does after a movement of its
-/// own that it learns of late.
-void PutCursor(CPoint point);
 
 /// A tooltip control that lets its own operations be called, counts what it paints, and can be disturbed.
 class WatchedTips : public ToolTipCtrlEx
