@@ -21,6 +21,13 @@ install(TARGETS ${libraries} EXPORT VornCommonTargets
 install(TARGETS ${programs} RUNTIME DESTINATION bin)
 install(FILES ${VORN_RUNTIME_DLLS} DESTINATION bin)
 
+# What there is to install, for who wants nothing else built.
+add_custom_target(install_contents)
+add_dependencies(install_contents ${libraries} ${programs} AzimuthalEquidistant)
+if(TARGET sample_tables)
+    add_dependencies(install_contents sample_tables)
+endif()
+
 foreach(area IN LISTS VORN_AREAS)
     if(NOT area STREQUAL apps AND IS_DIRECTORY "${PROJECT_SOURCE_DIR}/${area}")
         install(DIRECTORY "${PROJECT_SOURCE_DIR}/${area}" DESTINATION include/vorn FILES_MATCHING PATTERN "*.h")
