@@ -31,6 +31,7 @@ struct FolderName
 constexpr std::array kFolders = {
     FolderName{"Program", DP_EXE},
     FolderName{"Data", DP_DATA},
+    FolderName{"Common", DP_COMMON},
     FolderName{"User", DP_USER},
     FolderName{"User, hidden", DP_USERHIDDEN},
     FolderName{"Shared, hidden", DP_PUBLICHIDDEN},
@@ -67,6 +68,20 @@ BriefingRow RowOf(CStartupDlg::DataInfo& set)
     return {set.coverage.GetString(), expiry.GetString(), StateOf(set.expiry)};
 }
 
+/// What the family has in common: one set for all of its programs.
+std::string ProxiesText()
+{
+    ProxySet proxies;
+    std::string text;
+    LoadProxies(proxies);
+    for (int i = 0; i < proxies.GetCount(); ++i)
+    {
+        const char* const host = proxies.GetAt(i)->mAddress.mpHost;
+        text += std::string(i == 0 ? "" : ", ") + (host != nullptr ? host : "no host");
+    }
+    return text.empty() ? "none" : text;
+}
+
 } // namespace
 
 void RegisterFamily()
@@ -86,6 +101,8 @@ std::vector<BriefingRow> Briefing(Currency currency)
     rows.push_back({"Folders", "", ""});
     for (const FolderName& folder : kFolders)
         rows.push_back({folder.name, Folder(folder.path, kThisProgram), Folder(folder.path, kSample)});
+    rows.push_back({"Network", "", ""});
+    rows.push_back({"Proxies", ProxiesText(), ProxiesText()});
     return rows;
 }
 

@@ -19,8 +19,8 @@ struct BriefingRow
     std::string sample; ///< of the other sample
 };
 
-/// Data sets with their currency, then the units and the folders of both programs. A row with a text in `what` alone is
-/// a heading.
+/// Data sets with their currency, then the units and the folders of both programs, and the proxies that they share. A
+/// row with a text in `what` alone is a heading.
 std::vector<BriefingRow> Briefing(Currency currency);
 
 /// The rows as text, a line each, columns parted by " | ".

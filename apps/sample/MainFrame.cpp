@@ -11,6 +11,7 @@
 #include "apps/sample/resource.h"
 
 #include <array>
+#include <utility>
 
 namespace
 {
@@ -19,6 +20,8 @@ constexpr int kViewMenu = 1; // places in the menu bar of IDR_MAINFRAME
 constexpr int kChartMenu = 3;
 constexpr int kUnitsMenu = 6;
 constexpr SIZE kSmallest = {560, 420};
+constexpr const char* kWindow = "Window"; // settings: section and key
+constexpr const char* kPage = "Page";
 
 } // namespace
 
@@ -90,6 +93,12 @@ BOOL MainFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext* context)
     return TRUE;
 }
 
+void MainFrame::PostNcDestroy()
+{
+    DestroyAcceleratorTable(std::exchange(m_hAccelTable, nullptr)); // loading it has made one more of it
+    CFrameWnd::PostNcDestroy();
+}
+
 bool MainFrame::CreateStatusBar()
 {
     static constexpr std::array<UINT, 2> kPanes = {ID_SEPARATOR, ID_INDICATOR_UNITS};
@@ -119,12 +128,27 @@ bool MainFrame::FillMenus()
 
 void MainFrame::OnClose()
 {
+    if (!IsWindowEnabled())
+        return; // a dialog is open, which works on what would go
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     if (GetWindowPlacement(&placement))
         WriteWindowPlacement("WindowPlacement", "Main", &placement);
     SaveBarState("Bars");
+    KeepPage();
     CFrameWnd::OnClose();
+}
+
+void MainFrame::KeepPage() const
+{
+    VornCommonApp::Inst()->WriteSettingString(kWindow, kPage, m_view->Pages()[m_view->CurrentPage()]->Name());
+}
+
+void MainFrame::ShowKeptPage()
+{
+    const CString page = VornCommonApp::Inst()->GetSettingString(kWindow, kPage, "");
+    if (!page.IsEmpty())
+        m_view->ShowPage(page.GetString()); // of another release it may have another name
 }
 
 void MainFrame::OnGetMinMaxInfo(MINMAXINFO* info)

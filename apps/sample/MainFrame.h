@@ -22,9 +22,13 @@ public:
     /// What the preferences dialog asks of this window.
     vorn::preferences::Context PreferencesContext();
 
+    /// Brings the page to the front that a user has left the window with.
+    void ShowKeptPage();
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     BOOL OnCreateClient(LPCREATESTRUCT create, CCreateContext* context) override;
+    void PostNcDestroy() override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();
@@ -48,6 +52,7 @@ private:
     bool CreateStatusBar();
     bool CreateLegBar();
     void TakePreferences();
+    void KeepPage() const;
 
     CStatusBar m_statusBar;
     PageView* m_view = nullptr; // destroyed by the window itself

@@ -2,10 +2,13 @@
 
 #include "apps/planner/GeneralSettings.h"
 #include "apps/planner/shots/ShotRun.h"
+#include "apps/sample/BareWindows.h"
 #include "apps/sample/LeftOver.h"
+#include "apps/sample/LifeRun.h"
 #include "apps/sample/MainFrame.h"
 #include "apps/sample/PageView.h"
 #include "apps/sample/SampleShots.h"
+#include "apps/sample/Singletons.h"
 #include "apps/sample/Snapshot.h"
 #include "apps/sample/StartupDialog.h"
 #include "apps/sample/core/ReportTable.h"
@@ -59,16 +62,6 @@ void TakeSettings()
     vorn::planner::ApplyTips();
 }
 
-void FreeSingletons()
-{
-    EndLog();
-    VornCommonApp::FreeInst();
-    TimerMgr::FreeInst();
-    ResMgr::FreeInst();
-    PathMgr::FreeInst();
-    AppRegMgr::FreeInst();
-}
-
 } // namespace
 
 SampleApp::SampleApp() : CWinApp("VornSample")
@@ -109,34 +102,47 @@ BOOL SampleApp::InitInstance()
     return TRUE;
 }
 
-// Whole lives of the application, one after the other: startup dialog, main window with each of its pages, the end of
-// every singleton.
+// What the system keeps of windows like those of the last life.
+void SampleApp::PrintFloor(const BareWindows& windows)
+{
+    const int count = windows.Count();
+    windows.MakeAgain(); // caches come to their size
+    const LeftOver before = CountLeftOver();
+    windows.MakeAgain();
+    const LeftOver after = CountLeftOver();
+    Print(STD_OUTPUT_HANDLE, std::to_string(count) + " bare windows leave " +
+                                 std::to_string(after.heapBlocks - before.heapBlocks) + " heap blocks\n");
+}
+
+// Each life is as a user's, with everything opened once.
 void SampleApp::RunRounds(const StartOptions& options)
 {
+    BareWindows windows;
+    LifeRun lives(windows);
     for (int round = 1; round <= options.rounds && m_exitCode == 0; ++round)
     {
+        windows.Clear();
         VornCommonApp::Inst(this);
+        Print(STD_OUTPUT_HANDLE, "life " + std::to_string(round) + " begins with " + SingletonsText() + '\n');
         TakeSettings();
-        StartupDialog dialog(Currency::Mixed);
-        dialog.RunUnattended(true, "");
-        if (dialog.DoModal() == -1 || !CreateMainFrame(options))
+        if (!lives.ShowStartup() || !CreateMainFrame(options))
         {
             m_exitCode = kFailed;
             break;
         }
-        PageView& view = *static_cast<MainFrame*>(m_pMainWnd)->View();
-        for (std::size_t page = 0; page < view.Pages().size(); ++page)
-        {
-            view.ShowPage(page);
-            PumpPending();
-        }
+        lives.OpenEverything(*static_cast<MainFrame*>(m_pMainWnd));
         m_pMainWnd->DestroyWindow();
-        PumpPending(); // the request to quit among them
+        LifeRun::Settle(); // the request to quit among it
         FreeSingletons();
+        if (round < options.rounds - 1)
+            continue; // counting takes its time: the last two are compared
         const LeftOver left = CountLeftOver();
-        Print(STD_OUTPUT_HANDLE, "round " + std::to_string(round) + ": " + std::to_string(left.heapBlocks) +
-                                     " heap blocks, " + std::to_string(left.gdiObjects) + " GDI objects\n");
+        Print(STD_OUTPUT_HANDLE, "life " + std::to_string(round) + " leaves " + std::to_string(left.heapBlocks) +
+                                     " heap blocks, " + std::to_string(left.gdiObjects) + " GDI objects, " +
+                                     std::to_string(left.userObjects) + " windows, menus and icons; " +
+                                     std::to_string(lives.Dialogs()) + " dialogs were open\n");
     }
+    PrintFloor(windows);
 }
 
 // Goes on to the main window unless nobody is there to look.
@@ -167,11 +173,12 @@ bool SampleApp::CreateMainFrame(const StartOptions& options)
         m_exitCode = kFailed;
         return false;
     }
-    m_pMainWnd = frame.release(); // a frame window deletes itself when its window is destroyed
-    InitialShowMainFrame(static_cast<CFrameWnd*>(m_pMainWnd), "WindowPlacement", "Main", "Bars",
-                         static_cast<UINT>(m_nCmdShow));
+    MainFrame& shown = *frame.release(); // a frame window deletes itself when its window is destroyed
+    m_pMainWnd = &shown;
+    InitialShowMainFrame(&shown, "WindowPlacement", "Main", "Bars", static_cast<UINT>(m_nCmdShow));
     if (options.width > 0)
         m_pMainWnd->SetWindowPos(nullptr, 0, 0, options.width, options.height, SWP_NOMOVE | SWP_NOZORDER);
+    shown.Planner().Data(); // while no page has its tables open for changes
     m_pMainWnd->UpdateWindow();
     return true;
 }
@@ -187,6 +194,8 @@ bool SampleApp::ApplyOptions(const StartOptions& options)
                                   : !options.picture.empty() ? "Pictures"
                                                              : "";
     const std::string page = options.page.empty() ? ofOptions : options.page;
+    if (page.empty() && !options.IsUnattended())
+        static_cast<MainFrame*>(m_pMainWnd)->ShowKeptPage();
     const bool shown = page.empty() || view.ShowPage(page);
     if (shown && (problem.empty() || !options.IsUnattended())) // a user sees on the page what is wrong
         return true;

@@ -4,6 +4,7 @@
 
 #include <VornCommon.h>
 
+class BareWindows;
 class MainFrame;
 
 /// The sample's application object: the framework's and the library's in one.
@@ -17,6 +18,7 @@ public:
 
 private:
     void RunRounds(const StartOptions& options);
+    void PrintFloor(const BareWindows& windows);
     bool ShowStartup(const StartOptions& options);
     bool CreateMainFrame(const StartOptions& options);
     bool ApplyOptions(const StartOptions& options);

@@ -124,7 +124,8 @@ const char* StartOptionsHelp()
            "  --no-startup           begin with the main window\n"
            "  --size WIDTHxHEIGHT    start with a window of this size\n"
            "  --snapshot FILE.png    save a picture of the window and exit\n"
-           "  --rounds N             open and close everything N times, and print what is left in memory after each\n"
+           "  --rounds N             open and close everything N times, and print what the last two times leave in "
+           "memory\n"
            "  --shots FOLDER         save pictures of the planner's windows there, say what is cut or overlaps, and "
            "exit\n"
            "  --summary              print what the pages show and exit\n";

@@ -14,7 +14,9 @@ namespace
 // The stored view: section and key.
 constexpr const char* kViews = "Views";
 constexpr const char* kChart = "Chart";
-constexpr const char* kNight = "Night"; // a state of the colours: by day, by night, at dusk
+constexpr const char* kNight = "Night";              // a state of the colours: by day, by night, at dusk
+constexpr const char* kOldProjection = "Projection"; // a section without it has no view in the older form
+constexpr int kNoProjection = -1;
 
 constexpr double kZoomButton = 1.5;
 constexpr double kPrinterMargin = 0.02; // of the sheet's width
@@ -46,6 +48,17 @@ private:
     int m_before;
 };
 
+/// An older release kept each field of a view by itself. Where its fields are still to be seen, in the file of its
+/// settings, they would go before every view that is stored from now on.
+void ForgetOldView()
+{
+    for (const char* const section : {kViews, kChart})
+    {
+        if (VornCommonApp::Inst()->GetSettingInt(section, kOldProjection, kNoProjection) != kNoProjection)
+            VornCommonApp::Inst()->WriteSettingInt(section, kOldProjection, kNoProjection);
+    }
+}
+
 } // namespace
 
 ChartPage::ChartPage() : m_window(m_chart)
@@ -62,8 +75,10 @@ const char* ChartPage::Name() const
     return "Chart";
 }
 
+/// The tables are read with the first look at the page's values: later on they may be open for changes.
 void ChartPage::Refresh()
 {
+    Load();
     if (m_view != nullptr)
         ShowState();
     m_window.Repaint();
@@ -122,6 +137,7 @@ void ChartPage::KeepView()
     ViewDefinition view;
     m_chart.Store(view);
     AppRegMgr::Instance()->WriteVornString(kViews, kChart, view.Format(), 0);
+    ForgetOldView();
     VornCommonApp::Inst()->WriteSettingInt(kChart, kNight, ColorContext::Instance()->GetCurrentState());
 }
 

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <windows.h>
-
-#include <string>
+#include "tests/windows/VornSample/ProgramRun.h"
 
 namespace vorn::test
 {
 
-/// The sample host, running beside the test; ended by force when the object goes.
-class SampleProcess
+/// The sample host that stands beside the test program.
+class SampleProcess : public ProgramRun
 {
 public:
     /// Whether the sample begins with its startup dialog.
@@ -18,25 +16,11 @@ public:
         Shown,
     };
 
-    /// Starts VornSample.exe, which stands beside the test program, with its standard output in a file.
-    SampleProcess(const std::string& arguments, const std::string& outputFile, Startup startup = Startup::Skipped);
-    ~SampleProcess();
-    SampleProcess(const SampleProcess&) = delete;
-    SampleProcess& operator=(const SampleProcess&) = delete;
-
-    bool IsStarted() const;
-
-    /// Its main window once it is visible; null when none comes before the deadline.
-    HWND MainWindow() const;
-
-    /// A dialog or message box of its, once it is visible; null when none comes before the deadline.
-    HWND Dialog() const;
-
-    /// Waits for the end. 0xFFFFFFFF when it does not come before the deadline.
-    DWORD ExitCode() const;
-
-private:
-    PROCESS_INFORMATION m_process{};
+    SampleProcess(const std::string& arguments, const std::string& outputFile, Startup startup = Startup::Skipped)
+        : ProgramRun(PathBeside("VornSample.exe"), (startup == Startup::Skipped ? "--no-startup " : "") + arguments,
+                     outputFile)
+    {
+    }
 };
 
 } // namespace vorn::test

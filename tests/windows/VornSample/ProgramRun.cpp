@@ -1,4 +1,4 @@
-#include "tests/windows/VornSample/SampleProcess.h"
+#include "tests/windows/VornSample/ProgramRun.h"
 
 #include "tests/support/PumpUntil.h"
 
@@ -15,36 +15,48 @@ constexpr DWORD kDeadlineMs = 30000;
 struct Search
 {
     DWORD process;
+    const std::string* title; // null: any
     HWND found;
 };
+
+bool IsShownBy(DWORD process, HWND window)
+{
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    return owner == process && IsWindowVisible(window) != FALSE;
+}
 
 BOOL CALLBACK IsMainWindow(HWND window, LPARAM parameter)
 {
     Search& search = *reinterpret_cast<Search*>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != search.process || !IsWindowVisible(window) || GetMenu(window) == nullptr)
+    if (!IsShownBy(search.process, window) || GetMenu(window) == nullptr)
         return TRUE;
     search.found = window;
     return FALSE;
+}
+
+bool HasTitle(HWND window, const std::string& title)
+{
+    char text[256];
+    GetWindowTextA(window, text, sizeof text); // another process's: as the system has it
+    return title == text;
 }
 
 BOOL CALLBACK IsDialog(HWND window, LPARAM parameter)
 {
     Search& search = *reinterpret_cast<Search*>(parameter);
-    DWORD process = 0;
     char className[16];
-    GetWindowThreadProcessId(window, &process);
     GetClassNameA(window, className, sizeof className);
-    if (process != search.process || !IsWindowVisible(window) || std::string(className) != "#32770")
+    if (!IsShownBy(search.process, window) || std::string(className) != "#32770" ||
+        (search.title != nullptr && !HasTitle(window, *search.title)))
         return TRUE;
     search.found = window;
     return FALSE;
 }
 
-HWND WaitForWindow(DWORD process, WNDENUMPROC isIt)
+HWND WaitForWindow(DWORD process, WNDENUMPROC isIt, const std::string* title)
 {
-    Search search{process, nullptr};
+    Search search{process, title, nullptr};
     PumpUntil(
         [&search, isIt]
         {
@@ -55,17 +67,9 @@ HWND WaitForWindow(DWORD process, WNDENUMPROC isIt)
     return search.found;
 }
 
-std::string ProgramPath()
-{
-    char path[MAX_PATH];
-    GetModuleFileNameA(nullptr, path, MAX_PATH);
-    const std::string own(path);
-    return own.substr(0, own.find_last_of('\\') + 1) + "VornSample.exe";
-}
-
 } // namespace
 
-SampleProcess::SampleProcess(const std::string& arguments, const std::string& outputFile, Startup startup)
+ProgramRun::ProgramRun(const std::string& program, const std::string& arguments, const std::string& outputFile)
 {
     SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
     // Shared for writing: a process that has ended may keep its handle of the file for a moment.
@@ -75,13 +79,12 @@ SampleProcess::SampleProcess(const std::string& arguments, const std::string& ou
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
     start.hStdOutput = start.hStdError = output;
-    const char* const first = startup == Startup::Skipped ? "--no-startup " : "";
-    std::string command = '"' + ProgramPath() + "\" " + first + arguments;
+    std::string command = '"' + program + "\" " + arguments;
     CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &m_process);
     CloseHandle(output);
 }
 
-SampleProcess::~SampleProcess()
+ProgramRun::~ProgramRun()
 {
     if (!IsStarted())
         return;
@@ -90,27 +93,40 @@ SampleProcess::~SampleProcess()
     CloseHandle(m_process.hProcess);
 }
 
-bool SampleProcess::IsStarted() const
+bool ProgramRun::IsStarted() const
 {
     return m_process.hProcess != nullptr;
 }
 
-HWND SampleProcess::MainWindow() const
+HWND ProgramRun::MainWindow() const
 {
-    return WaitForWindow(m_process.dwProcessId, IsMainWindow);
+    return WaitForWindow(m_process.dwProcessId, IsMainWindow, nullptr);
 }
 
-HWND SampleProcess::Dialog() const
+HWND ProgramRun::Dialog() const
 {
-    return WaitForWindow(m_process.dwProcessId, IsDialog);
+    return WaitForWindow(m_process.dwProcessId, IsDialog, nullptr);
 }
 
-DWORD SampleProcess::ExitCode() const
+HWND ProgramRun::Dialog(const std::string& title) const
+{
+    return WaitForWindow(m_process.dwProcessId, IsDialog, &title);
+}
+
+DWORD ProgramRun::ExitCode(DWORD milliseconds) const
 {
     DWORD code = 0xFFFFFFFF;
-    if (WaitForSingleObject(m_process.hProcess, kDeadlineMs) == WAIT_OBJECT_0)
+    if (WaitForSingleObject(m_process.hProcess, milliseconds) == WAIT_OBJECT_0)
         GetExitCodeProcess(m_process.hProcess, &code);
     return code;
+}
+
+std::string PathBeside(const std::string& name)
+{
+    char path[MAX_PATH];
+    GetModuleFileNameA(nullptr, path, MAX_PATH);
+    const std::string own(path);
+    return own.substr(0, own.find_last_of('\\') + 1) + name;
 }
 
 } // namespace vorn::test
