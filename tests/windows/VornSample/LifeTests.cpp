@@ -1,6 +1,7 @@
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
 #include "tests/windows/VornSample/SampleProcess.h"
+#include "tests/windows/VornSample/SampleSettings.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,6 @@ using namespace vorn::test;
 namespace
 {
 
-constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
 constexpr int kLives = 3;
 constexpr int kCounted = 2; // the last ones, when caches have come to their size
 

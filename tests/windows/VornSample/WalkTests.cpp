@@ -3,6 +3,7 @@
 #include "tests/support/ScratchKey.h"
 #include "tests/windows/VornSample/InstalledSample.h"
 #include "tests/windows/VornSample/Listings.h"
+#include "tests/windows/VornSample/SampleSettings.h"
 
 #include <VornCommon.h>
 
@@ -26,7 +27,6 @@ using namespace vorn::test;
 namespace
 {
 
-constexpr const char* kSettings = "Software\\Vornwald\\VornSample";
 constexpr const char* kStartupTitle = "Vornwald sample host (2025-2026)";
 
 // The sample's public numbers: of its view, its pages' commands and controls, its dialogs' controls.
