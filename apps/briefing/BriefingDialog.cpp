@@ -4,6 +4,7 @@
 
 BEGIN_MESSAGE_MAP(BriefingDialog, LayoutManagement::LayoutDialog)
 ON_BN_CLICKED(IDC_BRIEFING_TAKE, &BriefingDialog::OnTakeOver)
+ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 BriefingDialog::BriefingDialog(Currency currency)
@@ -34,14 +35,31 @@ BOOL BriefingDialog::OnInitDialog()
 
 void BriefingDialog::AddColumns()
 {
-    CRect client;
-    m_list.GetClientRect(&client);
-    const int first = client.Width() * 3 / 10;
-    const int others = (client.Width() - first - ::GetSystemMetrics(SM_CXVSCROLL)) / 2;
-    m_list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES);
-    m_list.InsertColumn(0, "What", LVCFMT_LEFT, first);
-    m_list.InsertColumn(1, kThisProgram, LVCFMT_LEFT, others);
-    m_list.InsertColumn(2, kSample, LVCFMT_LEFT, others);
+    m_list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_LABELTIP);
+    int column = 0;
+    for (const char* const title : {"What", kThisProgram, kSample})
+        m_list.InsertColumn(column++, title, LVCFMT_LEFT, 0);
+    FitColumns();
+}
+
+/// Dates and folders are longer than what they are of.
+void BriefingDialog::FitColumns()
+{
+    CRect window;
+    m_list.GetWindowRect(&window); // as if there were always a scroll bar
+    const int width = window.Width() - 2 * ::GetSystemMetrics(SM_CXEDGE) - ::GetSystemMetrics(SM_CXVSCROLL);
+    const int first = width * 27 / 100;
+    const int second = width * 39 / 100;
+    m_list.SetColumnWidth(0, first);
+    m_list.SetColumnWidth(1, second);
+    m_list.SetColumnWidth(2, width - first - second);
+}
+
+void BriefingDialog::OnSize(UINT type, int width, int height)
+{
+    LayoutDialog::OnSize(type, width, height);
+    if (m_list.m_hWnd != nullptr)
+        FitColumns();
 }
 
 void BriefingDialog::Fill()

@@ -12,10 +12,12 @@ protected:
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* exchange) override;
     void OnTakeOver();
+    afx_msg void OnSize(UINT type, int width, int height);
     DECLARE_MESSAGE_MAP()
 
 private:
     void AddColumns();
+    void FitColumns();
     void Fill();
 
     Currency m_currency;
