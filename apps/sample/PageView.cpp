@@ -77,6 +77,7 @@ int PageView::OnCreate(LPCREATESTRUCT create)
     for (const std::unique_ptr<Page>& page : m_pages)
         page->Refresh();
     m_pages[m_current]->Activate(*this, true);
+    m_tips.TakeControlsOf(*this);
     return 0;
 }
 
@@ -96,6 +97,7 @@ void PageView::ShowPage(std::size_t index)
     m_scroll = 0;
     m_pages[m_current]->Refresh();
     m_pages[m_current]->Activate(*this, true);
+    m_tips.TakeControlsOf(*this);
     ShowScrollBar(SB_VERT, !m_pages[m_current]->FillsWindow());
     Layout();
     Invalidate(FALSE);
@@ -171,6 +173,7 @@ BOOL PageView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 
 BOOL PageView::PreTranslateMessage(MSG* message)
 {
+    m_tips.Relay(*message);
     if (CView::PreTranslateMessage(message))
         return TRUE;
     if (message->message != WM_KEYDOWN)
@@ -266,6 +269,7 @@ void PageView::Layout()
     if (!fills)
         ShowScrollPosition(area.Height());
     m_pages[m_current]->PlaceControls(ScrolledPage(), *m_theme);
+    m_tips.Moved();
 }
 
 void PageView::OnLButtonDown(UINT flags, CPoint point)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/sample/pages/Page.h"
+#include "apps/sample/ui/PageTips.h"
 
 #include <memory>
 #include <vector>
@@ -68,6 +69,7 @@ private:
     void PaintPage(CDC& dc) const;
 
     std::unique_ptr<Theme> m_theme;
+    PageTips m_tips;
     std::vector<std::unique_ptr<Page>> m_pages;
     std::size_t m_current = 0;
     int m_scroll = 0;
