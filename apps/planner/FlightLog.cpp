@@ -51,9 +51,9 @@ std::string ClockText(double hours)
 } // namespace
 
 BEGIN_MESSAGE_MAP(FlightLogView, LayoutManagement::LayoutFormView)
-ON_EN_CHANGE(IDC_LOG_TIME, OnTimeChanged)
-ON_EN_KILLFOCUS(IDC_LOG_TIME, OnTimeLeft)
-ON_EN_KILLFOCUS(IDC_LOG_NOTES, OnNotesLeft)
+ON_EN_CHANGE(IDC_LOG_TIME, &FlightLogView::OnTimeChanged)
+ON_EN_KILLFOCUS(IDC_LOG_TIME, &FlightLogView::OnTimeLeft)
+ON_EN_KILLFOCUS(IDC_LOG_NOTES, &FlightLogView::OnNotesLeft)
 ON_WM_SIZE()
 END_MESSAGE_MAP()
 

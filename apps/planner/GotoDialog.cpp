@@ -25,10 +25,10 @@ std::string Unbroken(std::string text)
 } // namespace
 
 BEGIN_MESSAGE_MAP(GotoDialog, PlannerDialog)
-ON_EN_CHANGE(IDC_GOTO_LATITUDE, OnPositionTyped)
-ON_EN_CHANGE(IDC_GOTO_LONGITUDE, OnPositionTyped)
-ON_CBN_SELCHANGE(IDC_GOTO_PLACE, OnPlaceTyped)
-ON_CBN_EDITCHANGE(IDC_GOTO_PLACE, OnPlaceTyped)
+ON_EN_CHANGE(IDC_GOTO_LATITUDE, &GotoDialog::OnPositionTyped)
+ON_EN_CHANGE(IDC_GOTO_LONGITUDE, &GotoDialog::OnPositionTyped)
+ON_CBN_SELCHANGE(IDC_GOTO_PLACE, &GotoDialog::OnPlaceTyped)
+ON_CBN_EDITCHANGE(IDC_GOTO_PLACE, &GotoDialog::OnPlaceTyped)
 ON_WM_SIZE()
 END_MESSAGE_MAP()
 

@@ -19,11 +19,11 @@ std::string LegText(const Leg& leg)
 } // namespace
 
 BEGIN_MESSAGE_MAP(LegBar, ResizableDialogBar)
-ON_BN_CLICKED(IDC_LEGS_SHOW, OnShow)
-ON_BN_CLICKED(IDC_LEGS_ROUTE, OnRoute)
-ON_LBN_DBLCLK(IDC_LEGS_LIST, OnShow)
-ON_UPDATE_COMMAND_UI(IDC_LEGS_SHOW, OnUpdateShow)
-ON_UPDATE_COMMAND_UI(IDC_LEGS_ROUTE, OnUpdateRoute)
+ON_BN_CLICKED(IDC_LEGS_SHOW, &LegBar::OnShow)
+ON_BN_CLICKED(IDC_LEGS_ROUTE, &LegBar::OnRoute)
+ON_LBN_DBLCLK(IDC_LEGS_LIST, &LegBar::OnShow)
+ON_UPDATE_COMMAND_UI(IDC_LEGS_SHOW, &LegBar::OnUpdateShow)
+ON_UPDATE_COMMAND_UI(IDC_LEGS_ROUTE, &LegBar::OnUpdateRoute)
 END_MESSAGE_MAP()
 
 LegBar::LegBar(PlannerData& data) : m_data(data)

@@ -47,7 +47,7 @@ std::string LoadText(const Load& load)
 } // namespace
 
 BEGIN_MESSAGE_MAP(WeightDialog, PlannerDialog)
-ON_CONTROL_RANGE(EN_CHANGE, IDC_WEIGHT_STATION, kLastStation, OnNumber)
+ON_CONTROL_RANGE(EN_CHANGE, IDC_WEIGHT_STATION, kLastStation, &WeightDialog::OnNumber)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 

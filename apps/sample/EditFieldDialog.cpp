@@ -13,8 +13,8 @@ constexpr std::array<UINT, 4> kTips = {IDC_EDIT_FIELD, IDS_TIP_EDIT_FIELD, IDC_E
 } // namespace
 
 BEGIN_MESSAGE_MAP(EditFieldDialog, ToolTipDlg)
-ON_CBN_SELCHANGE(IDC_EDIT_FIELD, OnFieldChosen)
-ON_EN_CHANGE(IDC_EDIT_VALUE, OnValueChanged)
+ON_CBN_SELCHANGE(IDC_EDIT_FIELD, &EditFieldDialog::OnFieldChosen)
+ON_EN_CHANGE(IDC_EDIT_VALUE, &EditFieldDialog::OnValueChanged)
 END_MESSAGE_MAP()
 
 EditFieldDialog::EditFieldDialog(CWnd* parent, vorn::DataTable& table, int row, int field)

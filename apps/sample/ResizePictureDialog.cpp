@@ -18,8 +18,8 @@ constexpr std::array<UINT, 10> kTips = {
 } // namespace
 
 BEGIN_MESSAGE_MAP(ResizePictureDialog, ToolTipDlg)
-ON_EN_CHANGE(IDC_RESIZE_WIDTH, OnWidth)
-ON_EN_CHANGE(IDC_RESIZE_HEIGHT, OnHeight)
+ON_EN_CHANGE(IDC_RESIZE_WIDTH, &ResizePictureDialog::OnWidth)
+ON_EN_CHANGE(IDC_RESIZE_HEIGHT, &ResizePictureDialog::OnHeight)
 END_MESSAGE_MAP()
 
 ResizePictureDialog::ResizePictureDialog(CWnd* parent, int width, int height)

@@ -28,7 +28,7 @@ constexpr int kTreeHeight = 100;
 } // namespace
 
 BEGIN_MESSAGE_MAP(PreferencesDialog, BaseOptionTreeDlg)
-ON_BN_CLICKED(IDC_OPT_APPLY, OnApply)
+ON_BN_CLICKED(IDC_OPT_APPLY, &PreferencesDialog::OnApply)
 ON_WM_GETMINMAXINFO()
 END_MESSAGE_MAP()
 

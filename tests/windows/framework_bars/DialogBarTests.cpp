@@ -41,7 +41,7 @@ protected:
 
 BEGIN_MESSAGE_MAP(PlanBar, CDialogBar)
 ON_MESSAGE(WM_INITDIALOG, &PlanBar::OnInit)
-ON_UPDATE_COMMAND_UI(ID_TEST_NOBODY, OnUpdateNobody)
+ON_UPDATE_COMMAND_UI(ID_TEST_NOBODY, &PlanBar::OnUpdateNobody)
 END_MESSAGE_MAP()
 
 class DialogBars : public BarsTest

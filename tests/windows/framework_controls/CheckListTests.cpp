@@ -32,8 +32,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(CheckHost, ControlHost)
-ON_CLBN_CHKCHANGE(kList, OnCheckChange)
-ON_LBN_SELCHANGE(kList, OnSelection)
+ON_CLBN_CHKCHANGE(kList, &CheckHost::OnCheckChange)
+ON_LBN_SELCHANGE(kList, &CheckHost::OnSelection)
 END_MESSAGE_MAP()
 
 class CheckListTest : public testing::Test

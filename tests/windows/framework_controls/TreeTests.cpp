@@ -221,8 +221,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(NotingTree, CTreeCtrl)
-ON_NOTIFY_REFLECT(TVN_SELCHANGEDA, OnSelection)
-ON_NOTIFY_REFLECT(TVN_SELCHANGEDW, OnSelection)
+ON_NOTIFY_REFLECT(TVN_SELCHANGEDA, &NotingTree::OnSelection)
+ON_NOTIFY_REFLECT(TVN_SELCHANGEDW, &NotingTree::OnSelection)
 END_MESSAGE_MAP()
 } // namespace
 

@@ -48,7 +48,7 @@ protected:
 IMPLEMENT_DYNCREATE(WeightForm, CFormView)
 
 BEGIN_MESSAGE_MAP(WeightForm, CFormView)
-ON_BN_CLICKED(IDC_COMPUTE, OnCompute)
+ON_BN_CLICKED(IDC_COMPUTE, &WeightForm::OnCompute)
 END_MESSAGE_MAP()
 
 class FormDocument : public CDocument
