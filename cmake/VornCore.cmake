@@ -12,3 +12,7 @@ add_library(vorn_core STATIC ${core_sources})
 target_compile_definitions(vorn_core PUBLIC VORN_CORE_STATIC)
 target_link_libraries(vorn_core PUBLIC vorn_flags PRIVATE vorn_geodesics vorn_images)
 vorn_precompile(vorn_core <framework/core/BaseTypes.h>)
+# Sanitizers and fuzzers look at what runs: that each source stands by itself, the other builds show.
+if(VORN_SANITIZE OR VORN_FUZZ)
+    vorn_compile_together(vorn_core)
+endif()
