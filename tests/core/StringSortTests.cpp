@@ -85,7 +85,7 @@ TEST(SortedOrder, AgreesWithTheLibrarysSortOnRandomTexts)
 
 TEST(SortedOrder, IsNotQuadraticOnSortedEqualOrReversedTexts)
 {
-    constexpr std::size_t count = 200'000;
+    constexpr std::size_t count = 100'000;
     Texts texts(count);
     for (std::size_t i = 0; i < count; ++i)
         texts[i] = std::to_string(1'000'000 + i);
@@ -96,6 +96,6 @@ TEST(SortedOrder, IsNotQuadraticOnSortedEqualOrReversedTexts)
     EXPECT_EQ(Sorted(texts, false), ascending);
     const Texts equal(count, "same text everywhere");
     EXPECT_EQ(Sorted(equal, true), equal);
-    // A quadratic sort needs 4 * 10^10 comparisons, minutes even without a sanitizer.
+    // A quadratic sort needs 10^10 comparisons, minutes even without a sanitizer.
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
 }
