@@ -21,25 +21,35 @@ constexpr LONG WrapSubtract(LONG first, LONG second) noexcept
 }
 } // namespace vorn
 
+// The members are set in the bodies: the analyser does not see what braces give to a base.
+
 /// A width and a height, or a displacement. Same layout as SIZE.
 class HOSTFRAMEWORK_API CSize : public SIZE
 {
 public:
-    CSize() noexcept : SIZE{0, 0}
+    CSize() noexcept
     {
+        cx = 0;
+        cy = 0;
     }
-    CSize(int initCX, int initCY) noexcept : SIZE{initCX, initCY}
+    CSize(int initCX, int initCY) noexcept
     {
+        cx = initCX;
+        cy = initCY;
     }
     CSize(SIZE initSize) noexcept : SIZE(initSize)
     {
     }
-    explicit CSize(POINT initPt) noexcept : SIZE{initPt.x, initPt.y}
+    explicit CSize(POINT initPt) noexcept
     {
+        cx = initPt.x;
+        cy = initPt.y;
     }
     /// Width in the low, height in the high 16 bits, both signed.
-    explicit CSize(DWORD dwSize) noexcept : SIZE{static_cast<SHORT>(dwSize & 0xFFFF), static_cast<SHORT>(dwSize >> 16)}
+    explicit CSize(DWORD dwSize) noexcept
     {
+        cx = static_cast<SHORT>(dwSize & 0xFFFF);
+        cy = static_cast<SHORT>(dwSize >> 16);
     }
 
     friend bool operator==(const CSize& first, const SIZE& second) noexcept
@@ -70,22 +80,29 @@ public:
 class HOSTFRAMEWORK_API CPoint : public POINT
 {
 public:
-    CPoint() noexcept : POINT{0, 0}
+    CPoint() noexcept
     {
+        x = 0;
+        y = 0;
     }
-    CPoint(int initX, int initY) noexcept : POINT{initX, initY}
+    CPoint(int initX, int initY) noexcept
     {
+        x = initX;
+        y = initY;
     }
     CPoint(POINT initPt) noexcept : POINT(initPt)
     {
     }
-    explicit CPoint(SIZE initSize) noexcept : POINT{initSize.cx, initSize.cy}
+    explicit CPoint(SIZE initSize) noexcept
     {
+        x = initSize.cx;
+        y = initSize.cy;
     }
     /// x in the low, y in the high 16 bits, both signed (the form in which mouse messages carry a place).
     explicit CPoint(DWORD dwPoint) noexcept
-        : POINT{static_cast<SHORT>(dwPoint & 0xFFFF), static_cast<SHORT>(dwPoint >> 16)}
     {
+        x = static_cast<SHORT>(dwPoint & 0xFFFF);
+        y = static_cast<SHORT>(dwPoint >> 16);
     }
 
     void Offset(int xOffset, int yOffset) noexcept;
@@ -124,11 +141,19 @@ public:
 class HOSTFRAMEWORK_API CRect : public RECT
 {
 public:
-    CRect() noexcept : RECT{0, 0, 0, 0}
+    CRect() noexcept
     {
+        left = 0;
+        top = 0;
+        right = 0;
+        bottom = 0;
     }
-    CRect(int l, int t, int r, int b) noexcept : RECT{l, t, r, b}
+    CRect(int l, int t, int r, int b) noexcept
     {
+        left = l;
+        top = t;
+        right = r;
+        bottom = b;
     }
     CRect(const RECT& srcRect) noexcept : RECT(srcRect)
     {
@@ -137,8 +162,12 @@ public:
     {
     }
     CRect(POINT point, SIZE size) noexcept;
-    CRect(POINT topLeft, POINT bottomRight) noexcept : RECT{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y}
+    CRect(POINT topLeft, POINT bottomRight) noexcept
     {
+        left = topLeft.x;
+        top = topLeft.y;
+        right = bottomRight.x;
+        bottom = bottomRight.y;
     }
 
     int Width() const noexcept
