@@ -111,10 +111,8 @@ bool GotoDialog::Take()
 }
 
 /// The plan stays as it is.
-void GotoDialog::OnOK()
+void GotoDialog::Keep()
 {
-    if (Take())
-        LayoutDialog::OnOK();
 }
 
 bool GotoDialog::ByPosition()

@@ -16,7 +16,7 @@ protected:
     void Fill() override;
     void Arrange(Form& form) override;
     bool Take() override;
-    void OnOK() override;
+    void Keep() override;
     std::span<const Tip> Tips() const override;
 
     afx_msg void OnPositionTyped();

@@ -31,8 +31,13 @@ void PlannerDialog::OnOK()
 {
     if (!Take())
         return;
-    m_data.Store();
+    Keep();
     LayoutDialog::OnOK();
+}
+
+void PlannerDialog::Keep()
+{
+    m_data.Store();
 }
 
 CString PlannerDialog::TextAt(UINT id) const

@@ -32,6 +32,8 @@ protected:
     virtual void Arrange(Form& form) = 0;
     /// Takes the controls' values. False keeps the dialog open.
     virtual bool Take() = 0;
+    /// Stores what has been taken: the plan, unless a dialog changes none of it.
+    virtual void Keep();
     virtual std::span<const Tip> Tips() const;
     void OnOK() override;
 
