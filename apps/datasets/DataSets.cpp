@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace
 {
@@ -117,6 +118,7 @@ std::string ProgramFolder()
 std::vector<DataTableFacts> DataTables()
 {
     std::vector<DataTableFacts> tables;
+    tables.reserve(std::size(kTables));
     for (const char* name : kTables)
     {
         tables.push_back(FactsOf(name));

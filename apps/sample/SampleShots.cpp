@@ -67,7 +67,7 @@ void AddProxy(ProxySet& set, const char* address, bool enabled)
     proxy->mAddress.Parse(address);
     proxy->mEnabled = enabled;
     if (set.AddProxy(proxy.get()))
-        proxy.release(); // the set's now
+        static_cast<void>(proxy.release()); // the set's now
 }
 
 void TakeProxies(MainFrame& frame, ShotRun& run)
