@@ -48,13 +48,14 @@ void ProxyConfigDlg::OnSelectType()
 
 void ProxyConfigDlg::OnLeaveField(UINT id)
 {
-    // Who leaves a field for the button Cancel throws away what he typed.
+    // Who leaves a field for the button Cancel throws away what he typed, unless he leaves the button unpressed.
     if (m_ends || m_tells || FocusedId() == IDCANCEL)
     {
         return;
     }
     Apply(id);
-    if (id == IDC_VORN_PROXY_CONFIRMATION && !ArePasswordsEqual())
+    const bool isConfirmed = id == IDC_VORN_PROXY_CONFIRMATION || (id == IDCANCEL && m_confirmation.HasChanged());
+    if (isConfirmed && !ArePasswordsEqual())
     {
         NoteMismatch();
     }
@@ -109,6 +110,12 @@ void ProxyConfigDlg::Apply(UINT id)
     case IDC_VORN_PROXY_PASSWORD:
     case IDC_VORN_PROXY_CONFIRMATION:
         ApplyPassword(*proxy);
+        break;
+    case IDCANCEL: // one of them waits at most, so none overwrites another by showing the entry again
+        ApplyUser(*proxy);
+        ApplyPassword(*proxy);
+        ApplyPorts(*proxy);
+        ApplyHost(*proxy);
         break;
     default:
         break;

@@ -284,3 +284,78 @@ TEST_F(ProxyDialog, CancelDoesNotTakeTheFieldThatHasTheFocus)
         });
     EXPECT_EQ(Address(proxy), "kept - old 99");
 }
+
+TEST_F(ProxyDialog, ACancelThatIsNotLetGoOnTheButtonLosesNothing)
+{
+    for (const int id : {IDC_VORN_PROXY_HOST, IDC_VORN_PROXY_PORTS, IDC_VORN_PROXY_USER})
+    {
+        ProxyInfo* const proxy = Put("old:99");
+        const int line = m_set.GetCount() - 1;
+        EXPECT_EQ(IDOK, Run(
+                            [&](const ProxyBox& box)
+                            {
+                                box.Select(line);
+                                box.Type(id, "7");
+                                box.PressAndDragOff(IDCANCEL);
+                                EXPECT_EQ(::GetFocus(), box.Item(IDCANCEL));
+                                EXPECT_EQ(box.Text(id), "7");
+                                EXPECT_EQ(Address(proxy), "- - old 99"); // it may still be pressed
+                                EXPECT_EQ(proxy->mFirstPort, 1);
+                                box.Press(IDOK);
+                            },
+                            IDOK));
+        EXPECT_EQ(Address(proxy), id == IDC_VORN_PROXY_HOST   ? "- - 7 8080"
+                                  : id == IDC_VORN_PROXY_USER ? "7 - old 99"
+                                                              : "- - old 99");
+        EXPECT_EQ(proxy->mFirstPort, id == IDC_VORN_PROXY_PORTS ? 7 : 1) << id;
+    }
+}
+
+TEST_F(ProxyDialog, OkFromCancelTakesWhatWasTyped)
+{
+    ProxyInfo* const proxy = Put("old:99");
+    Run(
+        [](const ProxyBox& box)
+        {
+            box.Select(0);
+            box.Type(IDC_VORN_PROXY_HOST, "typed");
+            box.PressAndDragOff(IDCANCEL);
+        },
+        IDOK); // by the command: the focus stays where it is
+    EXPECT_EQ(Address(proxy), "- - typed 8080");
+}
+
+TEST_F(ProxyDialog, LeavingCancelTakesWhatWasTyped)
+{
+    ProxyInfo* const first = Put("a");
+    ProxyInfo* const second = Put("b");
+    Run(
+        [&](const ProxyBox& box)
+        {
+            box.Select(0);
+            box.Type(IDC_VORN_PROXY_HOST, "new:1");
+            box.PressAndDragOff(IDCANCEL);
+            box.Click(1);
+            EXPECT_EQ(box.Lines(), (std::vector<std::string>{"new:1", "b"}));
+            box.Type(IDC_VORN_PROXY_PORTS, "80");
+            box.Focus(IDCANCEL); // as the Tab key goes there
+            box.Leave();
+            EXPECT_EQ(second->mFirstPort, 80);
+        });
+    EXPECT_EQ(Address(first), "- - new 1");
+    EXPECT_EQ(Address(second), "- - b 0");
+}
+
+TEST_F(ProxyDialog, CancelPressedAfterADragOffTakesNothing)
+{
+    ProxyInfo* const proxy = Put("old:99");
+    EXPECT_EQ(IDCANCEL, Run(
+                            [](const ProxyBox& box)
+                            {
+                                box.Select(0);
+                                box.Type(IDC_VORN_PROXY_HOST, "typed");
+                                box.PressAndDragOff(IDCANCEL);
+                                box.Press(IDCANCEL);
+                            }));
+    EXPECT_EQ(Address(proxy), "- - old 99");
+}

@@ -223,6 +223,28 @@ TEST_F(ProxyPasswords, CancelTellsNothing)
     ExpectUnchanged();
 }
 
+TEST_F(ProxyPasswords, ACancelThatIsNotLetGoOnTheButtonStoresThemOrTells)
+{
+    Run(
+        [this](const ProxyBox& box)
+        {
+            box.Select(0);
+            TypePasswords(box, "one", "two");
+            box.PressAndDragOff(IDCANCEL);
+            LetPass();
+            EXPECT_FALSE(IsTold());
+            box.Focus(IDC_VORN_PROXY_HOST);
+            ExpectToldOnce();
+            ExpectUnchanged();
+            TypePasswords(box, "one", "one");
+            box.PressAndDragOff(IDCANCEL);
+            ExpectUnchanged();
+            box.Focus(IDC_VORN_PROXY_LIST);
+            EXPECT_EQ(Address(m_proxy), "joe one proxy 1");
+        });
+    EXPECT_FALSE(IsTold());
+}
+
 TEST_F(ProxyPasswords, AnotherLineTellsNothing)
 {
     Put("ann:pass@other:2");

@@ -126,6 +126,14 @@ void ProxyBox::Press(int id) const
     ::SendMessageA(Item(id), BM_CLICK, 0, 0);
 }
 
+void ProxyBox::PressAndDragOff(int id) const
+{
+    const LPARAM off = MAKELPARAM(-20, -20);
+    ::SendMessageA(Item(id), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    ::SendMessageA(Item(id), WM_MOUSEMOVE, MK_LBUTTON, off);
+    ::SendMessageA(Item(id), WM_LBUTTONUP, 0, off);
+}
+
 ProxyDialog::ProxyDialog()
 {
     g_app.messages.clear();

@@ -64,6 +64,8 @@ public:
     /// Goes to the next control, as the Tab key does.
     void Leave() const;
     void Press(int id) const;
+    /// Presses the mouse on a button, drags it off and lets it go there: the button has the focus and does nothing.
+    void PressAndDragOff(int id) const;
 
 private:
     HWND m_window;
