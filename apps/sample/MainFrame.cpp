@@ -11,7 +11,6 @@
 #include "apps/sample/resource.h"
 
 #include <array>
-#include <utility>
 
 namespace
 {
@@ -91,12 +90,6 @@ BOOL MainFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext* context)
     m_view = view;
     SetActiveView(view);
     return TRUE;
-}
-
-void MainFrame::PostNcDestroy()
-{
-    DestroyAcceleratorTable(std::exchange(m_hAccelTable, nullptr)); // loading it has made one more of it
-    CFrameWnd::PostNcDestroy();
 }
 
 bool MainFrame::CreateStatusBar()

@@ -28,7 +28,6 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     BOOL OnCreateClient(LPCREATESTRUCT create, CCreateContext* context) override;
-    void PostNcDestroy() override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnClose();

@@ -6,6 +6,8 @@
 #include "framework/window/CWinApp.h"
 #include "framework/window/ModuleState.h"
 
+#include <utility>
+
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
@@ -52,6 +54,14 @@ Handle LoadFrom(LPCTSTR name, LPCTSTR type, Handle(WINAPI* load)(HINSTANCE, LPCT
     HINSTANCE module = AfxFindResourceHandle(name, type);
     return ::FindResource(module, name, type) ? load(module, name) : nullptr;
 }
+
+/// The system frees a table that comes from a resource at the program's end alone, or when it was destroyed as often as
+/// it was loaded. Each frame loads its own.
+void DestroyTable(HACCEL table)
+{
+    if (table)
+        ::DestroyAcceleratorTable(table);
+}
 } // namespace
 
 CFrameWnd::CFrameWnd() = default;
@@ -60,6 +70,7 @@ CFrameWnd::~CFrameWnd()
 {
     for (CControlBar* bar : m_controlBars)
         bar->m_pDockSite = nullptr;
+    DestroyTable(m_hAccelTable);
 }
 
 BOOL CFrameWnd::IsFrameWnd() const
@@ -117,7 +128,8 @@ BOOL CFrameWnd::LoadFrame(UINT resourceId, DWORD defaultStyle, CWnd* parent, CCr
 
 BOOL CFrameWnd::LoadAccelTable(LPCTSTR resourceName)
 {
-    m_hAccelTable = LoadFrom<HACCEL>(resourceName, RT_ACCELERATOR, ::LoadAccelerators);
+    HACCEL loaded = LoadFrom<HACCEL>(resourceName, RT_ACCELERATOR, ::LoadAccelerators);
+    DestroyTable(std::exchange(m_hAccelTable, loaded));
     return m_hAccelTable != nullptr;
 }
 

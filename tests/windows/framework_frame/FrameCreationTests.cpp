@@ -3,6 +3,8 @@
 #include "framework/gdi/CPen.h"
 #include "tests/support/PumpUntil.h"
 
+#include <memory>
+
 using namespace vorn::test;
 
 using FrameCreation = FrameTest;
@@ -14,6 +16,12 @@ CString TextOf(const CWnd& window)
     CString text;
     window.GetWindowText(text);
     return text;
+}
+
+/// How many keys a table has; 0 for one that is gone.
+int KeysOf(HACCEL table)
+{
+    return ::CopyAcceleratorTable(table, nullptr, 0);
 }
 } // namespace
 
@@ -51,6 +59,40 @@ TEST_F(FrameCreation, LoadFrameTakesMenuTitleAndAccelerators)
     ASSERT_NE(nullptr, frame->GetMenu());
     EXPECT_EQ(2U, frame->GetMenu()->GetMenuItemCount());
     EXPECT_NE(nullptr, frame->GetDefaultAccelerator());
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameCreation, AcceleratorsEndWithTheFrame)
+{
+    auto* frame = new TestFrame;
+    ASSERT_TRUE(frame->LoadFrame(IDR_TEST_FRAME));
+    HACCEL table = frame->GetDefaultAccelerator();
+    EXPECT_EQ(3, KeysOf(table));
+    frame->DestroyWindow();
+    EXPECT_EQ(0, KeysOf(table));
+}
+
+TEST_F(FrameCreation, AcceleratorsEndWithAFrameThatWasNeverCreated)
+{
+    auto frame = std::make_unique<TestFrame>();
+    ASSERT_TRUE(frame->LoadAccelTable(MAKEINTRESOURCE(IDR_TEST_FRAME)));
+    HACCEL table = frame->GetDefaultAccelerator();
+    EXPECT_EQ(3, KeysOf(table));
+    frame.reset();
+    EXPECT_EQ(0, KeysOf(table));
+}
+
+TEST_F(FrameCreation, LoadingAcceleratorsAgainKeepsOneTable)
+{
+    TestFrame* frame = ShowFrame();
+    const LPCTSTR resource = MAKEINTRESOURCE(IDR_TEST_FRAME);
+    ASSERT_TRUE(frame->LoadAccelTable(resource));
+    ASSERT_TRUE(frame->LoadAccelTable(resource));
+    HACCEL table = frame->GetDefaultAccelerator();
+    EXPECT_EQ(3, KeysOf(table));
+    EXPECT_FALSE(frame->LoadAccelTable("no such table"));
+    EXPECT_EQ(nullptr, frame->GetDefaultAccelerator());
+    EXPECT_EQ(0, KeysOf(table));
     frame->DestroyWindow();
 }
 
