@@ -58,14 +58,42 @@ double DaysToExpiry(const Set& set, Currency currency)
     return currency == Currency::Mixed ? set.mixed : found->days;
 }
 
+/// Of a table that did not open: the library does not say why, the system does.
+DataTableState WhyClosed(const char* path)
+{
+    CFile file;
+    CFileException failure;
+    if (file.Open(path, CFile::modeRead | CFile::shareDenyWrite, &failure))
+    {
+        return DataTableState::Unusable;
+    }
+    switch (failure.m_cause)
+    {
+    case CFileException::sharingViolation:
+    case CFileException::lockViolation:
+        return DataTableState::InUse;
+    case CFileException::fileNotFound:
+    case CFileException::badPath:
+        return DataTableState::Missing;
+    default:
+        return DataTableState::Unusable;
+    }
+}
+
 DataTableFacts FactsOf(const char* name)
 {
     const CString path = (ProgramFolder() + "data\\" + name).c_str();
-    DataTableFacts facts{name, -1, ""};
+    DataTableFacts facts;
+    facts.fileName = name;
     CDBFFile table(0);
     if (table.Open(path, CFile::modeRead) != 0)
     {
+        facts.state = DataTableState::Sound;
         facts.records = table.NumRecords();
+    }
+    else
+    {
+        facts.state = WhyClosed(path);
     }
     CFileStatus status;
     if (CFile::GetStatus(path, status))

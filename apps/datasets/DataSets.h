@@ -32,11 +32,21 @@ std::vector<CStartupDlg::DataInfo> DataSets(Currency currency);
 /// The folder that this program stands in, with a backslash at its end.
 std::string ProgramFolder();
 
+/// What is known of a table before it is read.
+enum class DataTableState
+{
+    Sound,
+    Missing,
+    InUse,    ///< another program has it open for writing
+    Unusable, ///< there, and no table or not to be read
+};
+
 /// A table of the sample's.
 struct DataTableFacts
 {
     std::string fileName;
-    int records = 0;     ///< -1 when the table cannot be opened
+    DataTableState state = DataTableState::Missing;
+    int records = 0;     ///< of a sound table
     std::string changed; ///< the file's day, "2026-11-22"; empty when it is not known
 };
 

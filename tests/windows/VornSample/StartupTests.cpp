@@ -1,6 +1,7 @@
 #include "tests/support/PumpUntil.h"
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
+#include "tests/windows/VornSample/InstalledSample.h"
 #include "tests/windows/VornSample/SampleProcess.h"
 #include "tests/windows/VornSample/SampleSettings.h"
 
@@ -9,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <fstream>
 #include <optional>
 
 using namespace vorn::test;
@@ -180,6 +182,38 @@ TEST_F(SampleStartup, UpdateReportsToAScriptToo)
     EXPECT_EQ(0U, RunBeside("VornUpdate.exe", "--quiet", m_folder.File("output.txt")));
     EXPECT_EQ(0U, Output().find("The sample's data is complete.")) << Output();
     EXPECT_EQ(2U, RunBeside("VornUpdate.exe", "--fast", m_folder.File("output.txt")));
+}
+
+TEST_F(SampleStartup, UpdateTellsTablesInUseFromThoseThatAreMissingOrDamaged)
+{
+    const InstalledSample installed(m_folder.Path() / "installed");
+    ASSERT_TRUE(installed.IsComplete());
+    const auto update = [&]
+    {
+        return ProgramRun(installed.File("VornUpdate.exe"), "--quiet", m_folder.File("output.txt")).ExitCode();
+    };
+    EXPECT_EQ(0U, update()) << Output();
+    {
+        const ProgramRun sample(installed.File("VornSample.exe"),
+                                "--no-startup --page Table --table \"" + installed.File("data\\navaids.dbf") + '"',
+                                m_folder.File("sample.txt"));
+        const HWND window = sample.MainWindow();
+        ASSERT_NE(nullptr, window);
+        EXPECT_EQ(3U, update());
+        EXPECT_EQ(0U, Output().find("Data of the sample is in use")) << Output();
+        EXPECT_NE(std::string::npos, Output().find("navaids.dbf: in use by another program\n")) << Output();
+        EXPECT_NE(std::string::npos, Output().find("runways.dbf: 89 records")) << Output();
+        PostMessageA(window, WM_CLOSE, 0, 0);
+        EXPECT_EQ(0U, sample.ExitCode());
+    }
+    std::ofstream(installed.File("data\\runways.dbf")) << "no table";
+    EXPECT_EQ(1U, update());
+    EXPECT_EQ(0U, Output().find("Data of the sample is damaged")) << Output();
+    EXPECT_NE(std::string::npos, Output().find("runways.dbf: cannot be read as a table\n")) << Output();
+    EXPECT_NE(0, DeleteFileA(installed.File("data\\navaids.dbf").c_str()));
+    EXPECT_EQ(1U, update());
+    EXPECT_EQ(0U, Output().find("Data of the sample is missing")) << Output();
+    EXPECT_NE(std::string::npos, Output().find("navaids.dbf: not there\n")) << Output();
 }
 
 TEST_F(SampleStartup, ASecondApplicationSeesSettingsAndFoldersOfBoth)
