@@ -130,7 +130,7 @@ void PicturePage::Open(const std::string& path)
     if (!problem.empty())
     {
         Say(problem, Notice::News::Bad);
-        return LogNote(LOG_WARNING, problem + ' ' + path);
+        return LogNote(LOG_WARNING, problem);
     }
     LogNote(LOG_INFO, "Opened the picture " + path);
     Say("Opened " + m_picture.Name() + ": " + SizeWords(m_picture) + ".", Notice::News::Good);

@@ -1,3 +1,4 @@
+#include "config/DefinedPathSetting.h"
 #include "files/DIB.h"
 #include "tests/support/PumpUntil.h"
 #include "tests/support/ScratchFolder.h"
@@ -114,6 +115,23 @@ protected:
     void Push(int button) const
     {
         PostMessageA(Control(button), BM_CLICK, 0, 0);
+    }
+
+    /// Lets a file fall on the picture, as from another program's window.
+    void Drop(const std::string& path) const
+    {
+        DROPFILES head{};
+        head.pFiles = sizeof head;
+        const std::string bytes =
+            std::string(reinterpret_cast<const char*>(&head), sizeof head) + path + std::string(2, '\0');
+        DWORD process = 0;
+        GetWindowThreadProcessId(m_window, &process);
+        const HANDLE sample = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE, FALSE, process);
+        ASSERT_NE(sample, nullptr);
+        void* const memory = VirtualAllocEx(sample, nullptr, bytes.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+        EXPECT_TRUE(WriteProcessMemory(sample, memory, bytes.data(), bytes.size(), nullptr));
+        CloseHandle(sample);
+        PostMessageA(Control(kPane), WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0);
     }
 
     bool NoticeBecomes(const std::string& text) const
@@ -311,18 +329,23 @@ TEST_F(SamplePictures, AreOpenedWhenDropped)
 {
     Start(m_ramp);
     EXPECT_NE(GetWindowLongA(Control(kPane), GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
-    DROPFILES head{};
-    head.pFiles = sizeof head;
-    const std::string bytes =
-        std::string(reinterpret_cast<const char*>(&head), sizeof head) + m_gif + std::string(2, '\0');
-    DWORD process = 0;
-    GetWindowThreadProcessId(m_window, &process);
-    const HANDLE sample = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE, FALSE, process);
-    ASSERT_NE(sample, nullptr);
-    void* const memory = VirtualAllocEx(sample, nullptr, bytes.size(), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
-    ASSERT_TRUE(WriteProcessMemory(sample, memory, bytes.data(), bytes.size(), nullptr));
-    CloseHandle(sample);
-    PostMessageA(Control(kPane), WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0);
+    Drop(m_gif);
     EXPECT_TRUE(NoticeBecomes("Opened three.gif: 3 x 2 pixels.")) << TextOf(Control(kNotice));
     End();
+}
+
+TEST_F(SamplePictures, AreNamedOnceInTheLogWhenTheyCannotBeRead)
+{
+    const DefinedPathSetting hidden = GetDefinedPathSetting(DP_USERHIDDEN, PCV_LEGACY);
+    const std::string folder = m_folder.File("Hidden");
+    EXPECT_EQ(RegSetKeyValueA(HKEY_CURRENT_USER, (std::string(kSettings) + '\\' + hidden.section).c_str(), hidden.key,
+                              REG_SZ, folder.c_str(), static_cast<DWORD>(folder.size() + 1)),
+              ERROR_SUCCESS);
+    const std::string text = m_folder.Write("text.png", "no picture");
+    Start(m_ramp);
+    Drop(text);
+    EXPECT_TRUE(NoticeBecomes("This is no picture that can be read: " + text + ".")) << TextOf(Control(kNotice));
+    End();
+    const std::string log = m_folder.Read("Hidden\\messages.log");
+    EXPECT_NE(log.find("Warning: This is no picture that can be read: " + text + ".\r\n"), std::string::npos) << log;
 }
