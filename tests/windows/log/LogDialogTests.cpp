@@ -1,10 +1,13 @@
 #include "framework/include/afxcmn.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/GdiCount.h"
+#include "tests/support/InTheMiddle.h"
 #include "tests/support/WindowPicture.h"
 #include "tests/windows/log/LogBox.h"
 
 #include <cstdlib>
+
+using vorn::test::ExpectInTheMiddle;
 
 namespace
 {
@@ -107,6 +110,12 @@ TEST_F(LogTest, ErrorsAreShownAtFirstWarningsInTheAlternative)
             log.DisplayLog(LOG_WARNING, true);
         },
         nullptr));
+}
+
+TEST_F(LogTest, TheWindowStandsInTheMiddle)
+{
+    VornCommonLog log;
+    EXPECT_TRUE(ShowLog(log, ExpectInTheMiddle));
 }
 
 TEST_F(LogTest, TheWindowHoldsTheWholeTextToBeRead)

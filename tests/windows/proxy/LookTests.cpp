@@ -1,3 +1,4 @@
+#include "tests/support/InTheMiddle.h"
 #include "tests/support/WindowPicture.h"
 #include "tests/windows/proxy/ProxyBox.h"
 
@@ -67,6 +68,15 @@ void SavePictureOf(const ProxyBox& box)
 }
 
 } // namespace
+
+TEST_F(ProxyDialog, StandsInTheMiddle)
+{
+    Run(
+        [](const ProxyBox& box)
+        {
+            vorn::test::ExpectInTheMiddle(box.Window());
+        });
+}
 
 TEST_F(ProxyDialog, ControlsStandInTheirOrder)
 {
