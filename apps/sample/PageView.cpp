@@ -205,6 +205,11 @@ LatLon PageView::ChartCenter() const
     return {};
 }
 
+ToolTipCtrlEx& PageView::Tips()
+{
+    return m_tips.Window();
+}
+
 void PageView::RefreshPage()
 {
     m_pages[m_current]->Refresh();

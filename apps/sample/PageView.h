@@ -26,6 +26,9 @@ public:
     /// Where the chart is centred.
     LatLon ChartCenter() const;
 
+    /// What explains the controls.
+    ToolTipCtrlEx& Tips();
+
     /// Takes all values anew and paints them.
     void RefreshPage();
 

@@ -30,6 +30,19 @@ constexpr std::array kPageDialogs = {
     PageDialog{"Pictures", ID_PICTURE_RESIZE, "resize-picture"},
 };
 
+/// A control of a page, to be explained.
+struct PageTip
+{
+    const char* page;
+    int control;
+    const char* name; ///< of the picture
+};
+constexpr int kChartProjections = 2301; // the list above the chart
+constexpr std::array kPageTips = {
+    PageTip{"Chart", kChartProjections, "tip-5-page"},
+    PageTip{"Tables", ID_TABLE_PACK, "tip-6-page-edge"},
+};
+
 ShotRun::Look TakeOnce(ShotRun& run, const char* name)
 {
     return [&run, name](HWND window)
@@ -89,6 +102,19 @@ void TakeProxies(MainFrame& frame, ShotRun& run)
         });
 }
 
+/// A tip of several lines, and one of a control at the edge of the window.
+void TakePageTips(MainFrame& frame, ShotRun& run)
+{
+    PageView& view = *frame.View();
+    for (const PageTip& tip : kPageTips)
+    {
+        view.ShowPage(tip.page);
+        run.ShotTip(frame, ::GetDlgItem(view, tip.control), view.Tips(), tip.name, false);
+        view.Tips().Pop();
+    }
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN), 0); // where nothing lights up below it
+}
+
 } // namespace
 
 void TakeSampleShots(MainFrame& frame, ShotRun& run)
@@ -125,4 +151,5 @@ void TakeSampleShots(MainFrame& frame, ShotRun& run)
             },
             TakeOnce(run, dialog.name));
     }
+    TakePageTips(frame, run);
 }

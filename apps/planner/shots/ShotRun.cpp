@@ -305,21 +305,8 @@ void ShotRun::TakeTips()
         {
             auto& dialog = *static_cast<FuelDialog*>(CWnd::FromHandlePermanent(window));
             ToolTipCtrlEx& tip = dialog.GetToolTipCtrl();
-            CRect place;
-            ::GetWindowRect(::GetDlgItem(window, IDC_FUEL_CONTINGENCY), &place);
-            const CPoint middle = place.CenterPoint();
-            SetCursorPos(middle.x, middle.y);
-            MSG move{};
-            move.hwnd = ::GetDlgItem(window, IDC_FUEL_CONTINGENCY);
-            move.message = WM_MOUSEMOVE;
-            move.pt = middle;
-            tip.RelayEvent(&move);
-            if (!WaitFor(tip))
-            {
-                m_failed = true;
+            if (!ShotTip(window, ::GetDlgItem(window, IDC_FUEL_CONTINGENCY), tip, "tip-1-short", true))
                 return;
-            }
-            Shot({window, tip.m_hWnd}, "tip-1-short", true);
             tip.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
             PaintAll(window);
             PaintAll(tip);
@@ -369,6 +356,27 @@ void CALLBACK ShotRun::OnTimer(HWND, UINT, UINT_PTR timer, DWORD)
     g_run->m_seen = true;
     g_run->m_look(window);
     ::PostMessage(window, WM_COMMAND, IDCANCEL, 0);
+}
+
+bool ShotRun::ShotTip(HWND window, HWND control, ToolTipCtrlEx& tip, const std::string& name, bool isChecked)
+{
+    CRect place;
+    ::GetWindowRect(control, &place);
+    MSG move{};
+    move.hwnd = control;
+    move.message = WM_MOUSEMOVE;
+    move.pt = place.CenterPoint();
+    SetCursorPos(move.pt.x, move.pt.y);
+    tip.RelayEvent(&move);
+    if (!WaitFor(tip))
+    {
+        m_failed = true;
+        return false;
+    }
+    Shot({window, tip.m_hWnd}, name, isChecked);
+    if (!IsWholeOnScreen(tip))
+        m_faults.push_back(m_prefix + name + ": the tip lies partly beyond the screen");
+    return true;
 }
 
 void ShotRun::Sizes(HWND window, const std::string& name)

@@ -32,6 +32,10 @@ public:
     /// As it is. The later windows lie on top.
     void Shot(const std::vector<HWND>& windows, const std::string& name, bool isChecked);
 
+    /// Rests the mouse on a control until its tip is there, and takes both. False when none comes.
+    /// @param isChecked whether the window itself is looked at, too
+    bool ShotTip(HWND window, HWND control, ToolTipCtrlEx& tip, const std::string& name, bool isChecked);
+
     /// What was found wrong: a line for each, with the picture's name.
     const std::vector<std::string>& Faults() const;
     int Pictures() const;

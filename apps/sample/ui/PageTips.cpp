@@ -25,3 +25,8 @@ void PageTips::Moved()
     if (m_tips.m_hWnd != nullptr)
         m_tips.UpdateTipRects();
 }
+
+ToolTipCtrlEx& PageTips::Window()
+{
+    return m_tips;
+}

@@ -16,6 +16,8 @@ public:
     /// The page's controls have moved.
     void Moved();
 
+    ToolTipCtrlEx& Window();
+
 private:
     ToolTipCtrlEx m_tips;
 };
