@@ -135,7 +135,11 @@ void ChartPage::Activate(CWnd& view, bool active)
     for (CWnd* const control : Controls())
         control->ShowWindow(active ? SW_SHOWNA : SW_HIDE);
     if (!active)
+    {
         m_tip.Hide(m_window);
+        if (CFrameWnd* const frame = m_view->GetParentFrame())
+            frame->SetMessageText(AFX_IDS_IDLEMESSAGE); // no longer of the chart
+    }
     ShowState();
 }
 

@@ -295,6 +295,34 @@ TEST_F(SampleChart, HasNightColoursOnAKeyAndKeepsThem)
     EXPECT_EQ(StoredNight(), 0u);
 }
 
+TEST_F(SampleChart, TakesItsScaleOutOfTheStatusBarWhenItGoes)
+{
+    constexpr int kStatusBar = 0xE801;
+    constexpr WPARAM kFirstPage = 33100;
+    Start();
+    const auto status = [this]
+    {
+        char text[200] = "";
+        SendMessageA(GetDlgItem(m_window, kStatusBar), WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+        return std::string(text);
+    };
+    PostMessageA(Chart(), WM_KEYDOWN, VK_ADD, 0); // tells the new scale
+    EXPECT_TRUE(PumpUntil(
+        [&]
+        {
+            return status().find("1 : ") != std::string::npos;
+        }))
+        << status();
+    PostMessageA(m_window, WM_COMMAND, kFirstPage, 0);
+    EXPECT_TRUE(PumpUntil(
+        [&]
+        {
+            return status() == "Ready";
+        }))
+        << status();
+    End();
+}
+
 TEST_F(SampleChart, IsExportedAsPngBitmapAndJpeg)
 {
     Start(std::string("--view \"") + kSeattle + '"');
