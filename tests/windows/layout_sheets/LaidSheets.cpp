@@ -143,3 +143,15 @@ CRect PlannerSheet::PlaceOf(const CWnd& page) const
 {
     return PlaceIn(m_hWnd, page.m_hWnd);
 }
+
+SheetOfThree::SheetOfThree()
+{
+    m_sheet.AddPage(&m_route);
+    m_sheet.AddPage(&m_fuel);
+    m_sheet.AddPage(&m_plain);
+}
+
+SheetOfThree::~SheetOfThree()
+{
+    m_sheet.DestroyWindow();
+}

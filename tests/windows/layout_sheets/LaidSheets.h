@@ -73,3 +73,45 @@ public:
 };
 
 CRect PlaceIn(HWND parent, HWND control);
+
+/// The framework's sheet, which lays nothing out.
+class FrameworkSheet : public CPropertySheet
+{
+public:
+    FrameworkSheet() : CPropertySheet("Planning")
+    {
+    }
+};
+
+/// A sheet of one page, open while it lives.
+template <class Sheet, class Page = PlannerPage>
+struct OpenSheet
+{
+    OpenSheet()
+    {
+        sheet.AddPage(&page);
+        EXPECT_TRUE(sheet.Create());
+    }
+    ~OpenSheet()
+    {
+        sheet.DestroyWindow();
+    }
+    OpenSheet(const OpenSheet&) = delete;
+    OpenSheet& operator=(const OpenSheet&) = delete;
+
+    Page page;
+    Sheet sheet;
+};
+
+/// A sheet of three pages, which its tests open.
+class SheetOfThree : public testing::Test
+{
+protected:
+    SheetOfThree();
+    ~SheetOfThree() override;
+
+    PlannerPage m_route{"Route"};
+    PlannerPage m_fuel{"Fuel"};
+    PlainPage m_plain;
+    PlannerSheet m_sheet;
+};

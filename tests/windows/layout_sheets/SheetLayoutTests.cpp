@@ -5,19 +5,9 @@
 namespace
 {
 
-class LayoutSheet : public testing::Test
+class LayoutSheet : public SheetOfThree
 {
 protected:
-    LayoutSheet()
-    {
-        m_sheet.AddPage(&m_route);
-        m_sheet.AddPage(&m_fuel);
-        m_sheet.AddPage(&m_plain);
-    }
-    ~LayoutSheet() override
-    {
-        m_sheet.DestroyWindow();
-    }
     /// The shown buttons' left edges, in the order of the ids, and that they stand in one row 5 pixels apart.
     void ExpectRow(const std::vector<int>& ids)
     {
@@ -32,11 +22,6 @@ protected:
         EXPECT_LE(before - behind, 1) << "centred";
         EXPECT_LE(behind - before, 1) << "centred";
     }
-
-    PlannerPage m_route{"Route"};
-    PlannerPage m_fuel{"Fuel"};
-    PlainPage m_plain;
-    PlannerSheet m_sheet;
 };
 
 TEST_F(LayoutSheet, HasASizingFrame)
@@ -173,13 +158,8 @@ TEST_F(LayoutSheet, CannotBecomeSoSmallThatAPageIsCut)
     EXPECT_EQ(least, m_sheet.Outer());
     EXPECT_EQ(-1, most.cx);
     EXPECT_EQ(-1, most.cy);
-    CPropertySheet plain("Planning");
-    PlainPage page;
-    plain.AddPage(&page);
-    ASSERT_TRUE(plain.Create());
     CRect asTheSystemMadeIt;
-    page.GetWindowRect(&asTheSystemMadeIt);
-    plain.DestroyWindow();
+    OpenSheet<FrameworkSheet, PlainPage>().page.GetWindowRect(&asTheSystemMadeIt);
     CRect smallest;
     m_route.GetWindowRect(&smallest);
     EXPECT_GE(smallest.Width(), asTheSystemMadeIt.Width());
@@ -252,11 +232,7 @@ TEST_F(LayoutSheet, ManyOpeningsLeaveNoHandleBehind)
 {
     const auto open = []
     {
-        PlannerPage page;
-        PlannerSheet sheet;
-        sheet.AddPage(&page);
-        sheet.Create();
-        sheet.SizeBy(10, 10);
+        OpenSheet<PlannerSheet>().sheet.SizeBy(10, 10);
     };
     open();
     const unsigned drawing = vorn::test::CountGdiObjects();
@@ -296,29 +272,23 @@ TEST_F(LayoutSheet, DerivedOnesFillTheRowOfButtonsAndTheMainArea)
 
 TEST_F(LayoutSheet, PagesLayThemselvesOutInOtherSheetsToo)
 {
-    CPropertySheet plain("Planning");
-    PlannerPage page;
-    plain.AddPage(&page);
-    ASSERT_TRUE(plain.Create());
+    OpenSheet<FrameworkSheet> opened;
+    PlannerPage& page = opened.page;
     CRect inside = page.Client();
     inside.DeflateRect(5, 5);
     EXPECT_EQ(inside, page.Edit());
     page.MoveWindow(10, 30, 150, 90);
     EXPECT_EQ(CRect(5, 5, 145, 85), page.Edit());
-    plain.DestroyWindow();
 }
 
 TEST_F(LayoutSheet, PagesAreNeverEnlarged)
 {
-    CPropertySheet plain("Planning");
-    PlannerPage page;
-    plain.AddPage(&page);
-    ASSERT_TRUE(plain.Create());
+    OpenSheet<FrameworkSheet> opened;
+    PlannerPage& page = opened.page;
     page.MoveWindow(10, 30, 30, 12);
     CRect rect;
     page.GetWindowRect(&rect);
     EXPECT_EQ(CSize(30, 12), rect.Size());
-    plain.DestroyWindow();
 }
 
 } // namespace

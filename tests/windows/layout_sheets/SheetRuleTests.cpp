@@ -122,27 +122,17 @@ private:
 
 TEST_F(LayoutSheetRules, InitialisationsAnswerTrue)
 {
-    AnsweringPage page;
-    AnsweringSheet sheet;
-    sheet.AddPage(&page);
-    ASSERT_TRUE(sheet.Create());
-    EXPECT_EQ(TRUE, page.m_answer);
-    EXPECT_EQ(TRUE, sheet.m_answer);
-    sheet.DestroyWindow();
+    const OpenSheet<AnsweringSheet, AnsweringPage> opened;
+    EXPECT_EQ(TRUE, opened.page.m_answer);
+    EXPECT_EQ(TRUE, opened.sheet.m_answer);
 }
 
 TEST_F(LayoutSheetRules, ASheetOpensAsTheSystemMakesItOrAsItsPanesNeed)
 {
-    PlainPage page;
-    SystemSheet plain;
-    plain.AddPage(&page);
-    ASSERT_TRUE(plain.Create());
     CRect made;
-    plain.GetClientRect(&made);
-    plain.DestroyWindow();
-    PlannerSheet sheet;
-    sheet.AddPage(&page);
-    ASSERT_TRUE(sheet.Create());
+    OpenSheet<SystemSheet, PlainPage>().sheet.GetClientRect(&made);
+    OpenSheet<PlannerSheet, PlainPage> opened;
+    PlannerSheet& sheet = opened.sheet;
     CSize least;
     CSize most;
     ASSERT_TRUE(sheet.GetTrackSizes(least, most));
@@ -150,15 +140,12 @@ TEST_F(LayoutSheetRules, ASheetOpensAsTheSystemMakesItOrAsItsPanesNeed)
     EXPECT_EQ(CSize(static_cast<int>(std::max<LONG>(made.Width(), needed.cx)),
                     static_cast<int>(std::max<LONG>(made.Height(), needed.cy))),
               sheet.Client());
-    sheet.DestroyWindow();
 }
 
 TEST_F(LayoutSheetRules, ANewSizePaintsSheetAndTabsAtOnce)
 {
-    PlannerPage page;
-    PlannerSheet sheet;
-    sheet.AddPage(&page);
-    ASSERT_TRUE(sheet.Create());
+    OpenSheet<PlannerSheet> opened;
+    PlannerSheet& sheet = opened.sheet;
     sheet.ShowWindow(SW_SHOWNA);
     sheet.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     const PaintCount ofSheet(sheet.m_hWnd);
@@ -170,59 +157,46 @@ TEST_F(LayoutSheetRules, ANewSizePaintsSheetAndTabsAtOnce)
     const int before = ofSheet.Paints();
     sheet.Resize(0, 0);
     EXPECT_EQ(before, ofSheet.Paints()) << "minimised";
-    sheet.DestroyWindow();
 }
 
 TEST_F(LayoutSheetRules, ASheetIsLaidOutWhenItIsShown)
 {
-    PlannerPage page;
-    PlannerSheet sheet;
-    sheet.AddPage(&page);
-    ASSERT_TRUE(sheet.Create());
+    OpenSheet<PlannerSheet> opened;
+    PlannerSheet& sheet = opened.sheet;
     const CRect place = sheet.Place(IDCANCEL);
     ::MoveWindow(sheet.Part(IDCANCEL), 1, 2, place.Width(), place.Height(), FALSE);
     sheet.SendMessage(WM_SHOWWINDOW, FALSE, 0);
     EXPECT_EQ(CPoint(1, 2), sheet.Place(IDCANCEL).TopLeft()) << "hidden";
     sheet.SendMessage(WM_SHOWWINDOW, TRUE, 0);
     EXPECT_EQ(place, sheet.Place(IDCANCEL));
-    sheet.DestroyWindow();
 }
 
 TEST_F(LayoutSheetRules, AButtonKeepsTheSizeThatTheSystemGaveIt)
 {
-    PlainPage page;
-    SystemSheet plain;
-    plain.AddPage(&page);
-    ASSERT_TRUE(plain.Create());
-    const CSize made = PlaceIn(plain.m_hWnd, ::GetDlgItem(plain.m_hWnd, IDCANCEL)).Size();
-    plain.DestroyWindow();
-    PlannerSheet sheet;
-    sheet.AddPage(&page);
-    ASSERT_TRUE(sheet.Create());
-    sheet.SizeBy(120, 90);
-    EXPECT_EQ(made, sheet.Place(IDCANCEL).Size());
-    sheet.DestroyWindow();
+    CSize made;
+    {
+        const OpenSheet<SystemSheet, PlainPage> plain;
+        made = PlaceIn(plain.sheet.m_hWnd, ::GetDlgItem(plain.sheet.m_hWnd, IDCANCEL)).Size();
+    }
+    OpenSheet<PlannerSheet, PlainPage> opened;
+    opened.sheet.SizeBy(120, 90);
+    EXPECT_EQ(made, opened.sheet.Place(IDCANCEL).Size());
 }
 
 TEST_F(LayoutSheetRules, APageIsLaidOutAnewWhenItBecomesTheActiveOne)
 {
-    CPropertySheet plain("Planning");
-    PlannerPage page;
-    plain.AddPage(&page);
-    ASSERT_TRUE(plain.Create());
+    OpenSheet<FrameworkSheet> opened;
+    PlannerPage& page = opened.page;
     const CRect place = page.Edit();
     page.GetDlgItem(kPageEdit)->MoveWindow(1, 2, 30, 40);
     EXPECT_EQ(TRUE, page.OnSetActive());
     EXPECT_EQ(place, page.Edit());
-    plain.DestroyWindow();
 }
 
 TEST_F(LayoutSheetRules, APageTellsWhatItsPanesNeed)
 {
-    CPropertySheet plain("Planning");
-    PlannerPage page;
-    plain.AddPage(&page);
-    ASSERT_TRUE(plain.Create());
+    OpenSheet<FrameworkSheet> opened;
+    PlannerPage& page = opened.page;
     page.MoveWindow(0, 0, 200, 100);
     MINMAXINFO info = AskedOf(page);
     EXPECT_EQ(CPoint(50 + 10, 20 + 10), CPoint(info.ptMinTrackSize));
@@ -231,15 +205,12 @@ TEST_F(LayoutSheetRules, APageTellsWhatItsPanesNeed)
     EXPECT_EQ(CPoint(60, 30), CPoint(AskedOf(page).ptMinTrackSize)) << "empty on one axis alone";
     page.MoveWindow(0, 0, 0, 0);
     EXPECT_EQ(CPoint(11, 12), CPoint(AskedOf(page).ptMinTrackSize)) << "empty on both";
-    plain.DestroyWindow();
 }
 
 TEST_F(LayoutSheetRules, APageKeepsItsControlBarsAtItsEdges)
 {
-    CPropertySheet plain("Planning");
-    PlannerPage page;
-    plain.AddPage(&page);
-    ASSERT_TRUE(plain.Create());
+    OpenSheet<FrameworkSheet> opened;
+    PlannerPage& page = opened.page;
     CStatusBar bar;
     ASSERT_TRUE(bar.Create(&page));
     page.MoveWindow(0, 0, 240, 130);
@@ -247,7 +218,6 @@ TEST_F(LayoutSheetRules, APageKeepsItsControlBarsAtItsEdges)
     EXPECT_EQ(CPoint(240, 130), place.BottomRight());
     EXPECT_EQ(0, place.left);
     EXPECT_EQ(CRect(5, 5, 235, 125), page.Edit()) << "bars leave what is laid out alone";
-    plain.DestroyWindow();
 }
 
 TEST_F(LayoutSheetRules, PagesEndBeforeTheirSheet)

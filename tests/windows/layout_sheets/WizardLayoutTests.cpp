@@ -10,19 +10,12 @@ constexpr int kNext = ID_WIZNEXT;
 constexpr int kFinish = ID_WIZFINISH;
 constexpr int kLine = 0x3026;
 
-class LayoutWizard : public testing::Test
+class LayoutWizard : public SheetOfThree
 {
 protected:
     LayoutWizard()
     {
-        m_sheet.AddPage(&m_route);
-        m_sheet.AddPage(&m_fuel);
-        m_sheet.AddPage(&m_plain);
         m_sheet.SetWizardMode();
-    }
-    ~LayoutWizard() override
-    {
-        m_sheet.DestroyWindow();
     }
     void ExpectGap(int left, int right, int gap)
     {
@@ -36,11 +29,6 @@ protected:
         area.top += 5;
         return area;
     }
-
-    PlannerPage m_route{"Route"};
-    PlannerPage m_fuel{"Fuel"};
-    PlainPage m_plain;
-    PlannerSheet m_sheet;
 };
 
 TEST_F(LayoutWizard, BackTouchesNextAndCancelStandsTwelvePixelsAway)
