@@ -29,13 +29,8 @@ int InForce()
 
 } // namespace
 
-AltitudesCategory::AltitudesCategory() : Category("Units|Altitudes", IDC_OPT_ALTITUDES_FIRST)
+AltitudesCategory::AltitudesCategory() : Category("Units|Altitudes", IDC_OPT_ALTITUDES_FIRST, kTips)
 {
-}
-
-std::span<const Tip> AltitudesCategory::Tips() const
-{
-    return kTips;
 }
 
 void AltitudesCategory::Fill()

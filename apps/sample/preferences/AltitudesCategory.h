@@ -11,7 +11,6 @@ class AltitudesCategory : public Category
 public:
     AltitudesCategory();
 
-    std::span<const Tip> Tips() const override;
     void Fill() override;
     void Arrange(Form& form, Form::Pane& area) override;
     std::optional<Fault> Check() const override;

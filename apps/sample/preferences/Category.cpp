@@ -10,13 +10,19 @@ constexpr UINT kIds = 20;
 
 } // namespace
 
-Category::Category(const char* path, UINT firstId) : m_path(path), m_firstId(firstId)
+Category::Category(const char* path, UINT firstId, std::span<const Tip> tips)
+    : m_path(path), m_firstId(firstId), m_tips(tips)
 {
 }
 
 const char* Category::Path() const
 {
     return m_path;
+}
+
+std::span<const Tip> Category::Tips() const
+{
+    return m_tips;
 }
 
 bool Category::Owns(UINT id) const

@@ -43,16 +43,17 @@ class Category
 {
 public:
     /// @param path in the tree @param firstId of twenty ids that its controls have
-    Category(const char* path, UINT firstId);
+    /// @param tips of its controls, to live as long as the program
+    Category(const char* path, UINT firstId, std::span<const Tip> tips);
     virtual ~Category() = default;
     Category(const Category&) = delete;
     Category& operator=(const Category&) = delete;
 
     const char* Path() const;
+    std::span<const Tip> Tips() const;
     bool Owns(UINT id) const;
     void Attach(CWnd& dialog);
 
-    virtual std::span<const Tip> Tips() const = 0;
     /// Puts what is in force into the controls.
     virtual void Fill() = 0;
     /// Declares the panes within the area of all categories. No spacers: they take room while the controls are hidden.
@@ -82,6 +83,7 @@ protected:
 private:
     const char* m_path;
     UINT m_firstId;
+    std::span<const Tip> m_tips;
     CWnd* m_dialog = nullptr;
 };
 

@@ -28,13 +28,8 @@ constexpr std::array kColorSets = {
 
 } // namespace
 
-ChartCategory::ChartCategory() : Category("Chart", IDC_OPT_CHART_FIRST)
+ChartCategory::ChartCategory() : Category("Chart", IDC_OPT_CHART_FIRST, kTips)
 {
-}
-
-std::span<const Tip> ChartCategory::Tips() const
-{
-    return kTips;
 }
 
 void ChartCategory::Fill()

@@ -12,7 +12,6 @@ class ChartCategory : public Category
 public:
     ChartCategory();
 
-    std::span<const Tip> Tips() const override;
     void Fill() override;
     void Arrange(Form& form, Form::Pane& area) override;
     bool Store() override;

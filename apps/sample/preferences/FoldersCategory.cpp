@@ -99,13 +99,8 @@ bool StoreFolder(DefinedPath path, const std::string& folder)
 
 } // namespace
 
-FoldersCategory::FoldersCategory() : Category("General|Folders", IDC_OPT_FOLDERS_FIRST)
+FoldersCategory::FoldersCategory() : Category("General|Folders", IDC_OPT_FOLDERS_FIRST, kTips)
 {
-}
-
-std::span<const Tip> FoldersCategory::Tips() const
-{
-    return kTips;
 }
 
 void FoldersCategory::Fill()

@@ -11,7 +11,6 @@ class FoldersCategory : public Category
 public:
     FoldersCategory();
 
-    std::span<const Tip> Tips() const override;
     void Fill() override;
     void Arrange(Form& form, Form::Pane& area) override;
     std::optional<Fault> Check() const override;

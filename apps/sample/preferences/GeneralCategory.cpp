@@ -37,13 +37,8 @@ bool StoreDisclaimer(bool hides)
 
 } // namespace
 
-GeneralCategory::GeneralCategory() : Category("General", IDC_OPT_GENERAL_FIRST)
+GeneralCategory::GeneralCategory() : Category("General", IDC_OPT_GENERAL_FIRST, kTips)
 {
-}
-
-std::span<const Tip> GeneralCategory::Tips() const
-{
-    return kTips;
 }
 
 void GeneralCategory::Fill()

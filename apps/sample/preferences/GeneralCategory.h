@@ -11,7 +11,6 @@ class GeneralCategory : public Category
 public:
     GeneralCategory();
 
-    std::span<const Tip> Tips() const override;
     void Fill() override;
     void Arrange(Form& form, Form::Pane& area) override;
     bool Store() override;

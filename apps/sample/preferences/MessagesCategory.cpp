@@ -39,13 +39,8 @@ int InForce()
 
 } // namespace
 
-MessagesCategory::MessagesCategory() : Category("General|Messages", IDC_OPT_MESSAGES_FIRST)
+MessagesCategory::MessagesCategory() : Category("General|Messages", IDC_OPT_MESSAGES_FIRST, kTips)
 {
-}
-
-std::span<const Tip> MessagesCategory::Tips() const
-{
-    return kTips;
 }
 
 void MessagesCategory::Fill()

@@ -29,13 +29,8 @@ std::string LineOf(const ProxyInfo& proxy)
 
 } // namespace
 
-NetworkCategory::NetworkCategory() : Category("Network", IDC_OPT_NETWORK_FIRST)
+NetworkCategory::NetworkCategory() : Category("Network", IDC_OPT_NETWORK_FIRST, kTips)
 {
-}
-
-std::span<const Tip> NetworkCategory::Tips() const
-{
-    return kTips;
 }
 
 void NetworkCategory::Fill()

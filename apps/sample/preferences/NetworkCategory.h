@@ -11,7 +11,6 @@ class NetworkCategory : public Category
 public:
     NetworkCategory();
 
-    std::span<const Tip> Tips() const override;
     void Fill() override;
     void Arrange(Form& form, Form::Pane& area) override;
     bool Store() override;

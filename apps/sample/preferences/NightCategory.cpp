@@ -31,13 +31,8 @@ UINT FieldOf(std::size_t component)
 
 } // namespace
 
-NightCategory::NightCategory() : Category("Chart|Night", IDC_OPT_NIGHT_FIRST)
+NightCategory::NightCategory() : Category("Chart|Night", IDC_OPT_NIGHT_FIRST, kTips)
 {
-}
-
-std::span<const Tip> NightCategory::Tips() const
-{
-    return kTips;
 }
 
 void NightCategory::Fill()

@@ -12,7 +12,6 @@ class NightCategory : public Category
 public:
     NightCategory();
 
-    std::span<const Tip> Tips() const override;
     void Fill() override;
     void Arrange(Form& form, Form::Pane& area) override;
     std::optional<Fault> Check() const override;

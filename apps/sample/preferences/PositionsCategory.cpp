@@ -49,13 +49,8 @@ int InForce(const Decimals& decimals)
 } // namespace
 
 PositionsCategory::PositionsCategory(const Context& context)
-    : Category("Units|Positions", IDC_OPT_POSITIONS_FIRST), m_context(context)
+    : Category("Units|Positions", IDC_OPT_POSITIONS_FIRST, kTips), m_context(context)
 {
-}
-
-std::span<const Tip> PositionsCategory::Tips() const
-{
-    return kTips;
 }
 
 void PositionsCategory::Fill()

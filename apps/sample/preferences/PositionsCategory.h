@@ -13,7 +13,6 @@ class PositionsCategory : public Category
 public:
     explicit PositionsCategory(const Context& context);
 
-    std::span<const Tip> Tips() const override;
     void Fill() override;
     void Arrange(Form& form, Form::Pane& area) override;
     std::optional<Fault> Check() const override;

@@ -18,13 +18,8 @@ constexpr std::array kTips = {
 } // namespace
 
 StatisticsCategory::StatisticsCategory(const Context& context)
-    : Category("General|Statistics", IDC_OPT_STATISTICS_FIRST), m_context(context)
+    : Category("General|Statistics", IDC_OPT_STATISTICS_FIRST, kTips), m_context(context)
 {
-}
-
-std::span<const Tip> StatisticsCategory::Tips() const
-{
-    return kTips;
 }
 
 void StatisticsCategory::Fill()

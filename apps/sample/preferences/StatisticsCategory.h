@@ -11,7 +11,6 @@ class StatisticsCategory : public Category
 public:
     explicit StatisticsCategory(const Context& context);
 
-    std::span<const Tip> Tips() const override;
     void Fill() override;
     void Arrange(Form& form, Form::Pane& area) override;
     bool Store() override;

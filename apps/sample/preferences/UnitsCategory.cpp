@@ -60,13 +60,8 @@ CString ExampleText(const ExampleValue& example, int unit)
 
 } // namespace
 
-UnitsCategory::UnitsCategory() : Category("Units", IDC_OPT_UNITS_FIRST)
+UnitsCategory::UnitsCategory() : Category("Units", IDC_OPT_UNITS_FIRST, kTips)
 {
-}
-
-std::span<const Tip> UnitsCategory::Tips() const
-{
-    return kTips;
 }
 
 void UnitsCategory::Fill()
