@@ -65,7 +65,7 @@ CString VornCommonApp::GetVornGlyph(CString token)
         return m_glyphs[token.MakeUpper()]; // unknown, and remembered
     }
     // Called for every label drawn: raised in place, the caller's text would have to be copied first.
-    char raised[kShortToken + 1];
+    char raised[kShortToken + 1] = "";
     const char* text = token;
     std::transform(text, text + token.GetLength() + 1, raised, vorn::ToUpperAscii);
     return m_glyphs[raised];

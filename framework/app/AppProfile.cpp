@@ -127,7 +127,7 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
         return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
     }
     const vorn::RegistryKey key(GetSectionKey(lpszSection));
-    return vorn::WriteValue(key.Get(), lpszEntry, REG_SZ, lpszValue, static_cast<DWORD>(std::strlen(lpszValue) + 1));
+    return vorn::WriteValue(key.Get(), lpszEntry, REG_SZ, lpszValue, static_cast<DWORD>(std::strlen(lpszValue)) + 1);
 }
 
 BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes)
