@@ -1,13 +1,10 @@
 #include "files/core/ImageResize.h"
+#include "files/core/BlockAverage.h"
 #include "files/core/ImageConvert.h"
 
 #include <algorithm>
 #include <cstring>
 #include <vector>
-
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
 
 namespace vorn
 {
@@ -227,126 +224,19 @@ void Repeat(const ImageView& source, const ImageCanvas& target)
     }
 }
 
-/// Eight sums of 16 bits, for which there is one instruction.
-using Sums = std::uint16_t __attribute__((vector_size(16)));
-constexpr std::size_t kLanes = 8;
-
-/// As many pixels as have sums of 16 bits.
-constexpr int kMostSummed = 256;
-
-/// Four rows a turn: what is added to stays longer in the processor's registers.
-void SumRows(const ImageView& source, int first, int count, std::vector<std::uint16_t>& sums)
-{
-    const std::size_t size = sums.size() - kLanes;
-    std::uint16_t* const to = sums.data();
-    std::fill_n(to, size, std::uint16_t{0});
-    int y = first;
-    for (; y + 3 < first + count; y += 4)
-    {
-        const unsigned char* a = source.Row(y);
-        const unsigned char* b = source.Row(y + 1);
-        const unsigned char* c = source.Row(y + 2);
-        const unsigned char* d = source.Row(y + 3);
-        for (std::size_t i = 0; i < size; ++i)
-            to[i] = static_cast<std::uint16_t>(to[i] + a[i] + b[i] + c[i] + d[i]);
-    }
-    for (; y < first + count; ++y)
-    {
-        const unsigned char* row = source.Row(y);
-        for (std::size_t i = 0; i < size; ++i)
-            to[i] = static_cast<std::uint16_t>(to[i] + row[i]);
-    }
-}
-
-/// Divides sums by a number of pixels from 2 on, rounded, exactly.
-class Average
-{
-public:
-    explicit Average(int pixels)
-        : m_pixels(Alike(static_cast<std::uint16_t>(pixels))), m_half(Alike(static_cast<std::uint16_t>(pixels / 2))),
-          m_factor(Alike(static_cast<std::uint16_t>(65536 / pixels)))
-    {
-    }
-
-    /// The first four, the first one in the lowest byte.
-    std::uint32_t Of(Sums sums) const
-    {
-        sums += m_half;
-#ifdef __SSE2__
-        const auto high = reinterpret_cast<Sums>(
-            _mm_mulhi_epu16(reinterpret_cast<__m128i>(sums), reinterpret_cast<__m128i>(m_factor)));
-        const Sums quotients = high - reinterpret_cast<Sums>(sums - high * m_pixels >= m_pixels); // one too low at most
-        const auto packed = reinterpret_cast<__m128i>(quotients);
-        return static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_packus_epi16(packed, packed)));
-#else
-        return static_cast<std::uint32_t>(sums[0] / m_pixels[0]) |
-               static_cast<std::uint32_t>(sums[1] / m_pixels[0]) << 8 |
-               static_cast<std::uint32_t>(sums[2] / m_pixels[0]) << 16 |
-               static_cast<std::uint32_t>(sums[3] / m_pixels[0]) << 24;
-#endif
-    }
-
-private:
-    static Sums Alike(std::uint16_t value)
-    {
-        return Sums{} + value;
-    }
-
-    Sums m_pixels;
-    Sums m_half;
-    Sums m_factor;
-};
-
-/// The first of the sums are those of one pixel's channels.
-template <std::size_t Channels>
-Sums SumOfPixels(const std::uint16_t* from, int pixels)
-{
-    Sums sums{};
-    for (int i = 0; i < pixels; ++i, from += Channels)
-    {
-        Sums pixel;
-        std::memcpy(&pixel, from, sizeof pixel);
-        sums += pixel;
-    }
-    return sums;
-}
-
-// Four bytes a store: the next pixel takes what is too much.
-template <std::size_t Channels>
-void SumColumns(const std::uint16_t* from, int pixels, const Average& average, int width, unsigned char* to)
-{
-    const std::size_t step = static_cast<std::size_t>(pixels) * Channels;
-    for (int x = 1; x < width; ++x, from += step, to += Channels)
-    {
-        const std::uint32_t color = average.Of(SumOfPixels<Channels>(from, pixels));
-        std::memcpy(to, &color, 4);
-    }
-    const std::uint32_t last = average.Of(SumOfPixels<Channels>(from, pixels));
-    std::memcpy(to, &last, Channels);
-}
-
 /// Whether each pixel is made of a whole number of the source's, and not too many, along each axis.
 bool IsWholeShrink(const ImageView& source, int width, int height)
 {
     return source.width % width == 0 && source.height % height == 0 &&
-           std::int64_t{source.width / width} * (source.height / height) <= kMostSummed;
+           std::int64_t{source.width / width} * (source.height / height) <= BlockAverage::kMostPixels;
 }
 
-void Sum(const ImageView& source, const ImageCanvas& target)
+void Average(const ImageView& source, const ImageCanvas& target)
 {
-    const int across = source.width / target.width;
     const int down = source.height / target.height;
-    const Average average(across * down);
-    const std::size_t size = static_cast<std::size_t>(source.width) * static_cast<std::size_t>(source.depth / 8);
-    std::vector<std::uint16_t> sums(size + kLanes);
+    BlockAverage blocks(source, source.width / target.width, down);
     for (int y = 0; y < target.height; ++y)
-    {
-        SumRows(source, y * down, down, sums);
-        if (source.depth == 32)
-            SumColumns<4>(sums.data(), across, average, target.width, target.Row(y));
-        else
-            SumColumns<3>(sums.data(), across, average, target.width, target.Row(y));
-    }
+        blocks.MakeRow(y * down, target.Row(y));
 }
 
 bool IsPlain(const ImageView& image)
@@ -372,7 +262,7 @@ void Put(const ImageCanvas& target, const ImageView& plain)
     if (target.width >= plain.width && target.height >= plain.height)
         Repeat(plain, target);
     else if (IsWholeShrink(plain, target.width, target.height))
-        Sum(plain, target);
+        Average(plain, target);
     else if (plain.depth == 32)
         Resample<4>(plain, target);
     else
