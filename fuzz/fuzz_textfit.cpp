@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
                                    bounds.maxFontHeight, bounds.spacing,   std::nullopt};
     vorn::test::GridMeasure measure;
     const auto fitted = vorn::FitText(text, space, measure);
-    if (!fitted || !Holds(*fitted, space) || measure.Asked().size() > 60)
+    if (!fitted || !Holds(*fitted, space) || measure.Asked().size() > 40)
     {
         std::abort();
     }

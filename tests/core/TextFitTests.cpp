@@ -13,6 +13,7 @@
 
 using vorn::FittedText;
 using vorn::FitText;
+using vorn::TextMeasure;
 using vorn::TextSpace;
 using vorn::test::GridMeasure;
 
@@ -39,17 +40,21 @@ int FontHeight(const std::string& text, const TextSpace& space)
     return Fit(text, space).fontHeight;
 }
 
-bool FitsAt(int height, const std::vector<std::string>& lines, const TextSpace& space)
+bool FitsIn(TextMeasure& measure, int height, const std::vector<std::string>& lines, const TextSpace& space)
 {
-    GridMeasure measure;
     measure.UseFont(height);
     const auto tooWide = [&](const std::string& line)
     {
         return measure.LineWidth(line) > space.maxWidth;
     };
-    const long long advance = vorn::LineAdvance(height, space.spacing);
-    return advance * static_cast<long long>(lines.size()) <= space.maxHeight &&
-           std::none_of(lines.begin(), lines.end(), tooWide);
+    const long long advance = vorn::LineAdvance(measure.LineHeight(), space.spacing);
+    return advance * static_cast<long long>(lines.size()) <= space.maxHeight && std::ranges::none_of(lines, tooWide);
+}
+
+bool FitsAt(int height, const std::vector<std::string>& lines, const TextSpace& space)
+{
+    GridMeasure measure;
+    return FitsIn(measure, height, lines, space);
 }
 
 /// Tried one by one; no line is less than half as high as its font.
@@ -57,6 +62,47 @@ int LargestFitting(const std::vector<std::string>& lines, const TextSpace& space
 {
     int height = std::min(space.maxFontHeight, 2 * space.maxHeight + 2);
     while (height >= space.minFontHeight && !FitsAt(height, lines, space))
+    {
+        --height;
+    }
+    return height >= space.minFontHeight ? height : 0;
+}
+
+/// A device whose fonts are made in some sizes only: the heights between have the next smaller size.
+class CoarseMeasure : public GridMeasure
+{
+public:
+    explicit CoarseMeasure(int grain) : m_grain(grain)
+    {
+    }
+    bool UseFont(int height) override
+    {
+        return GridMeasure::UseFont(height) && (m_size = std::max(height / m_grain, 1) * m_grain) > 0;
+    }
+    int LineHeight() override
+    {
+        return m_size;
+    }
+    int LineWidth(std::string_view line) override
+    {
+        int width = 0;
+        for (const char letter : line)
+        {
+            width += m_size * (letter == 'i' ? 3 : 7) / 11;
+        }
+        return width;
+    }
+
+private:
+    int m_grain;
+    int m_size = 1;
+};
+
+/// The largest of all heights, tried one by one; 0 when there is none.
+int LargestOfAll(TextMeasure& measure, const std::vector<std::string>& lines, const TextSpace& space)
+{
+    int height = space.maxFontHeight;
+    while (height >= space.minFontHeight && !FitsIn(measure, height, lines, space))
     {
         --height;
     }
@@ -253,6 +299,59 @@ TEST(TextFit, WhatIsFoundFitsAndIsTheLargestOrCloseToIt)
     RecordProperty("largest", largest);
     EXPECT_GT(found, 200);
     EXPECT_GT(largest, found * 9 / 10) << "nearly always the largest";
+}
+
+TEST(TextFit, OnDevicesOfAllKindsItIsTheLargestUnlessTheHeightIsFilled)
+{
+    std::mt19937 random(5405);
+    int filled = 0;
+    for (int turn = 0; turn < 1500; ++turn)
+    {
+        const std::string text = RandomText(random);
+        TextSpace space = Space(static_cast<int>(random() % 900), static_cast<int>(random() % 500));
+        space.spacing = static_cast<int>(random() % 160) - 99;
+        space.minFontHeight = 1 + static_cast<int>(random() % 12);
+        space.maxFontHeight = static_cast<int>(random() % 1200);
+        CoarseMeasure measure(1 + static_cast<int>(random() % 9));
+        const std::optional<FittedText> fitted = FitText(text, space, measure);
+        ASSERT_TRUE(fitted);
+        const int best = LargestOfAll(measure, vorn::TextLines(text), space);
+        const bool isFilled = best != 0 && fitted->height == space.maxHeight;
+        filled += isFilled ? 1 : 0;
+        const std::string shown = text + "\nin " + std::to_string(space.maxWidth) + " x " +
+                                  std::to_string(space.maxHeight) + ", best " + std::to_string(best);
+        ASSERT_TRUE(isFilled || fitted->fontHeight == (best != 0 ? best : space.minFontHeight)) << shown;
+        ASSERT_TRUE(best == 0 || FitsIn(measure, fitted->fontHeight, vorn::TextLines(text), space)) << shown;
+        ASSERT_TRUE(best == 0 || !fitted->cut) << shown;
+    }
+    EXPECT_LT(filled, 300) << "most are held to the largest";
+}
+
+TEST(TextFit, NeedsTwoOrThreeFontsInMostTexts)
+{
+    std::mt19937 random(5406);
+    const int turns = 3000;
+    std::size_t even = 0;
+    std::size_t coarse = 0;
+    std::size_t most = 0;
+    for (int turn = 0; turn < turns; ++turn)
+    {
+        const std::string text = RandomText(random);
+        const TextSpace space = Space(static_cast<int>(random() % 600), static_cast<int>(random() % 400));
+        GridMeasure grid;
+        CoarseMeasure steps(1 + turn % 9);
+        FitText(text, space, grid);
+        FitText(text, space, steps);
+        even += grid.Asked().size();
+        coarse += steps.Asked().size();
+        most = std::max({most, grid.Asked().size(), steps.Asked().size()});
+    }
+    RecordProperty("even_in_hundred", static_cast<int>(even * 100 / turns));
+    RecordProperty("coarse_in_hundred", static_cast<int>(coarse * 100 / turns));
+    RecordProperty("most", static_cast<int>(most));
+    EXPECT_LT(even, 3U * turns);
+    EXPECT_LT(coarse, 4U * turns);
+    EXPECT_LE(most, 12U);
 }
 
 TEST(TextFit, MeasuresFewFontsAndNoneTwice)

@@ -4,58 +4,48 @@
 #include "toolkit/textlayout/core/TextLines.h"
 
 #include <algorithm>
-#include <climits>
 
 namespace vorn
 {
 
 namespace
 {
-/// Widths do not grow quite evenly with the height: so much above the estimate the search comes from above.
-constexpr int kAboveEstimate = 2;
+/// The width of a letter to its font's height, in most texts and faces.
+constexpr double kUsualWidth = 0.45;
 
-int ShrunkStep(int step)
+/// So often do guesses turn the search round before it only halves the range.
+constexpr int kMostTurns = 4;
+
+std::size_t LongestOf(const std::vector<std::string>& lines)
 {
-    constexpr int kFineSteps = 16;
-    return step >= kFineSteps ? ClampToInt(step * 2.0 / 3 + 0.5) : std::max(step - 1, 0);
+    const auto longest = std::ranges::max_element(lines, {}, &std::string::size);
+    return static_cast<std::size_t>(longest - lines.begin());
+}
+
+/// The height at which what has a size at this one has that of the space; none at all when it has no size.
+std::int64_t InProportion(int height, int space, std::int64_t size)
+{
+    return size > 0 ? std::int64_t{height} * space / size : kLargestFontHeight;
 }
 } // namespace
 
 FontSearch::FontSearch(const std::vector<std::string>& lines, const TextSpace& space, TextMeasure& measure)
-    : m_lines(lines), m_space(space), m_measure(measure), m_tooLarge(std::max(space.maxFontHeight, 0) + 1)
+    : m_lines(lines), m_space(space), m_measure(measure), m_fits(space.minFontHeight - 1),
+      m_tooLarge(std::max(space.maxFontHeight, m_fits) + 1), m_widest(LongestOf(lines))
 {
 }
 
 int FontSearch::Run()
 {
-    const int lowest = m_space.minFontHeight;
-    if (m_space.maxFontHeight < lowest)
+    if (IsSettled())
     {
         return 0;
     }
-    int height = std::max(Start(), lowest);
-    int step = ClampToInt(static_cast<std::int64_t>(m_lines.size()));
-    while (!m_failed && !IsSettled())
+    for (int height = Start(); !m_failed && !IsSettled() && !IsFilled(); height = Next())
     {
-        if (Fits(height))
-        {
-            if (step == 0 || !HasRoom(height))
-            {
-                break;
-            }
-            height = AddClamped(height, step);
-        }
-        else
-        {
-            if (height <= lowest)
-            {
-                break;
-            }
-            height -= std::clamp(step, 1, height - lowest);
-        }
-        step = ShrunkStep(step);
+        Try(height);
     }
-    return m_failed ? 0 : m_fits;
+    return !m_failed && HasFit() ? m_fits : 0;
 }
 
 bool FontSearch::Failed() const
@@ -73,7 +63,7 @@ int FontSearch::Height() const
     return ClampToInt(m_fitHeight);
 }
 
-int FontSearch::Start()
+int FontSearch::Start() const
 {
     if (m_space.imposedFontHeight)
     {
@@ -81,71 +71,86 @@ int FontSearch::Start()
     }
     const double lineShare = static_cast<double>(m_lines.size()) * (100.0 + m_space.spacing);
     const double byHeight = m_space.maxHeight * 100.0 / lineShare;
-    const int height = EstimatedHeight(byHeight);
-    if (height < m_space.minFontHeight)
-    {
-        return height;
-    }
-    const int probe = std::min(height, m_space.maxFontHeight);
-    Fits(probe, Extent::Whole);
-    if (m_width <= m_space.maxWidth)
-    {
-        return height;
-    }
-    return EstimatedHeight(static_cast<double>(probe) * m_space.maxWidth / m_width + kAboveEstimate);
+    const double letters = std::max(static_cast<double>(m_lines[m_widest].size()), 1.0);
+    const double byWidth = m_space.maxWidth / (letters * kUsualWidth);
+    return std::clamp(ClampToInt(std::min(byHeight, byWidth) + 0.5), m_fits + 1, m_tooLarge - 1);
 }
 
-int FontSearch::EstimatedHeight(double height) const
+/// Where the guess is, but at least a step on.
+int FontSearch::Next()
 {
-    return std::clamp(ClampToInt(height + 0.5), 1, m_space.maxFontHeight + 1);
+    const int lowest = m_fits + 1;
+    const int highest = m_tooLarge - 1;
+    if (lowest >= highest || m_turns > kMostTurns)
+    {
+        return lowest + (highest - lowest) / 2;
+    }
+    const int direction = m_tried == m_fits ? 1 : -1;
+    const std::int64_t step = std::int64_t{1} << m_steps / 2;
+    const std::int64_t guessed = (Guess() - m_tried) * direction;
+    m_steps = guessed > step ? 0 : m_steps + 1;
+    return static_cast<int>(std::clamp<std::int64_t>(m_tried + direction * std::max(guessed, step), lowest, highest));
 }
 
-bool FontSearch::Fits(int height, Extent extent)
+std::int64_t FontSearch::Guess() const
 {
-    if (height >= m_tooLarge || height <= m_fits)
-    {
-        return height <= m_fits;
-    }
+    return std::min(InProportion(m_tried, m_space.maxHeight, m_height),
+                    InProportion(m_tried, m_space.maxWidth, m_width));
+}
+
+void FontSearch::Try(int height)
+{
     if (!m_measure.UseFont(height))
     {
         m_failed = true;
-        return false;
+        return;
     }
-    if (MeasureLines(extent))
+    const bool fits = MeasureLines(height);
+    if (m_tried != 0 && fits != (m_tried == m_fits))
     {
-        m_fits = height;
+        ++m_turns;
+        m_steps = 0;
+    }
+    m_tried = height;
+    (fits ? m_fits : m_tooLarge) = height;
+    if (fits)
+    {
         m_fitWidth = m_width;
         m_fitHeight = m_height;
-        return true;
     }
-    m_tooLarge = height;
-    return false;
 }
 
-bool FontSearch::MeasureLines(Extent extent)
+/// Whether they fit. The first time all are measured to tell which is the widest, later only until one is too wide.
+bool FontSearch::MeasureLines(int height)
 {
-    const bool whole = extent == Extent::Whole;
-    const std::int64_t advance = LineAdvance(m_measure.LineHeight(), m_space.spacing);
-    m_height = advance * static_cast<std::int64_t>(m_lines.size());
-    bool fits = m_height <= m_space.maxHeight;
-    m_width = fits || whole ? m_measure.LineWidth(m_lines[m_widest]) : 0;
-    fits = fits && m_width <= m_space.maxWidth;
-    for (std::size_t i = 0; i < m_lines.size() && (fits || whole); ++i)
+    m_height = static_cast<std::int64_t>(LineAdvance(m_measure.LineHeight(), m_space.spacing)) *
+               static_cast<std::int64_t>(m_lines.size());
+    m_width = 0;
+    if (m_height > m_space.maxHeight)
     {
-        const int width = i == m_widest ? m_width : m_measure.LineWidth(m_lines[i]);
-        if (width > m_width)
-        {
-            m_width = width;
-            m_widest = i;
-        }
-        fits = fits && width <= m_space.maxWidth;
+        return false;
     }
-    return fits;
+    m_width = m_measure.LineWidth(m_lines[m_widest]);
+    const bool isWhole = !m_isWidestKnown && height > m_space.minFontHeight;
+    const std::size_t first = m_widest;
+    for (std::size_t i = 0; i < m_lines.size() && (isWhole || m_width <= m_space.maxWidth); ++i)
+    {
+        const int width = i == first ? m_width : m_measure.LineWidth(m_lines[i]);
+        m_widest = width > m_width ? i : m_widest;
+        m_width = std::max(m_width, width);
+    }
+    m_isWidestKnown = m_isWidestKnown || isWhole;
+    return m_width <= m_space.maxWidth;
 }
 
-bool FontSearch::HasRoom(int height) const
+bool FontSearch::HasFit() const
 {
-    return height < m_fits || (m_fitWidth < m_space.maxWidth && m_fitHeight < m_space.maxHeight);
+    return m_fits >= m_space.minFontHeight;
+}
+
+bool FontSearch::IsFilled() const
+{
+    return HasFit() && m_fitHeight >= m_space.maxHeight;
 }
 
 bool FontSearch::IsSettled() const

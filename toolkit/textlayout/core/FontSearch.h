@@ -10,10 +10,11 @@
 namespace vorn
 {
 
-/// The search for a font height: up and down in steps that shrink, until the text fits.
+/// The search for the largest font height at which a text fits, in as few fonts as possible: to make one and to measure
+/// its letters for the first time is what the search costs.
 ///
-/// What is known of other heights is not measured again: above a height that was too large all are, and below one that
-/// fitted all fit.
+/// Each font that was measured tells about how high the fitting one is: widths and heights grow nearly evenly. It ends
+/// at a height that fits when the next one does not, or when the lines fill the height of the space.
 class FontSearch
 {
 public:
@@ -28,30 +29,29 @@ public:
     int Height() const;
 
 private:
-    /// How much of a text that is too large is measured.
-    enum class Extent
-    {
-        UntilTooLarge,
-        Whole
-    };
-
-    int Start();
-    int EstimatedHeight(double height) const;
-    bool Fits(int height, Extent extent = Extent::UntilTooLarge);
-    bool MeasureLines(Extent extent);
-    bool HasRoom(int height) const;
+    int Start() const;
+    int Next();
+    std::int64_t Guess() const;
+    void Try(int height);
+    bool MeasureLines(int height);
+    bool HasFit() const;
+    bool IsFilled() const;
     bool IsSettled() const;
 
     const std::vector<std::string>& m_lines;
     const TextSpace& m_space;
     TextMeasure& m_measure;
-    int m_fits = 0;     ///< the largest height known to fit
+    int m_fits;         ///< the largest height known to fit; below the smallest one as long as there is none
     int m_tooLarge;     ///< the smallest height known not to
     int m_fitWidth = 0; ///< size at m_fits
     std::int64_t m_fitHeight = 0;
-    int m_width = 0; ///< size last measured
+    int m_tried = 0; ///< the height last measured
+    int m_width = 0; ///< what was measured of the widest line; 0 where the lines are too high
     std::int64_t m_height = 0;
-    std::size_t m_widest = 0; ///< index of the line that was the widest
+    int m_steps = 0;      ///< how often it went on in the same direction where the guess was to stay
+    int m_turns = 0;      ///< how often the direction changed
+    std::size_t m_widest; ///< index of the longest line, then of the widest
+    bool m_isWidestKnown = false;
     bool m_failed = false;
 };
 
