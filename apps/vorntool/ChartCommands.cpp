@@ -2,6 +2,7 @@
 #include "apps/vorntool/Commands.h"
 #include "apps/vorntool/ImagePicture.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/ToolHost.h"
 #include "apps/vorntool/core/ChartWords.h"
 
@@ -182,7 +183,7 @@ ExitStatus RenderChart(const Command& self, const Invocation& call, Output& outp
     {
         WritePicture(image, call.ValueOf("out", ""), {*wish.kind, call.Has("force")});
     }
-    catch (const ImageFailure& failure)
+    catch (const ToolFailure& failure)
     {
         return Fail(self, output, failure.Status(), failure.what());
     }

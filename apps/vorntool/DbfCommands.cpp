@@ -1,5 +1,5 @@
+#include "apps/vorntool/CommandRun.h"
 #include "apps/vorntool/Commands.h"
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfProgress.h"
 #include "apps/vorntool/DbfRun.h"
 #include "apps/vorntool/DbfTable.h"
@@ -9,30 +9,6 @@ namespace vorn::tool
 
 namespace
 {
-
-template <void (*kWork)(const Invocation&, Output&)>
-ExitStatus Run(const Command& self, const Invocation& call, Output& output)
-{
-    try
-    {
-        kWork(call, output);
-        return ExitStatus::Done;
-    }
-    catch (const DbfFailure& failure)
-    {
-        output.text.clear();
-        ReportError(output, self, failure.what());
-        return failure.Status();
-    }
-    catch (CFileException* error)
-    {
-        const LONG code = error->m_lOsError;
-        error->Delete();
-        output.text.clear();
-        ReportError(output, self, "a file could not be read or written: error " + std::to_string(code));
-        return ExitStatus::Refused;
-    }
-}
 
 constexpr Option kForce = {"force", nullptr, "replace files that exist"};
 constexpr Option kRecords = {"records", "N", "at most N records"};
@@ -72,37 +48,37 @@ constexpr Option kWriteOptions[] = {kDbfKeyOption, kDbfKeyHexOption, kDbfOffsetO
 
 constexpr Command kCommands[] = {
     {"dbf", "info", "FILE", "Show a table's header, its fields and how many records are live",
-     "Offsets of fields are counted from a record's deletion mark.", 1, 1, kInfoOptions, Run<ShowDbfInfo>},
+     "Offsets of fields are counted from a record's deletion mark.", 1, 1, kInfoOptions, RunCommand<ShowDbfInfo>},
     {"dbf", "head", "FILE", "Print the first records, lined up",
      "Records count from 0; deleted ones are left out. Texts are cut to 40 characters.", 1, 1, kHeadOptions,
-     Run<ShowDbfHead>},
+     RunCommand<ShowDbfHead>},
     {"dbf", "dump", "FILE", "Print all records, one field a line", "Texts are whole, memo texts too.", 1, 1,
-     kDumpOptions, Run<DumpDbf>},
+     kDumpOptions, RunCommand<DumpDbf>},
     {"dbf", "query", "FILE FIELD VALUE", "Print the records with a value",
      "The whole value is compared, without blanks and tabs at its end. With --sorted the\n"
      "search takes the field's order for granted: numbers for fields of type N, bytes\n"
      "for all others.",
-     3, 3, kQueryOptions, Run<QueryDbf>},
+     3, 3, kQueryOptions, RunCommand<QueryDbf>},
     {"dbf", "export", "FILE", "Write a table as comma-separated values",
      "The first line has the names of the fields. The text is UTF-8, lines end with CR LF;\n"
      "memo fields give their texts.",
-     1, 1, kExportOptions, Run<ExportDbf>},
+     1, 1, kExportOptions, RunCommand<ExportDbf>},
     {"dbf", "import", "CSV TABLE", "Make a table from comma-separated values",
      "The first line has the names of the columns. Types and lengths are found from the\n"
      "values, or given for all columns in their order:\n"
      "  --fields IDENT:C:5,ELEV:N:5,NOTE:M\n"
      "C is text, N an unsigned whole number, M a memo (its texts go into a file beside\n"
      "the table), D a date of 8 digits, L a logical value, F a number kept as text.",
-     2, 2, kImportOptions, Run<ImportDbf>},
+     2, 2, kImportOptions, RunCommand<ImportDbf>},
     {"dbf", "set", "FILE RECORD FIELD VALUE", "Change a field of a record",
      "A memo's text is added to the memo file; the old text stays there unused.", 4, 4, kWriteOptions,
-     Run<SetDbfField>},
+     RunCommand<SetDbfField>},
     {"dbf", "delete", "FILE RECORD", "Mark a record as deleted", "'pack' takes marked records out of the file.", 2, 2,
-     kWriteOptions, Run<DeleteDbfRecord>},
+     kWriteOptions, RunCommand<DeleteDbfRecord>},
     {"dbf", "pack", "FILE", "Take deleted records out of the file",
-     "Records behind them get other numbers. The memo file stays as it is.", 1, 1, kWriteOptions, Run<PackDbf>},
+     "Records behind them get other numbers. The memo file stays as it is.", 1, 1, kWriteOptions, RunCommand<PackDbf>},
     {"dbf", "memo", "FILE RECORD [FIELD]", "Print a memo's text",
-     "FIELD can be left out when the table has one memo field.", 2, 3, kInfoOptions, Run<ShowDbfMemo>},
+     "FIELD can be left out when the table has one memo field.", 2, 3, kInfoOptions, RunCommand<ShowDbfMemo>},
 };
 
 } // namespace

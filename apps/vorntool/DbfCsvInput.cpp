@@ -1,8 +1,8 @@
 #include "apps/vorntool/DbfCsvInput.h"
 
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfOutput.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/DbfGrid.h"
 
 #include <algorithm>
@@ -18,12 +18,12 @@ std::ifstream Opened(const std::string& name)
     const DWORD attributes = GetFileAttributesW(WideFromUtf8(name).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
     {
-        throw DbfFailure("there is no file " + Quoted(name));
+        throw ToolFailure("there is no file " + Quoted(name));
     }
     std::ifstream file(PathFromUtf8(name), std::ios::binary | std::ios::ate);
     if (!file)
     {
-        throw DbfFailure(Quoted(name) + " could not be opened");
+        throw ToolFailure(Quoted(name) + " could not be opened");
     }
     return file;
 }
@@ -53,7 +53,7 @@ DbfCsvInput::DbfCsvInput(const std::string& name)
     m_file.seekg(0);
     if (!NextRow(m_headings))
     {
-        throw DbfFailure(Quoted(name) + " is empty: a first line with names is missing");
+        throw ToolFailure(Quoted(name) + " is empty: a first line with names is missing");
     }
 }
 
@@ -82,11 +82,11 @@ bool DbfCsvInput::NextRow(std::vector<std::string>& row)
     const bool found = m_reader.Next(row);
     if (!m_reader.Error().empty())
     {
-        throw DbfFailure(Quoted(m_name) + ": " + m_reader.Error());
+        throw ToolFailure(Quoted(m_name) + ": " + m_reader.Error());
     }
     if (m_file.bad())
     {
-        throw DbfFailure(Quoted(m_name) + " could not be read");
+        throw ToolFailure(Quoted(m_name) + " could not be read");
     }
     return found;
 }
@@ -103,7 +103,7 @@ void DbfCsvInput::ToLibraryText(std::string& value)
 
 void DbfCsvInput::Fail(const std::string& reason) const
 {
-    throw DbfFailure(Quoted(m_name) + ": line " + std::to_string(m_reader.Line()) + " " + reason);
+    throw ToolFailure(Quoted(m_name) + ": line " + std::to_string(m_reader.Line()) + " " + reason);
 }
 
 } // namespace vorn::tool

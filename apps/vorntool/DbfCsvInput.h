@@ -12,8 +12,8 @@
 namespace vorn::tool
 {
 
-/// Rows of a file of comma-separated values on their way into a table. What is wrong with the file is a DbfFailure with
-/// the number of the line.
+/// Rows of a file of comma-separated values on their way into a table. What is wrong with the file is a ToolFailure
+/// with the number of the line.
 class DbfCsvInput
 {
 public:

@@ -1,7 +1,7 @@
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfRun.h"
 #include "apps/vorntool/DbfTable.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/DbfColumns.h"
 #include "apps/vorntool/core/DbfGrid.h"
 #include "apps/vorntool/core/JsonWriter.h"
@@ -19,7 +19,7 @@ void RefuseCoded(const DbfTable& table)
 {
     if (table.IsCoded())
     {
-        throw DbfFailure("records are never written coded: in a coded table the changed ones could no longer be read");
+        throw ToolFailure("records are never written coded: in a coded table the changed ones could no longer be read");
     }
 }
 
@@ -28,7 +28,7 @@ void RefuseStrange(const DbfMarks& marks)
 {
     if (marks.strange > 0)
     {
-        throw DbfFailure("records without a valid deletion mark: the table is coded or damaged");
+        throw ToolFailure("records without a valid deletion mark: the table is coded or damaged");
     }
 }
 
@@ -38,17 +38,17 @@ CString TakeValue(const DbfTable& table, int field, const std::string& given)
     const std::optional<CString> value = LibraryFromUtf8(given);
     if (!value)
     {
-        throw DbfFailure(Quoted(Shown(given)) + " has characters that the table's code page has not");
+        throw ToolFailure(Quoted(Shown(given)) + " has characters that the table's code page has not");
     }
     const DbfField& properties = table.Field(field);
     if (UsableLength(properties, table.Layout().recordLength) != properties.length)
     {
-        throw DbfFailure("field " + table.FieldName(field) + " does not lie within the record");
+        throw ToolFailure("field " + table.FieldName(field) + " does not lie within the record");
     }
     const std::string reason = ReasonAgainst(properties.type, properties.length, value->GetString());
     if (!reason.empty())
     {
-        throw DbfFailure(Quoted(Shown(given)) + " " + reason);
+        throw ToolFailure(Quoted(Shown(given)) + " " + reason);
     }
     return *value;
 }
@@ -67,7 +67,7 @@ std::string AddMemo(DbfTable& table, const CString& text)
     const long next = library.WriteDBTHeader(nullptr) != 0 ? library.WriteDBTRecord(nullptr, text) : 0;
     if (next <= blocks || library.WriteDBTHeader(nullptr) == 0)
     {
-        throw DbfFailure(table.MemoName().empty() ? "the table has no memo file" : "the memo file cannot be written");
+        throw ToolFailure(table.MemoName().empty() ? "the table has no memo file" : "the memo file cannot be written");
     }
     return std::to_string(next - blocks);
 }
@@ -78,12 +78,12 @@ void StoreMemo(DbfTable& table, int field, const CString& text)
     const std::string block = AddMemo(table, text);
     if (block.size() > static_cast<std::size_t>(properties.length))
     {
-        throw DbfFailure("the memo's number " + block + " does not fit the field");
+        throw ToolFailure("the memo's number " + block + " does not fit the field");
     }
     table.Library().SetFieldValue(field, Placed('M', properties.length, block).c_str());
     if (table.Library().GetFieldValue(field) != text)
     {
-        throw DbfFailure("the memo was not written as it should be; the record was not changed");
+        throw ToolFailure("the memo was not written as it should be; the record was not changed");
     }
 }
 
@@ -105,7 +105,7 @@ void WriteCurrent(DbfTable& table, int record)
     table.Library().FP()->Seek(table.PlaceOf(static_cast<std::uint32_t>(record)), CFile::begin);
     if (table.Library().WriteRecord(nullptr) == 0)
     {
-        throw DbfFailure("record " + std::to_string(record) + " could not be written");
+        throw ToolFailure("record " + std::to_string(record) + " could not be written");
     }
 }
 
@@ -138,7 +138,7 @@ void DeleteDbfRecord(const Invocation& call, Output& output)
     table.Library().DeleteRecord();
     if (table.Marks(static_cast<std::uint32_t>(record), 1).deleted == 0)
     {
-        throw DbfFailure("record " + call.values[1] + " could not be written");
+        throw ToolFailure("record " + call.values[1] + " could not be written");
     }
     if (call.Has("json"))
     {
@@ -154,14 +154,14 @@ void PackDbf(const Invocation& call, Output& output)
     RefuseCoded(table);
     if (table.Offset() > 0)
     {
-        throw DbfFailure("a table inside a file cannot be packed: the file would be replaced by the table alone");
+        throw ToolFailure("a table inside a file cannot be packed: the file would be replaced by the table alone");
     }
     const DbfMarks marks = table.Marks(0, table.Held());
     RefuseStrange(marks);
     if (marks.deleted > 0 && table.Library().Pack() != 0)
     {
-        throw DbfFailure(Quoted(table.Name()) + " was not packed: its folder cannot be written, or another program " +
-                         "has it open");
+        throw ToolFailure(Quoted(table.Name()) + " was not packed: its folder cannot be written, or another program " +
+                          "has it open");
     }
     JsonWriter json;
     json.BeginObject().Name("file").Text(table.Name()).Name("removed").Whole(marks.deleted);

@@ -1,8 +1,8 @@
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfOutput.h"
 #include "apps/vorntool/DbfProgress.h"
 #include "apps/vorntool/DbfRun.h"
 #include "apps/vorntool/DbfTable.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/CsvWriter.h"
 #include "apps/vorntool/core/JsonWriter.h"
 
@@ -84,13 +84,13 @@ void ExportDbf(const Invocation& call, Output& output)
 {
     if (call.Has("json") && !call.Has("output"))
     {
-        throw DbfWrongUse("--json goes with --output; 'dump --json' prints records as JSON");
+        throw ToolWrongUse("--json goes with --output; 'dump --json' prints records as JSON");
     }
     DbfTable table(call, DbfAccess::Scan);
     const std::vector<int> fields = table.FieldsFrom(call);
     if (fields.empty())
     {
-        throw DbfFailure(Quoted(table.Name()) + " has no fields");
+        throw ToolFailure(Quoted(table.Name()) + " has no fields");
     }
     const std::unique_ptr<DbfOutput> target = OutputOf(call);
     const DbfPrinting printing = call.Has("output") ? DbfPrinting::Afterwards : DbfPrinting::Meanwhile;

@@ -1,9 +1,9 @@
 #include "apps/vorntool/DbfCsvInput.h"
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfNewTable.h"
 #include "apps/vorntool/DbfProgress.h"
 #include "apps/vorntool/DbfRun.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/DbfGrid.h"
 #include "apps/vorntool/core/JsonWriter.h"
 
@@ -18,7 +18,7 @@ std::string InLibraryText(const std::string& name)
     const std::optional<CString> text = LibraryFromUtf8(name);
     if (!text)
     {
-        throw DbfFailure("the name " + Quoted(name) + " has characters that the table's code page has not");
+        throw ToolFailure("the name " + Quoted(name) + " has characters that the table's code page has not");
     }
     return text->GetString();
 }
@@ -29,12 +29,12 @@ std::vector<DbfColumn> GivenColumns(const std::string& list, std::size_t count)
     std::optional<std::vector<DbfColumn>> columns = ParseColumns(list, reason);
     if (!columns)
     {
-        throw DbfWrongUse("--fields: " + reason);
+        throw ToolWrongUse("--fields: " + reason);
     }
     if (columns->size() != count)
     {
-        throw DbfFailure("--fields names " + std::to_string(columns->size()) + " fields, the file has " +
-                         std::to_string(count) + " columns");
+        throw ToolFailure("--fields names " + std::to_string(columns->size()) + " fields, the file has " +
+                          std::to_string(count) + " columns");
     }
     for (DbfColumn& column : *columns)
     {
@@ -62,7 +62,7 @@ std::vector<DbfColumn> FoundColumns(DbfCsvInput& input, DbfProgress& progress)
     const std::string reason = ReasonAgainst(columns);
     if (!reason.empty())
     {
-        throw DbfFailure(reason + "; --fields names and sizes them");
+        throw ToolFailure(reason + "; --fields names and sizes them");
     }
     return columns;
 }

@@ -1,7 +1,7 @@
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfRun.h"
 #include "apps/vorntool/DbfTable.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/Columns.h"
 #include "apps/vorntool/core/DbfGrid.h"
 #include "apps/vorntool/core/JsonWriter.h"

@@ -1,6 +1,6 @@
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfRecords.h"
 #include "apps/vorntool/DbfRun.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/JsonWriter.h"
 #include "apps/vorntool/core/ToolNumbers.h"
 
@@ -19,7 +19,7 @@ std::size_t LimitFrom(const Invocation& call, const char* otherwise)
     const std::optional<std::int64_t> limit = ParseWhole(given);
     if (!limit || *limit < 1)
     {
-        throw DbfWrongUse(Quoted(given) + " is no number of records from 1 on");
+        throw ToolWrongUse(Quoted(given) + " is no number of records from 1 on");
     }
     return static_cast<std::size_t>(std::min<std::int64_t>(*limit, INT_MAX));
 }
@@ -66,13 +66,13 @@ void ShowDbfMemo(const Invocation& call, Output& output)
     const int field = call.values.size() > 2 ? table.FieldNamed(call.values[2]) : table.OnlyMemoField();
     if (table.Field(field).type != 'M')
     {
-        throw DbfFailure(Quoted(call.values[2]) + " is no memo field");
+        throw ToolFailure(Quoted(call.values[2]) + " is no memo field");
     }
     const int record = table.MakeCurrent(call.values[1]);
     const std::string& text = table.Value(field);
     if (text.empty() && table.LacksMemos(field))
     {
-        throw DbfFailure("the table has no memo file");
+        throw ToolFailure("the table has no memo file");
     }
     if (call.Has("json"))
     {

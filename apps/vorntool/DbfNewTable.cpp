@@ -1,9 +1,9 @@
 #include "apps/vorntool/DbfNewTable.h"
 
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfOutput.h"
 #include "apps/vorntool/DbfTable.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 
 #include <algorithm>
 #include <climits>
@@ -68,17 +68,18 @@ void DbfNewTable::CheckNames(bool mayReplace) const
 {
     if (m_hasMemos && (m_memoPath != m_path.Left(m_path.GetLength() - 4) + ".dbt" || m_path.Right(4)[0] != '.'))
     {
-        throw DbfFailure("a table with memos needs a name with an ending of three characters that is in its path once");
+        throw ToolFailure(
+            "a table with memos needs a name with an ending of three characters that is in its path once");
     }
     if (m_hasMemos && m_memoPath.CompareNoCase(m_path) == 0)
     {
-        throw DbfFailure(Quoted(m_name) + " would be the name of its memo file too");
+        throw ToolFailure(Quoted(m_name) + " would be the name of its memo file too");
     }
     for (const CString& path : {m_path, m_memoPath})
     {
         if (!mayReplace && Exists(path) && (m_hasMemos || path == m_path))
         {
-            throw DbfFailure(Quoted(Utf8FromLibrary(path.GetString())) + " exists; --force replaces it");
+            throw ToolFailure(Quoted(Utf8FromLibrary(path.GetString())) + " exists; --force replaces it");
         }
     }
 }
@@ -91,7 +92,7 @@ void DbfNewTable::Create()
     }
     if (m_table.Create(m_unfinished) == 0)
     {
-        throw DbfFailure(Quoted(m_name) + " cannot be written there");
+        throw ToolFailure(Quoted(m_name) + " cannot be written there");
     }
     const UINT mode = CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive;
     if (m_hasMemos && (m_memos.Open(m_unfinishedMemo, mode) == FALSE || m_table.WriteDBTHeader(&m_memos) == 0))
@@ -152,7 +153,7 @@ void DbfNewTable::TakePlaces()
     const CString aside = stepsAside ? UnusedFor(Utf8FromLibrary(m_memoPath.GetString())) : CString();
     if (stepsAside && !Move(m_memoPath, aside))
     {
-        throw DbfFailure(Quoted(Utf8FromLibrary(m_memoPath.GetString())) + " cannot be replaced");
+        throw ToolFailure(Quoted(Utf8FromLibrary(m_memoPath.GetString())) + " cannot be replaced");
     }
     if (!Move(m_unfinished, m_path))
     {
@@ -160,7 +161,7 @@ void DbfNewTable::TakePlaces()
         {
             Move(aside, m_memoPath);
         }
-        throw DbfFailure(Quoted(m_name) + (Exists(m_path) ? " cannot be replaced" : " cannot be written there"));
+        throw ToolFailure(Quoted(m_name) + (Exists(m_path) ? " cannot be replaced" : " cannot be written there"));
     }
     if (m_hasMemos && !Move(m_unfinishedMemo, m_memoPath))
     {
@@ -174,7 +175,7 @@ void DbfNewTable::TakePlaces()
 
 void DbfNewTable::FailToWrite() const
 {
-    throw DbfFailure(Quoted(m_name) + " could not be written");
+    throw ToolFailure(Quoted(m_name) + " could not be written");
 }
 
 } // namespace vorn::tool

@@ -12,7 +12,7 @@ namespace vorn::tool
 {
 
 /// A table that is made, with its memo file, under names of its own and then takes its place; what was there before
-/// stays until then. What goes wrong is a DbfFailure, and nothing is left behind.
+/// stays until then. What goes wrong is a ToolFailure, and nothing is left behind.
 class DbfNewTable
 {
 public:

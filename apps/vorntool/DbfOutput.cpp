@@ -1,8 +1,8 @@
 #include "apps/vorntool/DbfOutput.h"
 
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/StandardStreams.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 
 namespace vorn::tool
 {
@@ -47,16 +47,16 @@ DbfOutput::DbfOutput(const std::string& name, bool mayReplace)
 {
     if (name.empty())
     {
-        throw DbfWrongUse("'' cannot be the name of a file");
+        throw ToolWrongUse("'' cannot be the name of a file");
     }
     if (Exists(m_path) && !mayReplace)
     {
-        throw DbfFailure(Quoted(name) + " exists; --force replaces it");
+        throw ToolFailure(Quoted(name) + " exists; --force replaces it");
     }
     m_file.open(m_unfinished, std::ios::binary);
     if (!m_file)
     {
-        throw DbfFailure(Quoted(name) + " cannot be written there");
+        throw ToolFailure(Quoted(name) + " cannot be written there");
     }
 }
 
@@ -89,7 +89,7 @@ void DbfOutput::Finish(std::string& text)
     m_file.close();
     if (!m_file || !MoveOver(m_unfinished, m_path))
     {
-        throw DbfFailure(Quoted(m_name) + " could not be written");
+        throw ToolFailure(Quoted(m_name) + " could not be written");
     }
     m_unfinished.clear();
 }
@@ -98,11 +98,11 @@ void DbfOutput::Write(const std::string& text)
 {
     if (m_name.empty() && !WriteToStandardStreams({text, ""}))
     {
-        throw DbfFailure("the output could not be written");
+        throw ToolFailure("the output could not be written");
     }
     if (!m_name.empty() && !m_file.write(text.data(), static_cast<std::streamsize>(text.size())))
     {
-        throw DbfFailure(Quoted(m_name) + " could not be written");
+        throw ToolFailure(Quoted(m_name) + " could not be written");
     }
 }
 

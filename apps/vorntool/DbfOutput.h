@@ -14,7 +14,7 @@ public:
     /// Standard output.
     DbfOutput() = default;
 
-    /// A file (UTF-8 name); a DbfFailure when it exists and may not be replaced.
+    /// A file (UTF-8 name); a ToolFailure when it exists and may not be replaced.
     DbfOutput(const std::string& name, bool mayReplace);
 
     /// What was not finished goes.

@@ -1,7 +1,7 @@
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfRecords.h"
 #include "apps/vorntool/DbfRun.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/ToolNumbers.h"
 
 #include <climits>
@@ -51,7 +51,7 @@ int NumberFrom(const CString& value)
     const std::optional<std::int64_t> number = ParseWhole(value.GetString());
     if (!number || *number < 0 || *number > INT_MAX)
     {
-        throw DbfWrongUse("a sorted search for a number takes 0 to 2147483647");
+        throw ToolWrongUse("a sorted search for a number takes 0 to 2147483647");
     }
     return static_cast<int>(*number);
 }
@@ -109,7 +109,7 @@ void QueryDbf(const Invocation& call, Output&)
     const bool isSorted = call.Has("sorted");
     if (isSorted && call.Has("ignore-case"))
     {
-        throw DbfWrongUse("--sorted compares exactly and goes without --ignore-case");
+        throw ToolWrongUse("--sorted compares exactly and goes without --ignore-case");
     }
     DbfTable table(call, isSorted ? DbfAccess::Read : DbfAccess::Scan);
     const std::vector<int> fields = table.FieldsFrom(call);
@@ -123,8 +123,8 @@ void QueryDbf(const Invocation& call, Output&)
     }
     if (found.empty())
     {
-        throw DbfFailure("no record has " + Quoted(call.values[2]) + " in " + table.FieldName(field) +
-                         (isSorted ? ", if the table is sorted by it" : ""));
+        throw ToolFailure("no record has " + Quoted(call.values[2]) + " in " + table.FieldName(field) +
+                          (isSorted ? ", if the table is sorted by it" : ""));
     }
     table.Library().SetBufferSize(0);
     DbfProgress progress(call, "query", found.size(), DbfPrinting::Meanwhile);

@@ -3,7 +3,7 @@
 #include "apps/vorntool/core/Command.h"
 
 /// @file
-/// What the commands on tables do. Each ends by a DbfFailure when it cannot.
+/// What the commands on tables do. Each ends by a ToolFailure when it cannot.
 namespace vorn::tool
 {
 

@@ -1,7 +1,7 @@
 #include "apps/vorntool/DbfTable.h"
 
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/ToolNumbers.h"
 
 #include <algorithm>
@@ -31,7 +31,7 @@ std::string FromHex(const std::string& digits)
         const auto result = std::from_chars(digits.data() + i, end, byte, 16);
         if (result.ptr != digits.data() + i + 2 || result.ec != std::errc())
         {
-            throw DbfWrongUse(Quoted(digits) + " is no row of bytes of two hexadecimal digits");
+            throw ToolWrongUse(Quoted(digits) + " is no row of bytes of two hexadecimal digits");
         }
         bytes += static_cast<char>(byte);
     }
@@ -45,7 +45,7 @@ CString DbfPath(const std::string& name)
     const std::optional<CString> path = LibraryFromUtf8(name);
     if (!path || name.empty())
     {
-        throw DbfWrongUse(Quoted(name) + " cannot be the name of a table");
+        throw ToolWrongUse(Quoted(name) + " cannot be the name of a table");
     }
     return *path;
 }
@@ -79,17 +79,17 @@ void DbfTable::TakeKey(const Invocation& call)
     }
     if (call.Has("key") && call.Has("key-hex"))
     {
-        throw DbfWrongUse("--key and --key-hex exclude each other");
+        throw ToolWrongUse("--key and --key-hex exclude each other");
     }
     const std::optional<CString> text = LibraryFromUtf8(call.ValueOf("key", ""));
     if (!text)
     {
-        throw DbfWrongUse("the key has characters that no table can be coded with");
+        throw ToolWrongUse("the key has characters that no table can be coded with");
     }
     m_key = call.Has("key") ? text->GetString() : FromHex(call.ValueOf("key-hex", ""));
     if (m_key.empty())
     {
-        throw DbfWrongUse("the key is empty");
+        throw ToolWrongUse("the key is empty");
     }
 }
 
@@ -99,7 +99,7 @@ void DbfTable::TakeOffset(const Invocation& call)
     const std::optional<std::int64_t> offset = ParseWhole(given);
     if (!offset || *offset < 0 || *offset > INT_MAX)
     {
-        throw DbfWrongUse(Quoted(given) + " is no offset from 0 to 2147483647");
+        throw ToolWrongUse(Quoted(given) + " is no offset from 0 to 2147483647");
     }
     m_offset = static_cast<int>(*offset);
 }
@@ -111,21 +111,21 @@ void DbfTable::FailToOpen(UINT mode)
     CFileException error;
     if (file.Open(m_path, mode | CFile::shareDenyWrite, &error) != FALSE)
     {
-        throw DbfFailure(Quoted(m_name) + (m_offset > 0 ? " holds no table there" : " is no table") +
-                         ": its header is damaged or cut off");
+        throw ToolFailure(Quoted(m_name) + (m_offset > 0 ? " holds no table there" : " is no table") +
+                          ": its header is damaged or cut off");
     }
     switch (error.m_lOsError)
     {
     case ERROR_FILE_NOT_FOUND:
     case ERROR_PATH_NOT_FOUND:
     case ERROR_INVALID_NAME:
-        throw DbfFailure("there is no file " + Quoted(m_name));
+        throw ToolFailure("there is no file " + Quoted(m_name));
     case ERROR_SHARING_VIOLATION:
-        throw DbfFailure("another program has " + Quoted(m_name) + " open");
+        throw ToolFailure("another program has " + Quoted(m_name) + " open");
     case ERROR_ACCESS_DENIED:
-        throw DbfFailure("access to " + Quoted(m_name) + " is denied");
+        throw ToolFailure("access to " + Quoted(m_name) + " is denied");
     default:
-        throw DbfFailure(Quoted(m_name) + " could not be opened: error " + std::to_string(error.m_lOsError));
+        throw ToolFailure(Quoted(m_name) + " could not be opened: error " + std::to_string(error.m_lOsError));
     }
 }
 

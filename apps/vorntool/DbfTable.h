@@ -32,7 +32,7 @@ enum class DbfAccess
 };
 
 /// A table that a command works on: the first value of its call, with the options above. Everything that goes wrong is
-/// a DbfFailure.
+/// a ToolFailure.
 class DbfTable
 {
 public:
@@ -137,7 +137,7 @@ private:
     std::string m_text;
 };
 
-/// A file's name for the library; a DbfFailure when it has characters that the system's code page has not.
+/// A file's name for the library; a ToolFailure when it has characters that the system's code page has not.
 CString DbfPath(const std::string& name);
 
 /// Bytes of a file from a place on, fewer at its end.

@@ -1,6 +1,6 @@
-#include "apps/vorntool/DbfFailure.h"
 #include "apps/vorntool/DbfTable.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/core/ToolNumbers.h"
 
 #include <algorithm>
@@ -28,7 +28,7 @@ int DbfTable::FieldNamed(const std::string& name)
     const int field = known ? m_table.GetFieldNumber(*known) : -1;
     if (field < 0 || field >= FieldCount())
     {
-        throw DbfFailure("there is no field " + Quoted(name));
+        throw ToolFailure("there is no field " + Quoted(name));
     }
     return field;
 }
@@ -42,8 +42,8 @@ int DbfTable::OnlyMemoField() const
     const auto found = std::find_if(m_layout.fields.begin(), m_layout.fields.end(), isMemo);
     if (std::count_if(m_layout.fields.begin(), m_layout.fields.end(), isMemo) != 1)
     {
-        throw DbfFailure(found == m_layout.fields.end() ? "the table has no memo field"
-                                                        : "the table has several memo fields: name one");
+        throw ToolFailure(found == m_layout.fields.end() ? "the table has no memo field"
+                                                         : "the table has several memo fields: name one");
     }
     return static_cast<int>(found - m_layout.fields.begin());
 }
@@ -64,7 +64,7 @@ std::vector<int> DbfTable::FieldsFrom(const Invocation& call)
     }
     if (fields.empty())
     {
-        throw DbfWrongUse("--fields names no field");
+        throw ToolWrongUse("--fields names no field");
     }
     return fields;
 }
@@ -88,11 +88,11 @@ int DbfTable::RecordFrom(const std::string& number) const
     const std::optional<std::int64_t> record = ParseWhole(number);
     if (!record || *record < 0)
     {
-        throw DbfWrongUse(Quoted(number) + " is no number of a record");
+        throw ToolWrongUse(Quoted(number) + " is no number of a record");
     }
     if (*record >= m_held)
     {
-        throw DbfFailure("there is no record " + number + ": the table has " + std::to_string(m_held));
+        throw ToolFailure("there is no record " + number + ": the table has " + std::to_string(m_held));
     }
     return static_cast<int>(*record);
 }
@@ -103,11 +103,11 @@ int DbfTable::MakeCurrent(const std::string& number)
     const int read = m_table.ReadRecord(index);
     if (read == 0 && m_table.CurRecIndex() == index)
     {
-        throw DbfFailure("record " + number + " could not be read");
+        throw ToolFailure("record " + number + " could not be read");
     }
     if (m_table.CurRecIndex() != index)
     {
-        throw DbfFailure("record " + number + " is deleted");
+        throw ToolFailure("record " + number + " is deleted");
     }
     return index;
 }
@@ -121,7 +121,7 @@ bool DbfTable::ReadNext()
     const auto reached = static_cast<std::uint32_t>(m_table.CurRecIndex());
     if (reached < m_held)
     {
-        throw DbfFailure("record " + std::to_string(reached) + " could not be read");
+        throw ToolFailure("record " + std::to_string(reached) + " could not be read");
     }
     return false;
 }

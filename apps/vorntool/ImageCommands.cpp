@@ -1,3 +1,4 @@
+#include "apps/vorntool/CommandRun.h"
 #include "apps/vorntool/Commands.h"
 #include "apps/vorntool/ImagePicture.h"
 #include "apps/vorntool/core/Columns.h"
@@ -26,9 +27,8 @@ int TakeNumber(const Invocation& call, const Option& option, int otherwise, int 
     const auto given = ParseWhole(call.ValueOf(option.name, std::to_string(otherwise)));
     if (!given || *given < least || *given > most)
     {
-        throw ImageFailure(std::string("--") + option.name + " takes a whole number from " + std::to_string(least) +
-                               " to " + std::to_string(most),
-                           ExitStatus::WrongUse);
+        throw ToolWrongUse(std::string("--") + option.name + " takes a whole number from " + std::to_string(least) +
+                           " to " + std::to_string(most));
     }
     return static_cast<int>(*given);
 }
@@ -43,11 +43,11 @@ ImageWriting TakeWriting(const Invocation& call, const std::string& name)
     const auto kind = ImageKindOf(name);
     if (!kind)
     {
-        throw ImageFailure(Quoted(name) + " does not end in .bmp, .png, .jpg or .jpeg", ExitStatus::WrongUse);
+        throw ToolWrongUse(Quoted(name) + " does not end in .bmp, .png, .jpg or .jpeg");
     }
     if (*kind != ImageKind::Jpeg && (call.Has(kQuality.name) || call.Has(kProgressive.name)))
     {
-        throw ImageFailure("--quality and --progressive are for JPEG files", ExitStatus::WrongUse);
+        throw ToolWrongUse("--quality and --progressive are for JPEG files");
     }
     return {*kind, call.Has(kForce.name), TakeNumber(call, kQuality, 85, 1, 100), call.Has(kProgressive.name)};
 }
@@ -133,7 +133,7 @@ void Resize(const Invocation& call, Output& output)
     const ImageWriting how = TakeWriting(call, call.values[2]);
     if (!ParseImageSize(word, {1, 1}) && !ParseImageSize(word, {kMostImageSide, kMostImageSide}))
     {
-        throw ImageFailure(Quoted(word) + " is no size such as 400x300, 400x, x300 or 50%", ExitStatus::WrongUse);
+        throw ToolWrongUse(Quoted(word) + " is no size such as 400x300, 400x, x300 or 50%");
     }
     ImagePicture picture;
     Read(call, picture);
@@ -142,7 +142,7 @@ void Resize(const Invocation& call, Output& output)
     if (!size || !(call.Has(kQuick.name) ? made.LQResize(size->width, size->height, &picture.dib)
                                          : made.HQResize(size->width, size->height, &picture.dib)))
     {
-        throw ImageFailure(Quoted(call.values[0]) + " cannot be made " + Quoted(word));
+        throw ToolFailure(Quoted(call.values[0]) + " cannot be made " + Quoted(word));
     }
     Finish(call, made, call.values[2], how, output);
 }
@@ -152,7 +152,7 @@ double TakeDegrees(const std::string& word)
     const auto degrees = ParseNumber(word);
     if (!degrees)
     {
-        throw ImageFailure(Quoted(word) + " is no number of degrees", ExitStatus::WrongUse);
+        throw ToolWrongUse(Quoted(word) + " is no number of degrees");
     }
     return *degrees;
 }
@@ -162,7 +162,7 @@ COLORREF TakeBackground(const Invocation& call)
     const auto color = ParseImageColor(call.ValueOf(kBackground.name, "000000"));
     if (!color)
     {
-        throw ImageFailure("--background takes six hexadecimal digits, RRGGBB", ExitStatus::WrongUse);
+        throw ToolWrongUse("--background takes six hexadecimal digits, RRGGBB");
     }
     return *color;
 }
@@ -177,25 +177,9 @@ void Rotate(const Invocation& call, Output& output)
     const std::unique_ptr<DIB> made(picture.dib.Rotate(degrees, call.Has(kGrow.name), background));
     if (!made)
     {
-        throw ImageFailure(Quoted(call.values[0]) + " cannot be turned");
+        throw ToolFailure(Quoted(call.values[0]) + " cannot be turned");
     }
     Finish(call, *made, call.values[2], how, output);
-}
-
-template <void (*kWork)(const Invocation&, Output&)>
-ExitStatus Run(const Command& self, const Invocation& call, Output& output)
-{
-    try
-    {
-        kWork(call, output);
-        return ExitStatus::Done;
-    }
-    catch (const ImageFailure& failure)
-    {
-        output.text.clear();
-        ReportError(output, self, failure.what());
-        return failure.Status();
-    }
 }
 
 constexpr Option kInfoOptions[] = {kFrame};
@@ -205,20 +189,20 @@ constexpr Option kRotateOptions[] = {kGrow, kBackground, kFrame, kQuality, kProg
 
 constexpr Command kCommands[] = {
     {"image", "info", "FILE", "Show what a picture file holds",
-     "Reads BMP, PCX, GIF, PNG and JPEG files, whatever their names end in.", 1, 1, kInfoOptions, Run<ShowInfo>},
+     "Reads BMP, PCX, GIF, PNG and JPEG files, whatever their names end in.", 1, 1, kInfoOptions, RunCommand<ShowInfo>},
     {"image", "convert", "FILE OUT", "Write a picture as another kind of file",
      "OUT is a BMP (of 24 bits), PNG or JPEG file, by its ending: .bmp, .png, .jpg or\n"
      ".jpeg. PNG files keep tables of colours and an alpha channel; the transparent\n"
      "colour of GIF files becomes a plain one.",
-     2, 2, kConvertOptions, Run<Convert>},
+     2, 2, kConvertOptions, RunCommand<Convert>},
     {"image", "resize", "FILE SIZE OUT", "Write a picture in another size",
      "SIZE is 400x300, 400x or x300 (the other side follows), or 50%. Shrinking\n"
      "averages what a pixel covers, growing repeats pixels. OUT as for convert.",
-     3, 3, kResizeOptions, Run<Resize>},
+     3, 3, kResizeOptions, RunCommand<Resize>},
     {"image", "rotate", "FILE DEGREES OUT", "Write a picture turned clockwise",
      "Quarter turns are exact. The size stays unless --grow is given. OUT as for\n"
      "convert.",
-     3, 3, kRotateOptions, Run<Rotate>},
+     3, 3, kRotateOptions, RunCommand<Rotate>},
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "apps/vorntool/DbfOutput.h"
 #include "apps/vorntool/SystemErrors.h"
 #include "apps/vorntool/TextConversion.h"
+#include "apps/vorntool/ToolFailure.h"
 
 #include <array>
 #include <fstream>
@@ -18,7 +19,7 @@ CString NameForLibrary(const std::string& name)
     const std::optional<CString> path = LibraryFromUtf8(name);
     if (!path || name.empty())
     {
-        throw ImageFailure(Quoted(name) + " cannot be the name of a picture", ExitStatus::WrongUse);
+        throw ToolWrongUse(Quoted(name) + " cannot be the name of a picture");
     }
     return *path;
 }
@@ -28,7 +29,7 @@ std::string FormatOf(const std::string& name)
     std::ifstream file(PathFromUtf8(name), std::ios::binary);
     if (!file)
     {
-        throw ImageFailure(Quoted(name) + " cannot be opened: " + SystemError(GetLastError()));
+        throw ToolFailure(Quoted(name) + " cannot be opened: " + SystemError(GetLastError()));
     }
     std::array<unsigned char, 8> head{};
     file.read(reinterpret_cast<char*>(head.data()), head.size());
@@ -86,14 +87,14 @@ void ReadPicture(const std::string& name, int frame, ImagePicture& picture)
     picture.format = FormatOf(name);
     if (frame != 0 && picture.format != "GIF")
     {
-        throw ImageFailure(Quoted(name) + " is no GIF file and has no frame " + std::to_string(frame));
+        throw ToolFailure(Quoted(name) + " is no GIF file and has no frame " + std::to_string(frame));
     }
     const bool isRead =
         picture.format == "GIF" ? picture.dib.ReadGIF(path, picture.transparent, frame) : picture.dib.ReadUnknown(path);
     if (!isRead)
     {
-        throw ImageFailure(Quoted(name) + (frame != 0 ? " has no frame " + std::to_string(frame) + " that can be read"
-                                                      : " is no picture that can be read"));
+        throw ToolFailure(Quoted(name) + (frame != 0 ? " has no frame " + std::to_string(frame) + " that can be read"
+                                                     : " is no picture that can be read"));
     }
 }
 
@@ -103,17 +104,17 @@ void WritePicture(const DIB& dib, const std::string& name, const ImageWriting& h
     const std::filesystem::path path = PathFromUtf8(name);
     if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES && !how.mayReplace)
     {
-        throw ImageFailure(Quoted(name) + " exists; --force replaces it");
+        throw ToolFailure(Quoted(name) + " exists; --force replaces it");
     }
     const Unfinished unfinished(path);
     const CString written = NameForLibrary(Utf8FromWide(unfinished.Path().native()));
     if (!WriteAs(dib, written, how))
     {
-        throw ImageFailure(Quoted(name) + " could not be written");
+        throw ToolFailure(Quoted(name) + " could not be written");
     }
     if (!MoveOver(unfinished.Path(), path))
     {
-        throw ImageFailure(Quoted(name) + " cannot be replaced");
+        throw ToolFailure(Quoted(name) + " cannot be replaced");
     }
 }
 

@@ -5,29 +5,10 @@
 
 #include <VornCommon.h>
 
-#include <stdexcept>
 #include <string>
 
 namespace vorn::tool
 {
-
-/// Ends a command on pictures; the group reports the reason and gives the status.
-class ImageFailure : public std::runtime_error
-{
-public:
-    explicit ImageFailure(const std::string& reason, ExitStatus status = ExitStatus::Refused)
-        : std::runtime_error(reason), m_status(status)
-    {
-    }
-
-    ExitStatus Status() const
-    {
-        return m_status;
-    }
-
-private:
-    ExitStatus m_status;
-};
 
 /// A picture from a file, and what the file says about it.
 struct ImagePicture
@@ -38,7 +19,7 @@ struct ImagePicture
 };
 
 /// Reads a file (UTF-8 name); `frame` counts the images of a GIF file, of others there is frame 0 alone. An
-/// ImageFailure when there is no picture to be read.
+/// ToolFailure when there is no picture to be read.
 void ReadPicture(const std::string& name, int frame, ImagePicture& picture);
 
 /// How a picture is written.
@@ -50,7 +31,7 @@ struct ImageWriting
     bool isProgressive = false;
 };
 
-/// Writes a file (UTF-8 name) that is there whole or not at all. An ImageFailure when it cannot be, or may not.
+/// Writes a file (UTF-8 name) that is there whole or not at all. An ToolFailure when it cannot be, or may not.
 void WritePicture(const DIB& dib, const std::string& name, const ImageWriting& how);
 
 } // namespace vorn::tool

@@ -7,11 +7,11 @@
 namespace vorn::tool
 {
 
-/// Ends a command on tables; the group reports the reason and gives the status.
-class DbfFailure : public std::runtime_error
+/// Ends a command; RunCommand() reports the reason and gives the status.
+class ToolFailure : public std::runtime_error
 {
 public:
-    explicit DbfFailure(const std::string& reason, ExitStatus status = ExitStatus::Refused)
+    explicit ToolFailure(const std::string& reason, ExitStatus status = ExitStatus::Refused)
         : std::runtime_error(reason), m_status(status)
     {
     }
@@ -26,10 +26,10 @@ private:
 };
 
 /// The command line itself is wrong.
-class DbfWrongUse : public DbfFailure
+class ToolWrongUse : public ToolFailure
 {
 public:
-    explicit DbfWrongUse(const std::string& reason) : DbfFailure(reason, ExitStatus::WrongUse)
+    explicit ToolWrongUse(const std::string& reason) : ToolFailure(reason, ExitStatus::WrongUse)
     {
     }
 };
