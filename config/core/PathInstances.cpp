@@ -19,6 +19,19 @@ PathInstances::List::iterator FindNoCase(PathInstances::List& list, std::string_
                         });
 }
 
+/// Does something with the first instance that equals `folder`; false when there is none.
+template <class Act>
+bool WithFound(PathInstances::List* list, std::string_view folder, Act act)
+{
+    if (list == nullptr)
+        return false;
+    const auto found = FindNoCase(*list, folder);
+    if (found == list->end())
+        return false;
+    act(*list, found);
+    return true;
+}
+
 } // namespace
 
 PathInstances::PathInstances(const PathInstances& other)
@@ -69,26 +82,20 @@ bool PathInstances::Clear(int path)
 
 bool PathInstances::Remove(int path, std::string_view folder)
 {
-    List* const list = Find(path);
-    if (list == nullptr)
-        return false;
-    const auto found = FindNoCase(*list, folder);
-    if (found == list->end())
-        return false;
-    list->erase(found);
-    return true;
+    return WithFound(Find(path), folder,
+                     [](List& list, List::iterator found)
+                     {
+                         list.erase(found);
+                     });
 }
 
 bool PathInstances::Replace(int path, std::string_view folder, std::string_view by)
 {
-    List* const list = Find(path);
-    if (list == nullptr)
-        return false;
-    const auto found = FindNoCase(*list, folder);
-    if (found == list->end())
-        return false;
-    *found = by;
-    return true;
+    return WithFound(Find(path), folder,
+                     [by](List&, List::iterator found)
+                     {
+                         *found = by;
+                     });
 }
 
 PathInstances::Table* PathInstances::Lists()
