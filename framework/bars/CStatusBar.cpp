@@ -1,4 +1,5 @@
 #include "framework/bars/CStatusBar.h"
+#include "framework/bars/BarUpdate.h"
 #include "framework/frames/CFrameWnd.h"
 #include "framework/include/afxres.h"
 #include "framework/window/CCmdUI.h"
@@ -197,18 +198,8 @@ void CStatusBar::SetPaneStyle(int index, UINT style)
 void CStatusBar::OnUpdateCmdUI(CFrameWnd* target, BOOL)
 {
     StatusCmdUI state;
-    state.m_pOther = this;
-    state.m_nIndexMax = static_cast<UINT>(m_nCount);
-    for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex)
-    {
-        state.m_nID = GetItemID(static_cast<int>(state.m_nIndex));
-        if (state.m_nID == ID_SEPARATOR)
-            continue;
-        // The bar itself is asked first, then the frame's route; panes nobody answers for stay as they are.
-        state.m_bContinueRouting = FALSE;
-        if (!CWnd::OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr))
-            state.DoUpdate(target, FALSE);
-    }
+    // Panes nobody answers for stay as they are.
+    vorn::UpdateItems(*this, state, m_nCount, target, FALSE);
     UpdateDialogControls(target, FALSE);
 }
 

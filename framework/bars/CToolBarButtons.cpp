@@ -1,3 +1,4 @@
+#include "framework/bars/BarUpdate.h"
 #include "framework/bars/CToolBar.h"
 #include "framework/frames/CFrameWnd.h"
 #include "framework/gdi/CDC.h"
@@ -166,18 +167,7 @@ void CToolBar::GetButtonText(int index, CString& text) const
 void CToolBar::OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler)
 {
     ToolCmdUI state;
-    state.m_pOther = this;
-    state.m_nIndexMax = static_cast<UINT>(m_nCount);
-    for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex)
-    {
-        state.m_nID = GetItemID(static_cast<int>(state.m_nIndex));
-        if (state.m_nID == ID_SEPARATOR)
-            continue;
-        state.m_bContinueRouting = FALSE;
-        state.m_bEnableChanged = FALSE;
-        if (!CWnd::OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr))
-            state.DoUpdate(target, disableIfNoHandler);
-    }
+    vorn::UpdateItems(*this, state, m_nCount, target, disableIfNoHandler);
     UpdateDialogControls(target, disableIfNoHandler);
 }
 

@@ -2,6 +2,7 @@
 #include "framework/controls/CComboBox.h"
 
 #include "framework/controls/ControlMessage.h"
+#include "framework/controls/ItemOwner.h"
 
 using vorn::Ask;
 
@@ -57,14 +58,16 @@ int CComboBox::GetLBText(int index, LPTSTR buffer) const
 
 void CComboBox::GetLBText(int index, CString& text) const
 {
-    const int length = GetLBTextLen(index);
-    if (length < 0)
-    {
-        text.Empty();
-        return;
-    }
-    const int copied = GetLBText(index, text.GetBuffer(length));
-    text.ReleaseBuffer(copied < 0 ? 0 : copied);
+    vorn::TakeItemText(
+        index, text,
+        [this](int item)
+        {
+            return GetLBTextLen(item);
+        },
+        [this](int item, LPTSTR buffer)
+        {
+            return GetLBText(item, buffer);
+        });
 }
 
 int CComboBox::GetLBTextLen(int index) const
@@ -131,25 +134,6 @@ void CComboBox::DeleteItem(LPDELETEITEMSTRUCT)
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    switch (message)
-    {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-    {
-        const int order = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        if (result)
-            *result = order;
-        return TRUE;
-    }
-    default:
-        return CWnd::OnChildNotify(message, wParam, lParam, result);
-    }
+    return vorn::HandleItemMessage(*this, message, lParam, result) ||
+           CWnd::OnChildNotify(message, wParam, lParam, result);
 }

@@ -2,6 +2,7 @@
 #include "framework/controls/CListBox.h"
 
 #include "framework/controls/ControlMessage.h"
+#include "framework/controls/ItemOwner.h"
 
 using vorn::Ask;
 
@@ -87,14 +88,16 @@ int CListBox::GetText(int index, LPTSTR buffer) const
 
 void CListBox::GetText(int index, CString& text) const
 {
-    const int length = GetTextLen(index);
-    if (length < 0)
-    {
-        text.Empty();
-        return;
-    }
-    const int copied = GetText(index, text.GetBuffer(length));
-    text.ReleaseBuffer(copied < 0 ? 0 : copied);
+    vorn::TakeItemText(
+        index, text,
+        [this](int item)
+        {
+            return GetTextLen(item);
+        },
+        [this](int item, LPTSTR buffer)
+        {
+            return GetText(item, buffer);
+        });
 }
 
 int CListBox::GetTextLen(int index) const
@@ -171,21 +174,11 @@ int CListBox::CharToItem(UINT, UINT)
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
+    if (vorn::HandleItemMessage(*this, message, lParam, result))
+        return TRUE;
     LRESULT answer = 0;
     switch (message)
     {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        answer = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
     case WM_VKEYTOITEM:
         answer = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
         break;
