@@ -8,7 +8,7 @@ namespace vorn
 {
 
 /// Asks for the state of each item of a bar but its separators: first the bar itself, then the frame's route.
-/// @param state how the bar shows it @param Bar has GetItemID()
+/// @tparam Bar has GetItemID() @param state how the bar shows it
 template <class Bar>
 void UpdateItems(Bar& bar, CCmdUI& state, int count, CFrameWnd* target, BOOL disableIfNoHandler)
 {
