@@ -31,7 +31,7 @@ struct ImageWriting
     bool isProgressive = false;
 };
 
-/// Writes a file (UTF-8 name) that is there whole or not at all. An ToolFailure when it cannot be, or may not.
+/// Writes a file (UTF-8 name) that is there whole or not at all. A ToolFailure when it cannot be, or may not.
 void WritePicture(const DIB& dib, const std::string& name, const ImageWriting& how);
 
 } // namespace vorn::tool
