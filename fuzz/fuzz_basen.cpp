@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     {
         return 0;
     }
-    const int base = static_cast<signed char>(data[0]);
+    const int base = data[0] < 128 ? data[0] : data[0] - 256; // signed
     const std::span<const unsigned char> rest(data + 2, size - 2);
     const std::string_view digits(reinterpret_cast<const char*>(rest.data()), rest.size());
 
