@@ -1,4 +1,5 @@
 #include "framework/bars/CStatusBar.h"
+#include "framework/bars/StandingPanes.h"
 #include "framework/gdi/CClientDC.h"
 #include "framework/gdi/CFont.h"
 #include "framework/include/afxres.h"
@@ -105,7 +106,9 @@ void CStatusBar::OnPaint()
 void CStatusBar::OnSize(UINT type, int cx, int cy)
 {
     CControlBar::OnSize(type, cx, cy);
+    const vorn::StandingPanes standing(m_hWnd);
     UpdateEdges();
+    standing.PaintRest();
 }
 
 LRESULT CStatusBar::OnSetText(WPARAM, LPARAM lParam)
