@@ -8,7 +8,8 @@ namespace LayoutManagement
 {
 namespace
 {
-constexpr UINT kRedrawFrame = 0x105; ///< RDW_INVALIDATE, RDW_UPDATENOW and RDW_ERASE
+constexpr std::size_t kManyNodes = 256; ///< of a large dialog
+constexpr UINT kRedrawFrame = 0x105;    ///< RDW_INVALIDATE, RDW_UPDATENOW and RDW_ERASE
 
 bool MoveFrame(HWND control, const RECT& rect)
 {
@@ -31,16 +32,48 @@ bool HasVisibleStyle(HWND control)
     return (GetWindowLongA(control, GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
-LayoutDescription::LayoutDescription(HWND window)
-    : m_window(window), m_origin{},
+LayoutDescription::LayoutDescription(HWND window, LayoutPass pass)
+    : m_window(window), m_pass(pass), m_origin{},
       m_isMirrored(window != nullptr && (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0)
 {
     MapWindowPoints(window, nullptr, &m_origin, 1);
+    m_tree.Reserve(kManyNodes);
+    m_targets.reserve(kManyNodes);
+}
+
+std::vector<HWND> LayoutDescription::ControlsOf(const LayoutMgr::PaneBase* node)
+{
+    std::vector<HWND> controls;
+    if (node != nullptr)
+    {
+        controls.reserve(kManyNodes);
+        AppendControls(*node, controls);
+    }
+    return controls;
+}
+
+void LayoutDescription::AppendControls(const LayoutMgr::PaneBase& node, std::vector<HWND>& controls)
+{
+    if (const auto* const item = dynamic_cast<const LayoutMgr::PaneItem*>(&node))
+    {
+        controls.push_back(item->m_hWnd);
+    }
+    else if (const auto* const pane = dynamic_cast<const LayoutMgr::Pane*>(&node))
+    {
+        for (int i = 0; i < pane->count(); ++i)
+        {
+            AppendControls(*pane->child(i).GetPane(), controls);
+        }
+    }
 }
 
 RECT LayoutDescription::PlaceOf(HWND control) const
 {
     RECT rect{};
+    if (m_pass == LayoutPass::Measure)
+    {
+        return rect;
+    }
     GetWindowRect(control, &rect);
     if (m_isMirrored)
     {

@@ -16,15 +16,26 @@ bool IsStillThere(HWND control, HWND parent);
 /// Its own style says so, whether or not its parent is shown.
 bool HasVisibleStyle(HWND control);
 
+/// What a layout is described for. Limits do not depend on where the controls are: to measure them, no control is asked
+/// for its place.
+enum class LayoutPass
+{
+    Measure,
+    Place
+};
+
 /// One pass over a layout: the nodes write themselves into a tree of numbers with the present places of their controls,
 /// and what the tree moves goes back to the windows.
 class LayoutDescription : private vorn::PaneMoves
 {
 public:
     /// @param window the one whose client coordinates the layout is in
-    explicit LayoutDescription(HWND window);
+    LayoutDescription(HWND window, LayoutPass pass);
 
-    /// The present place of a control in the layout's coordinates.
+    /// The controls of the items from a node down; null for none.
+    static std::vector<HWND> ControlsOf(const LayoutMgr::PaneBase* node);
+
+    /// The present place of a control in the layout's coordinates; empty while the layout is only measured.
     RECT PlaceOf(HWND control) const;
 
     void AddItem(LayoutMgr::PaneItem& pane, const vorn::PaneItemSpec& item, HWND control);
@@ -47,12 +58,14 @@ private:
         HWND control;
     };
 
+    static void AppendControls(const LayoutMgr::PaneBase& node, std::vector<HWND>& controls);
     bool Move(std::size_t node, const RECT& rect) override;
     RECT DisplayArea(std::size_t node, const RECT& rect) override;
     bool PlaceForeign(std::size_t node, const RECT& slot) override;
     RECT InParentOf(HWND control, const RECT& rect) const;
 
     HWND m_window;
+    LayoutPass m_pass;
     POINT m_origin; ///< of the window's client area on the screen
     bool m_isMirrored;
     vorn::PaneTree m_tree;

@@ -1,15 +1,13 @@
 #include "files/core/NoThrow.h"
 #include "framework/gdi/CDC.h"
 #include "framework/window/CWnd.h"
+#include "toolkit/layout/LayoutCovers.h"
+#include "toolkit/layout/LayoutDescription.h"
 #include "toolkit/layout/LayoutMgr.h"
 #include "toolkit/layout/core/UncoveredArea.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <cstring>
-#include <utility>
-#include <vector>
 
 // The background of a laid-out window, painted around its controls.
 namespace LayoutManagement
@@ -17,10 +15,14 @@ namespace LayoutManagement
 namespace
 {
 
-/// A region of rectangles from the top down that ends with its scope; null when there is no memory for it.
+/// A region that ends with its scope; null when there is no memory for it.
 class Region
 {
 public:
+    Region() : m_region(CreateRectRgn(0, 0, 0, 0))
+    {
+    }
+    /// @param rects from the top down
     Region(const RECT& bounds, const std::vector<RECT>& rects)
     {
         RGNDATAHEADER head{};
@@ -46,206 +48,81 @@ public:
     {
         return m_region;
     }
+    void Offset(const POINT& by) const
+    {
+        OffsetRgn(m_region, by.x, by.y);
+    }
+    /// From the top down and from left to right, as few as possible.
+    std::vector<RECT> Rects() const
+    {
+        std::vector<char> data(GetRegionData(m_region, 0, nullptr));
+        if (data.size() < sizeof(RGNDATAHEADER) ||
+            GetRegionData(m_region, static_cast<DWORD>(data.size()), reinterpret_cast<RGNDATA*>(data.data())) == 0)
+        {
+            return {};
+        }
+        RGNDATAHEADER head{};
+        std::memcpy(&head, data.data(), sizeof head);
+        std::vector<RECT> rects(head.nCount);
+        std::memcpy(rects.data(), data.data() + sizeof head, rects.size() * sizeof(RECT));
+        return rects;
+    }
 
 private:
     HRGN m_region;
 };
 
-/// Where on the screen a context draws.
+bool IsSame(const RECT& one, const RECT& other)
+{
+    return EqualRect(&one, &other) != FALSE;
+}
+
+/// Where in a window's client area a context draws, and what of that the system keeps free of the window's controls.
+/// That is one question to the system; to go from child to child is one each.
 class DrawnPart
 {
 public:
-    explicit DrawnPart(HDC dc) : m_region(CreateRectRgn(0, 0, 0, 0)), m_isKnown(GetRandomRgn(dc, m_region, SYSRGN) == 1)
+    DrawnPart(HWND window, HDC dc)
+        : m_isKnown(WindowFromDC(dc) == window && GetRandomRgn(dc, m_drawn.Get(), SYSRGN) == 1),
+          m_isMirrored((GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0)
     {
+        const HDC around = m_isKnown ? GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPCHILDREN) : nullptr;
+        m_isKnown = around != nullptr && GetRandomRgn(around, m_free.Get(), SYSRGN) == 1;
+        ReleaseDC(window, around);
+        CombineRgn(m_free.Get(), m_free.Get(), m_drawn.Get(), RGN_AND);
+        POINT screen{};
+        ScreenToClient(window, &screen);
+        m_drawn.Offset(screen);
+        m_free.Offset(screen);
     }
-    ~DrawnPart()
+    const Region& Free() const
     {
-        DeleteObject(m_region);
+        return m_free;
     }
-    DrawnPart(const DrawnPart&) = delete;
-    DrawnPart& operator=(const DrawnPart&) = delete;
-
-    /// False also when nobody knows.
-    bool IsWithin(const DrawnPart& other)
+    /// Whether no control stands there, as is common when the size of the window changes.
+    bool IsFree() const
     {
-        return m_isKnown && other.m_isKnown && CombineRgn(m_region, m_region, other.m_region, RGN_DIFF) == NULLREGION;
+        return m_isKnown && EqualRgn(m_free.Get(), m_drawn.Get()) != FALSE;
+    }
+    /// Whether it is free but for these covers: then they are all that there is.
+    bool IsFreeAround(const std::vector<RECT>& covers) const
+    {
+        RECT drawn{};
+        if (!m_isKnown || m_isMirrored || GetRgnBox(m_drawn.Get(), &drawn) != SIMPLEREGION)
+        {
+            return false;
+        }
+        const std::vector<RECT> pieces = vorn::UncoveredArea(drawn, covers);
+        const std::vector<RECT> rects = m_free.Rects();
+        return std::equal(pieces.begin(), pieces.end(), rects.begin(), rects.end(), IsSame);
     }
 
 private:
-    HRGN m_region;
+    Region m_drawn;
+    Region m_free;
     bool m_isKnown;
+    bool m_isMirrored; ///< its client units count from the right, regions from the left
 };
-
-/// Whether no control stands where the window's context draws, as is common when its size changes. That is one question
-/// to the system; to go from child to child is one each.
-bool IsBesideControls(HWND window, HDC dc)
-{
-    if (WindowFromDC(dc) != window)
-    {
-        return false;
-    }
-    const HDC around = GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPCHILDREN);
-    const bool isBeside = around != nullptr && DrawnPart(dc).IsWithin(DrawnPart(around));
-    ReleaseDC(window, around);
-    return isBeside;
-}
-
-/// What the background depends on in a control's class.
-enum class ControlClass
-{
-    Button,
-    Static,
-    Tab,
-    Other
-};
-
-/// The classes of many controls: each one's name is looked at once.
-class ControlClasses
-{
-public:
-    ControlClass Of(HWND control, ATOM atom)
-    {
-        for (const auto& [known, kind] : m_known)
-        {
-            if (known == atom)
-            {
-                return kind;
-            }
-        }
-        m_known.emplace_back(atom, ByName(control));
-        return m_known.back().second;
-    }
-
-private:
-    static ControlClass ByName(HWND control)
-    {
-        char name[32] = {};
-        GetClassNameA(control, name, sizeof name);
-        const auto is = [&name](const char* other)
-        {
-            return lstrcmpiA(name, other) == 0;
-        };
-        return is("Button")         ? ControlClass::Button
-               : is("Static")       ? ControlClass::Static
-               : is(WC_TABCONTROLA) ? ControlClass::Tab
-                                    : ControlClass::Other;
-    }
-
-    std::vector<std::pair<ATOM, ControlClass>> m_known;
-};
-
-/// Frames around other controls, and what shows the background through itself.
-bool IsSeenThrough(HWND control, ControlClass kind, LONG style)
-{
-    const LONG type = style & SS_TYPEMASK;
-    if (kind == ControlClass::Button && (style & BS_TYPEMASK) == BS_GROUPBOX)
-    {
-        return true;
-    }
-    if (kind == ControlClass::Static && (type == SS_ETCHEDFRAME || (type >= SS_BLACKFRAME && type <= SS_WHITEFRAME)))
-    {
-        return true;
-    }
-    return (GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_TRANSPARENT) != 0;
-}
-
-/// A tab control: its body and, where its tabs stand at the top in one row, those; the rest of the row belongs to the
-/// background.
-void AppendTab(HWND tab, const RECT& bounds, LONG style, std::vector<RECT>& covers)
-{
-    const int count = static_cast<int>(SendMessageA(tab, TCM_GETITEMCOUNT, 0, 0));
-    RECT first{};
-    RECT last{};
-    if (count == 0 || (style & (TCS_BOTTOM | TCS_VERTICAL | TCS_MULTILINE)) != 0 ||
-        !SendMessageA(tab, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&first)) ||
-        !SendMessageA(tab, TCM_GETITEMRECT, static_cast<WPARAM>(count - 1), reinterpret_cast<LPARAM>(&last)))
-    {
-        covers.push_back(bounds);
-        return;
-    }
-    constexpr LONG kOutstanding = 2; // of the selected tab, on both sides
-    const LONG body = bounds.top + first.bottom;
-    covers.push_back({std::max(bounds.left, bounds.left + first.left - kOutstanding), bounds.top,
-                      std::min(bounds.right, bounds.left + last.right + kOutstanding), body});
-    covers.push_back({bounds.left, body, bounds.right, bounds.bottom});
-}
-
-/// Turns rectangles on the screen into such of a client area.
-class ClientMapping
-{
-public:
-    explicit ClientMapping(HWND window)
-        : m_window(window), m_isMirrored((GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0)
-    {
-        ClientToScreen(window, &m_origin);
-    }
-    RECT Of(RECT rect) const
-    {
-        if (m_isMirrored)
-        {
-            MapWindowPoints(nullptr, m_window, reinterpret_cast<POINT*>(&rect), 2);
-            return rect;
-        }
-        return {rect.left - m_origin.x, rect.top - m_origin.y, rect.right - m_origin.x, rect.bottom - m_origin.y};
-    }
-
-private:
-    HWND m_window;
-    bool m_isMirrored;
-    POINT m_origin{};
-};
-
-/// The children, which are asked for nothing yet: what is asked of a control may change their order.
-std::vector<HWND> ChildrenOf(HWND window)
-{
-    constexpr std::size_t kMost = 65536;
-    std::vector<HWND> children;
-    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr && children.size() < kMost;
-         child = GetWindow(child, GW_HWNDNEXT))
-    {
-        children.push_back(child);
-    }
-    return children;
-}
-
-/// What the visible controls cover of a client area.
-std::vector<RECT> Covered(HWND window)
-{
-    std::vector<RECT> covers;
-    ControlClasses classes;
-    const ClientMapping mapping(window);
-    for (const HWND control : ChildrenOf(window))
-    {
-        const LONG style = GetWindowLongA(control, GWL_STYLE);
-        RECT bounds{};
-        if ((style & WS_VISIBLE) == 0 || !GetWindowRect(control, &bounds))
-        {
-            continue;
-        }
-        const ControlClass kind = classes.Of(control, static_cast<ATOM>(GetClassLongA(control, GCW_ATOM)));
-        if (IsSeenThrough(control, kind, style))
-        {
-            continue;
-        }
-        bounds = mapping.Of(bounds);
-        if (kind == ControlClass::Tab)
-        {
-            AppendTab(control, bounds, style, covers);
-        }
-        else
-        {
-            covers.push_back(bounds);
-        }
-    }
-    return covers;
-}
-
-RECT ClientOf(HWND window)
-{
-    RECT client{};
-    GetClientRect(window, &client);
-    return client;
-}
 
 /// The class's own brush; small numbers stand for the system's colours.
 HBRUSH BrushOf(HWND window)
@@ -259,36 +136,51 @@ HBRUSH BrushOf(HWND window)
     return brush <= kLastColor ? GetSysColorBrush(static_cast<int>(brush) - 1) : reinterpret_cast<HBRUSH>(brush);
 }
 
-/// The client area without its controls, in device units as clip regions are.
-std::vector<RECT> AroundControls(HWND window, const RECT& client, const POINT& origin)
+RECT ClientOf(HWND window)
 {
-    std::vector<RECT> pieces = vorn::UncoveredArea(client, Covered(window));
-    for (RECT& piece : pieces)
-    {
-        OffsetRect(&piece, origin.x, origin.y);
-    }
-    return pieces;
+    RECT client{};
+    GetClientRect(window, &client);
+    return client;
 }
 
-void Erase(HWND window, HDC dc)
+/// Clip regions are in device units: client units, but for the viewport's origin.
+bool HoldTo(HDC dc, const Region& client)
 {
-    const RECT client = ClientOf(window);
     POINT origin{};
     GetViewportOrgEx(dc, &origin);
-    const bool isBeside = IsBesideControls(window, dc);
-    const std::vector<RECT> pieces = isBeside ? std::vector<RECT>() : AroundControls(window, client, origin);
-    if (!isBeside && pieces.empty())
+    client.Offset(origin);
+    return ExtSelectClipRgn(dc, client.Get(), RGN_AND) != ERROR;
+}
+
+/// @param root of the layout, whose controls are most often all that the window has; null for none
+/// @return false when there is nothing to paint
+bool HoldToBackground(HDC dc, HWND window, const LayoutMgr::PaneBase* root)
+{
+    const DrawnPart drawn(window, dc);
+    if (drawn.IsFree())
     {
-        return;
+        return true;
     }
+    if (drawn.IsFreeAround(CoversOf(LayoutDescription::ControlsOf(root), window)))
+    {
+        return HoldTo(dc, drawn.Free());
+    }
+    const RECT client = ClientOf(window);
+    const std::vector<RECT> pieces = vorn::UncoveredArea(client, CoversOf(ChildrenOf(window), window));
+    return !pieces.empty() && HoldTo(dc, Region(client, pieces));
+}
+
+void Erase(HDC dc, HWND window, const LayoutMgr::PaneBase* root)
+{
     const int saved = SaveDC(dc);
-    if (!isBeside)
+    if (HoldToBackground(dc, window, root))
     {
-        const Region around({origin.x, origin.y, client.right + origin.x, client.bottom + origin.y}, pieces);
-        ExtSelectClipRgn(dc, around.Get(), RGN_AND);
+        const RECT client = ClientOf(window);
+        POINT origin{};
+        GetViewportOrgEx(dc, &origin);
+        SetBrushOrgEx(dc, origin.x, origin.y, nullptr);
+        FillRect(dc, &client, BrushOf(window));
     }
-    SetBrushOrgEx(dc, origin.x, origin.y, nullptr);
-    FillRect(dc, &client, BrushOf(window));
     RestoreDC(dc, saved);
 }
 
@@ -303,7 +195,7 @@ void LayoutMgr::EraseBkgnd(CDC* pDC)
     vorn::NoThrow(false,
                   [this, pDC]
                   {
-                      Erase(m_pWnd->m_hWnd, pDC->m_hDC);
+                      Erase(pDC->m_hDC, m_pWnd->m_hWnd, m_paneRoot.GetPane());
                       return true;
                   });
 }

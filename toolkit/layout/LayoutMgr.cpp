@@ -113,7 +113,7 @@ bool LayoutMgr::GetTrackSizes(CSize& sizeMin, CSize& sizeMax)
     {
         return false;
     }
-    LayoutDescription description(m_pWnd->m_hWnd);
+    LayoutDescription description(m_pWnd->m_hWnd, LayoutPass::Measure);
     m_paneRoot.ConvertBase()->describe(description);
     vorn::PaneTree& tree = description.Tree();
     tree.Measure();

@@ -106,14 +106,14 @@ HWND LayoutMgr::Pane::describeFrame(vorn::PaneSpec&, const LayoutDescription&)
 
 bool LayoutMgr::Pane::placeAt(CRect& rect)
 {
-    LayoutDescription description(window());
+    LayoutDescription description(window(), LayoutPass::Place);
     describePane(description);
     return description.Place(rect);
 }
 
 bool LayoutMgr::Pane::isShown(bool)
 {
-    LayoutDescription description(window());
+    LayoutDescription description(window(), LayoutPass::Measure);
     describePane(description);
     description.Tree().Measure();
     return description.Tree().IsShown(0);
@@ -121,7 +121,7 @@ bool LayoutMgr::Pane::isShown(bool)
 
 int LayoutMgr::Pane::measured(int parentExtent, bool isHeight, int what)
 {
-    LayoutDescription description(window());
+    LayoutDescription description(window(), LayoutPass::Measure);
     describePane(description);
     return MeasuredOf(description.Tree(), parentExtent, isHeight, what);
 }

@@ -104,7 +104,7 @@ void LayoutMgr::PaneItem::describeItem(LayoutDescription& description)
 
 bool LayoutMgr::PaneItem::placeAt(CRect& rect)
 {
-    LayoutDescription description(window());
+    LayoutDescription description(window(), LayoutPass::Place);
     describeItem(description);
     return description.Place(rect);
 }
@@ -151,7 +151,7 @@ bool LayoutMgr::PaneItem::moveSimpleCombo(const RECT& rect)
 
 int LayoutMgr::PaneItem::measured(int parentExtent, bool isHeight, int what)
 {
-    LayoutDescription description(window());
+    LayoutDescription description(window(), LayoutPass::Measure);
     describeItem(description);
     return MeasuredOf(description.Tree(), parentExtent, isHeight, what);
 }

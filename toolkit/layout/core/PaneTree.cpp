@@ -20,6 +20,12 @@ void PaneTree::Clear()
     m_isMeasured = false;
 }
 
+void PaneTree::Reserve(std::size_t nodes)
+{
+    m_nodes.reserve(nodes);
+    m_controls.reserve(nodes);
+}
+
 PaneTree::Node& PaneTree::Append(Kind kind, unsigned mode, int width, int height)
 {
     Node& node = m_nodes.emplace_back();

@@ -86,6 +86,8 @@ class PaneTree
 {
 public:
     void Clear();
+    /// Room for so many nodes, most of them controls, before the tree has to grow.
+    void Reserve(std::size_t nodes);
 
     /// @return the node's number. What follows until its ClosePane() is its children.
     std::size_t OpenPane(const PaneSpec& pane);
