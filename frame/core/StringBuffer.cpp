@@ -57,12 +57,13 @@ StringBuffer::~StringBuffer()
 
 StringBuffer& StringBuffer::operator=(const char* text)
 {
-    if (TextOf(text).empty())
+    const std::size_t length = TextOf(text).size();
+    if (length == 0)
     {
         Empty();
         return *this;
     }
-    Array array = MakeArray(std::strlen(text) + 1);
+    Array array = MakeArray(length + 1);
     if (array)
     {
         vorn::RemoveHolder(m_text);
@@ -73,7 +74,7 @@ StringBuffer& StringBuffer::operator=(const char* text)
 
 StringBuffer& StringBuffer::operator=(const StringBuffer& other)
 {
-    if (m_text == other.m_text || !vorn::AddHolder(other.m_text))
+    if (this == &other || m_text == other.m_text || !vorn::AddHolder(other.m_text))
         return *this;
     vorn::RemoveHolder(m_text);
     m_text = other.m_text;

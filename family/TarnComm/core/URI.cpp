@@ -61,10 +61,13 @@ URI::URI(const URI& other)
 
 URI& URI::operator=(const URI& other)
 {
-    SetString(mpUser, other.mpUser);
-    SetString(mpPassword, other.mpPassword);
-    SetString(mpHost, other.mpHost);
-    mPort = other.mPort;
+    if (this != &other)
+    {
+        SetString(mpUser, other.mpUser);
+        SetString(mpPassword, other.mpPassword);
+        SetString(mpHost, other.mpHost);
+        mPort = other.mPort;
+    }
     return *this;
 }
 
