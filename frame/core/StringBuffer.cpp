@@ -3,7 +3,6 @@
 #include "frame/core/SharedArrays.h"
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 #include <new>
 #include <string_view>
