@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 
 namespace
 {
@@ -146,7 +145,7 @@ std::string ProgramFolder()
 std::vector<DataTableFacts> DataTables()
 {
     std::vector<DataTableFacts> tables;
-    tables.reserve(std::size(kTables));
+    tables.reserve(kTables.size());
     for (const char* name : kTables)
     {
         tables.push_back(FactsOf(name));
