@@ -307,7 +307,13 @@ TEST_F(LogTest, OpeningsLeaveNothingBehind)
 {
     VornCommonLog log;
     log.LogMsg("text", LOG_INFO);
-    ShowLog(log); // what the first one loads for good
+    // What the first one loads for good, and all that painting needs: a quick end may come before a window is painted.
+    ShowLog(log,
+            [](HWND window)
+            {
+                ::RedrawWindow(window, nullptr, nullptr,
+                               RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+            });
     const unsigned before = vorn::test::CountGdiObjects();
     for (int i = 0; i < 30; ++i)
     {
