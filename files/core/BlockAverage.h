@@ -17,7 +17,7 @@ public:
     /// As many pixels as a block can have.
     static constexpr int kMostPixels = 256;
 
-    /// @param source lives as long as this; 24 or 32 bits.
+    /// @param source of 24 or 32 bits; its pixels live as long as this.
     /// @param across, down the size of a block: 2 to kMostPixels pixels in all.
     BlockAverage(const ImageView& source, int across, int down);
 
@@ -28,7 +28,7 @@ public:
 private:
     void SumDown(int firstRow);
 
-    const ImageView& m_source;
+    ImageView m_source;
     int m_across;
     int m_down;
     std::size_t m_channels;
