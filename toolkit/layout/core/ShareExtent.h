@@ -31,11 +31,9 @@ struct ExtentShare
 /// The rules, in this order:
 /// - fixed children take their sizes; what is left then is the base, 0 at least;
 /// - percent children take their percentage of the base, held between minimum and maximum; what minima take too much
-/// the
-///   others give back in proportion to their sizes, a remainder of 5 or less by the first that can;
+///   the others give back in proportion to their sizes, a remainder of 5 or less by the first that can;
 /// - greedy children share the rest equally, the last one with what the divisions left, held to their limits and
-/// corrected
-///   in the same way; what maxima leave over goes to those that were raised to their minimum;
+///   corrected in the same way; what maxima leave over goes to those that were raised to their minimum;
 /// - what is still left goes to the fixed children that stretch.
 /// Sizes come out too large together when the minima ask for more than there is.
 void ShareExtent(std::span<ExtentShare> children, long long extent);
