@@ -3,6 +3,7 @@
 #include "frame/core/SharedArrays.h"
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <new>
 #include <string_view>
