@@ -241,7 +241,7 @@ private:
         long long remaining = m_stretchers;
         for (ExtentShare& child : m_children)
         {
-            if (child.role == Role::Fixed && child.stretches)
+            if (child.role == Role::Fixed && child.stretches && remaining > 0)
             {
                 const long long share = Divide(m_extent, remaining--);
                 child.size = ClampToInt(child.size + share);
