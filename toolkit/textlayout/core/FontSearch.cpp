@@ -86,9 +86,8 @@ int FontSearch::Next()
         return lowest + (highest - lowest) / 2;
     }
     const int direction = m_tried == m_fits ? 1 : -1;
-    const std::int64_t step = std::int64_t{1} << m_steps / 2;
+    const std::int64_t step = std::int64_t{1} << m_steps++ / 2;
     const std::int64_t guessed = (Guess() - m_tried) * direction;
-    m_steps = guessed > step ? 0 : m_steps + 1;
     return static_cast<int>(std::clamp<std::int64_t>(m_tried + direction * std::max(guessed, step), lowest, highest));
 }
 

@@ -48,7 +48,7 @@ private:
     int m_tried = 0; ///< the height last measured
     int m_width = 0; ///< what was measured of the widest line; 0 where the lines are too high
     std::int64_t m_height = 0;
-    int m_steps = 0;      ///< how often it went on in the same direction where the guess was to stay
+    int m_steps = 0;      ///< how often it went on in the same direction: each two make the least step longer
     int m_turns = 0;      ///< how often the direction changed
     std::size_t m_widest; ///< index of the longest line, then of the widest
     bool m_isWidestKnown = false;
