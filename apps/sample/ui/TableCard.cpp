@@ -43,7 +43,8 @@ std::vector<int> TableCard::ColumnWidths(CDC& dc, int available) const
             if (!row.heading && column < row.cells.size())
                 width = std::max(width, TextWidth(dc, row.cells[column]));
         }
-        widths.push_back(width + m_theme.Px(kCellGap));
+        const bool isLeft = m_table.columns[column].align == vorn::Align::Left;
+        widths.push_back(width + (isLeft ? GapBehind(column) : m_theme.Px(kCellGap)));
     }
     if (widths.empty())
         return widths;
@@ -61,6 +62,13 @@ std::vector<int> TableCard::ColumnWidths(CDC& dc, int available) const
         spare += cut;
     }
     return widths;
+}
+
+/// Words keep a distance from the next column, but none from the card's edge; figures stand before it anyway.
+int TableCard::GapBehind(std::size_t column) const
+{
+    const bool isLast = column + 1 == m_table.columns.size();
+    return m_table.columns[column].align == vorn::Align::Left && !isLast ? m_theme.Px(kCellGap) : 0;
 }
 
 void TableCard::Draw(CDC& dc, const CRect& area) const
@@ -123,8 +131,8 @@ void TableCard::DrawColumnTitles(CDC& dc, const CRect& line, const std::vector<i
     for (std::size_t column = 0; column < widths.size(); ++column)
     {
         const vorn::ReportColumn& title = m_table.columns[column];
-        const int gap = title.align == vorn::Align::Left ? m_theme.Px(kCellGap) : 0;
-        DrawCell(dc, CRect(left, line.top, left + widths[column] - gap, line.bottom), title.title, title.align);
+        const int right = left + widths[column] - GapBehind(column);
+        DrawCell(dc, CRect(left, line.top, right, line.bottom), title.title, title.align);
         left += widths[column];
     }
     dc.FillSolidRect(CRect(line.left, line.bottom - m_theme.Px(1), line.right, line.bottom), m_theme.border);
@@ -143,9 +151,9 @@ void TableCard::DrawRow(CDC& dc, const CRect& line, const vorn::ReportRow& row, 
     for (std::size_t column = 0; column < widths.size() && column < row.cells.size(); ++column)
     {
         const vorn::Align align = m_table.columns[column].align;
-        const int gap = align == vorn::Align::Left ? m_theme.Px(kCellGap) : 0;
+        const int right = left + widths[column] - GapBehind(column);
         dc.SetTextColor(ColorOf(row, column));
-        DrawCell(dc, CRect(left, line.top, left + widths[column] - gap, line.bottom), row.cells[column], align);
+        DrawCell(dc, CRect(left, line.top, right, line.bottom), row.cells[column], align);
         left += widths[column];
     }
 }

@@ -19,6 +19,7 @@ public:
 private:
     int TitleHeight() const;
     std::vector<int> ColumnWidths(CDC& dc, int available) const;
+    int GapBehind(std::size_t column) const;
     void DrawFrame(CDC& dc, const CRect& area) const;
     void DrawTitle(CDC& dc, const CRect& area) const;
     void DrawColumnTitles(CDC& dc, const CRect& line, const std::vector<int>& widths) const;
