@@ -75,6 +75,19 @@ protected:
         return ControlsOf(m_view);
     }
 
+    /// The mouse's messages go to what lies below it when it moves: a control that is shown later gets none.
+    void WaitUntilOnTop(HWND control) const
+    {
+        EXPECT_TRUE(PumpUntil(
+            [&]
+            {
+                RECT place{};
+                GetWindowRect(control, &place);
+                return WindowFromPoint({place.left + 6, place.top + 6}) == control;
+            }));
+        SendMessage(m_window, WM_NULL, 0, 0); // the tips are made with the page
+    }
+
     ScratchKey m_settings{HKEY_CURRENT_USER, kSettings};
 };
 
@@ -99,6 +112,7 @@ TEST_F(SamplePageTips, EachControlHasAText)
 TEST_F(SamplePageTips, ATextAppearsWhereTheMouseRestsAndGoesWithIt)
 {
     OpenPage("chart");
+    WaitUntilOnTop(Control(kNight));
     RECT place{};
     GetWindowRect(Control(kNight), &place);
     RECT window{};
