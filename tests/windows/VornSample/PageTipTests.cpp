@@ -111,6 +111,7 @@ TEST_F(SamplePageTips, EachControlHasAText)
 
 TEST_F(SamplePageTips, ATextAppearsWhereTheMouseRestsAndGoesWithIt)
 {
+    PutCursor({GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1}); // the chart has a tip, too
     OpenPage("chart");
     WaitUntilOnTop(Control(kNight));
     RECT place{};
