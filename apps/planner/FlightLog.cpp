@@ -109,7 +109,8 @@ void FlightLogView::ShowUnit()
 {
     CString unit = GetConversionBoy()->UnitStr(UNITTYPE_DISTANCE);
     LVCOLUMN heading{};
-    heading.mask = LVCF_TEXT;
+    heading.mask = LVCF_TEXT | LVCF_FMT; // not each system keeps the one when it is given the other
+    heading.fmt = kColumns[kDistanceColumn].format;
     heading.pszText = unit.GetBuffer();
     m_legs.SetColumn(kDistanceColumn, &heading);
 }

@@ -93,6 +93,18 @@ TEST_F(GalleryLog, DistancesAreInTheUnitOfTheUser)
     EXPECT_NE(TextOf(Control(IDC_LOG_TOTAL)).find(" KM, "), std::string::npos);
 }
 
+TEST_F(GalleryLog, HeadingsStandOverTheirNumbers)
+{
+    const auto header = reinterpret_cast<HWND>(::SendMessage(Control(IDC_LOG_LIST), LVM_GETHEADER, 0, 0));
+    for (WPARAM column = 0; column < 6; ++column)
+    {
+        HDITEM item{};
+        item.mask = HDI_FORMAT;
+        ASSERT_TRUE(::SendMessage(header, HDM_GETITEM, column, reinterpret_cast<LPARAM>(&item)));
+        EXPECT_EQ(item.fmt & HDF_JUSTIFYMASK, column < 2 ? HDF_LEFT : HDF_RIGHT) << column;
+    }
+}
+
 TEST_F(GalleryLog, NotesAreOfSeveralLinesAndKeptWhenTheyAreLeft)
 {
     ::SetFocus(Control(IDC_LOG_NOTES));
