@@ -354,6 +354,20 @@ TEST(TextFit, NeedsTwoOrThreeFontsInMostTexts)
     EXPECT_LE(most, 12U);
 }
 
+TEST(TextFit, LinesOfRoundedHeightsAreFoundInFewFonts)
+{
+    // A line is a hundredth of its font high, cut to a whole number: 37 of 6 are 222 high, of 7 at a font of 700, 259.
+    TextSpace space = Space(500, 223);
+    space.spacing = -99;
+    space.minFontHeight = 253;
+    space.maxFontHeight = 9999;
+    GridMeasure measure;
+    const std::optional<FittedText> fitted = FitText(std::string(36, '\n'), space, measure);
+    ASSERT_TRUE(fitted);
+    EXPECT_EQ(fitted->fontHeight, 699);
+    EXPECT_LE(measure.Asked().size(), 16U);
+}
+
 TEST(TextFit, MeasuresFewFontsAndNoneTwice)
 {
     std::mt19937 random(5404);
