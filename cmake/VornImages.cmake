@@ -1,5 +1,5 @@
-# libpng, libjpeg-turbo and zlib: the static libraries of our own build for Windows, Debian's packages natively. For
-# Windows nowhere else is looked: a copy beside the compiler may be another version, or bring a DLL with it.
+# libpng, libjpeg-turbo, libdeflate and zlib: the static libraries of our own build for Windows, Debian's packages
+# natively. For Windows nowhere else is looked: a copy beside the compiler may be another version, or bring a DLL with it.
 set(picture_places "")
 if(WIN32)
     set(picture_places PATHS "${VORN_DEPS}/include" "${VORN_DEPS}/lib" NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
@@ -17,6 +17,7 @@ endfunction()
 # In the order in which they need each other.
 vorn_image_library(PNG png.h libpng16.a png16 png)
 vorn_image_library(JPEG jpeglib.h libjpeg.a jpeg)
+vorn_image_library(DEFLATE libdeflate.h libdeflate.a deflate)
 vorn_image_library(ZLIB zlib.h libz.a z)
 if(NOT WIN32)
     target_link_libraries(vorn_images INTERFACE m)

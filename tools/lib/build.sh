@@ -5,7 +5,7 @@ export NINJA_STATUS='[%f/%t] '
 
 build_third_party() {
     local stamps=build/deps/stamps
-    for name in zlib libpng1.6 libjpeg-turbo geographiclib googletest benchmark; do
+    for name in zlib libdeflate libpng1.6 libjpeg-turbo geographiclib googletest benchmark; do
         if [ ! -e "$stamps/built-$name" ]; then
             headline "Building the third-party libraries for 32-bit Windows (about two minutes, once)"
             step tools/build-deps || exit 1

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # What each command needs from Debian, and how it gets there.
 declare -A packages=(
-    [build]="cmake ninja-build g++ g++-mingw-w64-i686-posix nasm dpkg-dev ccache ca-certificates libgtest-dev libbenchmark-dev libgeographiclib-dev libpng-dev libjpeg62-turbo-dev zlib1g-dev"
+    [build]="cmake ninja-build g++ g++-mingw-w64-i686-posix nasm make dpkg-dev ccache ca-certificates libgtest-dev libbenchmark-dev libgeographiclib-dev libpng-dev libjpeg62-turbo-dev libdeflate-dev zlib1g-dev"
     [wine]="wine wine32:i386 xvfb fonts-dejavu-core"
     [check]="git python3 hunspell hunspell-en-us clang clang-format clang-tidy libclang-rt-14-dev shellcheck"
     [oracle]="gdal-bin proj-bin shapelib libdbd-xbase-perl geographiclib-tools imagemagick netpbm giflib-tools libpng-tools libjpeg-turbo-progs" # about 45 MB to fetch
