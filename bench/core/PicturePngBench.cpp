@@ -1,6 +1,5 @@
 #include "bench/core/PictureCases.h"
 #include "files/core/PngRead.h"
-#include "files/core/PngRows.h"
 #include "files/core/PngWrite.h"
 
 #include <algorithm>
@@ -28,23 +27,13 @@ void FlushNothing(png_structp)
 {
 }
 
-void SetAsOurs(png_structp png, PngPlan plan)
-{
-    constexpr int kFilters[] = {PNG_FILTER_NONE, PNG_FILTER_SUB, PNG_FILTER_UP};
-    png_set_filter(png, 0, kFilters[static_cast<int>(plan.filter)]);
-    png_set_compression_level(png, 3);
-    png_set_compression_buffer_size(png, kPngPiece);
-}
-
-/// With the library's defaults, or as we choose.
-std::string ByLibpng(const ImageView& image, bool hasDefaults)
+/// With the library's defaults.
+std::string ByLibpng(const ImageView& image)
 {
     std::string file;
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     png_infop info = png_create_info_struct(png);
     png_set_write_fn(png, &file, Append, FlushNothing);
-    if (!hasDefaults)
-        SetAsOurs(png, PngPlanOf(image));
     png_set_IHDR(png, info, static_cast<png_uint_32>(image.width), static_cast<png_uint_32>(image.height), 8,
                  image.depth == 8 ? PNG_COLOR_TYPE_PALETTE : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
@@ -104,7 +93,7 @@ long long ReadByLibpng(const std::string& file)
 
 void Reading(benchmark::State& state, Scene scene)
 {
-    const std::string file = ByLibpng(ColorPicture(scene).View(), true);
+    const std::string file = ByLibpng(ColorPicture(scene).View());
     ComparePictures(
         state,
         [&]
@@ -129,8 +118,8 @@ void ReadFlat(benchmark::State& state)
 }
 VORN_BENCH_PICTURES(ReadFlat, "Pictures/PNG of a chart read to libpng");
 
-/// With the same settings the file is the same. With the defaults it is not: "size" is ours to the library's.
-void Writing(benchmark::State& state, const ImageView& image, bool hasDefaults)
+/// "size" is ours to the library's.
+void Writing(benchmark::State& state, const ImageView& image)
 {
     std::size_t size = 0;
     std::size_t librarySize = 0;
@@ -139,49 +128,37 @@ void Writing(benchmark::State& state, const ImageView& image, bool hasDefaults)
         [&]
         {
             size = Ours(image).size();
-            return hasDefaults ? 1LL : static_cast<long long>(size);
+            return 1LL;
         },
         [&]
         {
-            librarySize = ByLibpng(image, hasDefaults).size();
-            return hasDefaults ? 1LL : static_cast<long long>(librarySize);
+            librarySize = ByLibpng(image).size();
+            return 1LL;
         });
     state.counters["size"] = static_cast<double>(size) / static_cast<double>(librarySize);
 }
 
 void WriteNoisy(benchmark::State& state)
 {
-    Writing(state, ColorPicture(Scene::Noisy).View(), false);
+    Writing(state, ColorPicture(Scene::Noisy).View());
 }
-VORN_BENCH_PICTURES(WriteNoisy, "Pictures/PNG of noise written to libpng with the same settings");
+VORN_BENCH_PICTURES(WriteNoisy, "Pictures/PNG of noise written to libpng's defaults");
+
+void WriteFlat(benchmark::State& state)
+{
+    Writing(state, ColorPicture(Scene::Flat).View());
+}
+VORN_BENCH_PICTURES(WriteFlat, "Pictures/PNG of a chart written to libpng's defaults");
+
+void WriteIndexedNoisy(benchmark::State& state)
+{
+    Writing(state, IndexedPicture(Scene::Noisy).View());
+}
+VORN_BENCH_PICTURES(WriteIndexedNoisy, "Pictures/PNG of indexed noise written to libpng's defaults");
 
 void WriteIndexedFlat(benchmark::State& state)
 {
-    Writing(state, IndexedPicture(Scene::Flat).View(), false);
+    Writing(state, IndexedPicture(Scene::Flat).View());
 }
-VORN_BENCH_PICTURES(WriteIndexedFlat, "Pictures/PNG of an indexed chart written to libpng with the same settings");
-
-void DefaultsNoisy(benchmark::State& state)
-{
-    Writing(state, ColorPicture(Scene::Noisy).View(), true);
-}
-VORN_BENCH_PICTURES(DefaultsNoisy, "Pictures/PNG of noise written to libpng's defaults");
-
-void DefaultsFlat(benchmark::State& state)
-{
-    Writing(state, ColorPicture(Scene::Flat).View(), true);
-}
-VORN_BENCH_PICTURES(DefaultsFlat, "Pictures/PNG of a chart written to libpng's defaults");
-
-void DefaultsIndexedNoisy(benchmark::State& state)
-{
-    Writing(state, IndexedPicture(Scene::Noisy).View(), true);
-}
-VORN_BENCH_PICTURES(DefaultsIndexedNoisy, "Pictures/PNG of indexed noise written to libpng's defaults");
-
-void DefaultsIndexedFlat(benchmark::State& state)
-{
-    Writing(state, IndexedPicture(Scene::Flat).View(), true);
-}
-VORN_BENCH_PICTURES(DefaultsIndexedFlat, "Pictures/PNG of an indexed chart written to libpng's defaults");
+VORN_BENCH_PICTURES(WriteIndexedFlat, "Pictures/PNG of an indexed chart written to libpng's defaults");
 } // namespace

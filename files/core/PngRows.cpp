@@ -39,19 +39,31 @@ void Subtract(const unsigned char* from, const unsigned char* less, unsigned cha
         to[i] = static_cast<unsigned char>(from[i] - less[i]);
 }
 
-/// Blue, green, red become red, green, blue; four pixels at a time.
+/// Blue, green, red become red, green, blue.
 void TurnTriples(unsigned char* bytes, std::size_t pixels)
 {
-    for (; pixels >= 4; pixels -= 4, bytes += 12)
+#ifdef __SSE2__
+    // Five pixels at a time; the sixteenth byte stays for the next ones.
+    constexpr char kOn = -1;
+    const __m128i firsts = _mm_setr_epi8(kOn, 0, 0, kOn, 0, 0, kOn, 0, 0, kOn, 0, 0, kOn, 0, 0, 0);
+    const __m128i thirds = _mm_slli_si128(firsts, 2);
+    const __m128i others = _mm_setr_epi8(0, kOn, 0, 0, kOn, 0, 0, kOn, 0, 0, kOn, 0, 0, kOn, 0, kOn);
+    const auto load = [](const unsigned char* at)
     {
-        std::uint32_t words[3];
-        std::memcpy(words, bytes, sizeof words);
-        const auto [first, second, third] = words;
-        words[0] = (first >> 16 & 0xFF) | (first & 0xFF00) | (first & 0xFF) << 16 | (second & 0xFF00) << 16;
-        words[1] = (second & 0xFF0000FF) | (first >> 24) << 8 | (third & 0xFF) << 16;
-        words[2] = (second >> 16 & 0xFF) | (third >> 24) << 8 | (third & 0xFF0000) | (third & 0xFF00) << 16;
-        std::memcpy(bytes, words, sizeof words);
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+    };
+    __m128i next = pixels >= 6 ? load(bytes) : __m128i{};
+    for (; pixels >= 6; pixels -= 5, bytes += 15)
+    {
+        const __m128i from = next;
+        if (pixels >= 11)
+            next = load(bytes + 15); // before the store that overlaps it: it would have to wait
+        const __m128i down = _mm_and_si128(_mm_srli_si128(from, 2), firsts);
+        const __m128i up = _mm_and_si128(_mm_slli_si128(from, 2), thirds);
+        const __m128i to = _mm_or_si128(_mm_or_si128(down, up), _mm_and_si128(from, others));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(bytes), to);
     }
+#endif
     for (; pixels > 0; --pixels, bytes += 3)
         std::swap(bytes[0], bytes[2]);
 }
@@ -61,45 +73,7 @@ void TurnQuads(unsigned char* bytes, std::size_t pixels)
     for (; pixels > 0; --pixels, bytes += 4)
         std::swap(bytes[0], bytes[2]);
 }
-
-/// How many bytes are the same as others.
-struct Likeness
-{
-    std::size_t above = 0;
-    std::size_t left = 0;
-    std::size_t of = 0;
-
-    void Look(const unsigned char* row, const unsigned char* rowAbove, std::size_t bytes, std::size_t pixelBytes)
-    {
-        for (std::size_t i = pixelBytes; i < bytes; ++i)
-        {
-            above += row[i] == rowAbove[i] ? 1u : 0u;
-            left += row[i] == row[i - pixelBytes] ? 1u : 0u;
-        }
-        of += bytes - std::min(bytes, pixelBytes);
-    }
-};
-
-Likeness LikenessIn(const ImageView& image)
-{
-    constexpr int kLooks = 32;
-    const auto pixelBytes = static_cast<std::size_t>(std::max(image.depth / 8, 1));
-    Likeness likeness;
-    const int step = std::max(image.height / kLooks, 1);
-    for (int y = 1; y < image.height; y += step)
-        likeness.Look(image.Row(y), image.Row(y - 1), StoredBytes(image), pixelBytes);
-    return likeness;
-}
 } // namespace
-
-PngPlan PngPlanOf(const ImageView& image)
-{
-    const Likeness likeness = LikenessIn(image);
-    const bool isFlat = likeness.of > 0 && 2 * std::max(likeness.above, likeness.left) >= likeness.of;
-    if (isFlat)
-        return {likeness.above >= likeness.left ? PngFilter::Up : PngFilter::Sub, !HasTable(image)};
-    return {HasTable(image) ? PngFilter::None : PngFilter::Sub, false};
-}
 
 PngRows::PngRows(const ImageView& image, bool hasAlpha, PngFilter filter)
     : m_image(image), m_converter(image), m_filter(filter),
@@ -108,14 +82,13 @@ PngRows::PngRows(const ImageView& image, bool hasAlpha, PngFilter filter)
                                                                                                          : 3),
       m_rowBytes(HasTable(image) ? StoredBytes(image)
                                  : static_cast<std::size_t>(image.width) * static_cast<std::size_t>(m_pixelBytes)),
-      m_line(ImageBlock::Unfilled(m_rowBytes + 1)),
       m_converted(m_isConverted ? ImageBlock::Unfilled(2 * m_rowBytes) : ImageBlock())
 {
 }
 
 bool PngRows::IsReady() const
 {
-    return !m_line.Bytes().empty() && (!m_isConverted || !m_converted.Bytes().empty());
+    return !m_isConverted || !m_converted.Bytes().empty();
 }
 
 const unsigned char* PngRows::Plain(int y)
@@ -128,10 +101,15 @@ const unsigned char* PngRows::Plain(int y)
     return row;
 }
 
-const unsigned char* PngRows::Next()
+void PngRows::GoTo(int y)
+{
+    m_y = y;
+    m_above = y > 0 ? Plain(y - 1) : nullptr;
+}
+
+void PngRows::Next(unsigned char* line)
 {
     const unsigned char* row = Plain(m_y++);
-    unsigned char* line = m_line.Bytes().data();
     unsigned char* bytes = line + 1;
     const auto pixelBytes = std::min(static_cast<std::size_t>(m_pixelBytes), m_rowBytes);
     const bool isUp = m_filter == PngFilter::Up && m_above != nullptr;
@@ -147,6 +125,5 @@ const unsigned char* PngRows::Next()
         TurnTriples(bytes, m_rowBytes / 3);
     else if (m_pixelBytes == 4)
         TurnQuads(bytes, m_rowBytes / 4);
-    return line;
 }
 } // namespace vorn

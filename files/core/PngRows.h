@@ -15,17 +15,6 @@ enum class PngFilter : unsigned char
     Up = 2
 };
 
-/// How a picture is written.
-struct PngPlan
-{
-    PngFilter filter;
-    bool isThorough; ///< longer searches pay
-};
-
-/// What makes a small file in a short time, by a look at some of the rows: areas of one colour become zeros, which are
-/// worth a longer search; noise is not.
-PngPlan PngPlanOf(const ImageView& image);
-
 /// Rows of an image, told with a filter and with red first.
 class PngRows
 {
@@ -42,9 +31,12 @@ public:
         return m_rowBytes + 1;
     }
 
-    /// The next row from the top, the filter's number first. Valid until the next call; not to be called for more rows
+    /// Makes a row the next one.
+    void GoTo(int y);
+
+    /// Writes the next row from the top, Size() bytes with the filter's number first. Not to be called for more rows
     /// than there are.
-    const unsigned char* Next();
+    void Next(unsigned char* line);
 
 private:
     const unsigned char* Plain(int y);
@@ -56,7 +48,6 @@ private:
     int m_pixelBytes;
     std::size_t m_rowBytes;
     int m_y = 0;
-    ImageBlock m_line;
     ImageBlock m_converted;                 ///< two rows in turn
     const unsigned char* m_above = nullptr; ///< none above the first
 };

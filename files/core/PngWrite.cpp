@@ -1,15 +1,15 @@
 #include "files/core/PngWrite.h"
 #include "files/core/ImagePixels.h"
 #include "files/core/PackedImage.h"
-#include "files/core/PngRows.h"
+#include "files/core/PngStream.h"
 
 #include <algorithm>
 #include <array>
 #include <csetjmp>
-#include <cstdint>
+#include <memory>
+#include <new>
 
 #include <png.h>
-#include <zlib.h>
 
 namespace vorn
 {
@@ -56,33 +56,10 @@ int PaletteSize(const ImageView& image)
     return own == most ? own : std::max(own, HighestIndex(image) + 1);
 }
 
-/// The least window, as a power of 2, that reaches over so many bytes: a small picture needs little memory.
-int WindowBits(std::uint64_t bytes)
-{
-    constexpr int kLeast = 9;
-    constexpr int kMost = 15;
-    constexpr std::uint64_t kUnreached = 262; // zlib keeps that much ahead
-    int bits = kLeast;
-    while (bits < kMost && (std::uint64_t{1} << bits) < bytes + kUnreached)
-        ++bits;
-    return bits;
-}
-
-/// Lets the stream look for repetitions within others too, but for long ones, which are most of a flat picture: a
-/// little slower than without, and a sixth smaller.
-bool SearchLonger(z_stream& stream)
-{
-    constexpr int kGood = 4;
-    constexpr int kLongestLookedInto = 192;
-    constexpr int kNice = 64;
-    constexpr int kTries = 16;
-    return deflateTune(&stream, kGood, kLongestLookedInto, kNice, kTries) == Z_OK;
-}
-
 /// One writing. What libpng finds wrong ends in Write: nothing with a destructor may live on the way there.
 ///
-/// libpng frames the chunks. Rows are filtered here and compressed by zlib directly: what a picture needs is known, and
-/// each row is touched less often on its way.
+/// libpng frames the chunks. The pixels come compressed: for a picture that is there as a whole, that takes a fraction
+/// of the time.
 class PngWriter
 {
 public:
@@ -100,23 +77,16 @@ private:
     static void OnFlush(png_structp png);
 
     bool GiveToSink(const png_byte* from, std::size_t size) noexcept;
-    bool StartStream();
     int ColorType() const;
     void WriteHead();
     void WritePalette();
-    void WriteRows();
-    void Compress(int flush);
-    void WritePiece();
+    bool WritePixels();
     void WriteChunk(const char* type, const png_byte* data, std::size_t size);
 
     const ImageView& m_image;
     const EncodedSink& m_sink;
     bool m_hasAlpha;
-    PngPlan m_plan;
-    PngRows m_rows;
-    ImageBlock m_piece;
-    z_stream m_stream{};
-    bool m_hasStream = false;
+    std::unique_ptr<PngStream> m_stream;
     std::array<png_color, 256> m_palette{};
     std::jmp_buf m_failed;
     png_structp m_png;
@@ -124,8 +94,7 @@ private:
 };
 
 PngWriter::PngWriter(const ImageView& image, const EncodedSink& sink)
-    : m_image(image), m_sink(sink), m_hasAlpha(HasAlpha(image)), m_plan(PngPlanOf(image)),
-      m_rows(image, m_hasAlpha, m_plan.filter), m_piece(ImageBlock::Unfilled(kPngPiece)),
+    : m_image(image), m_sink(sink), m_hasAlpha(HasAlpha(image)), m_stream(StreamPng(image, m_hasAlpha)),
       m_png(png_create_write_struct(PNG_LIBPNG_VER_STRING, this, &OnError, &OnWarning)),
       m_info(m_png != nullptr ? png_create_info_struct(m_png) : nullptr)
 {
@@ -133,8 +102,6 @@ PngWriter::PngWriter(const ImageView& image, const EncodedSink& sink)
 
 PngWriter::~PngWriter()
 {
-    if (m_hasStream)
-        deflateEnd(&m_stream);
     png_destroy_write_struct(&m_png, &m_info);
 }
 
@@ -172,22 +139,13 @@ bool PngWriter::GiveToSink(const png_byte* from, std::size_t size) noexcept
 
 bool PngWriter::Write()
 {
-    if (m_info == nullptr || !m_rows.IsReady() || m_piece.Bytes().empty() || !StartStream() || setjmp(m_failed) != 0)
+    if (m_info == nullptr || m_stream == nullptr || setjmp(m_failed) != 0)
         return false;
     WriteHead();
-    WriteRows();
+    if (!WritePixels())
+        return false;
     WriteChunk("IEND", nullptr, 0);
     return true;
-}
-
-bool PngWriter::StartStream()
-{
-    constexpr int kLevel = 3;
-    constexpr int kMemory = 8;
-    const int strategy = m_plan.filter == PngFilter::None ? Z_DEFAULT_STRATEGY : Z_FILTERED;
-    const std::uint64_t bytes = std::uint64_t{m_rows.Size()} * static_cast<unsigned>(m_image.height);
-    m_hasStream = deflateInit2(&m_stream, kLevel, Z_DEFLATED, WindowBits(bytes), kMemory, strategy) == Z_OK;
-    return m_hasStream && (!m_plan.isThorough || SearchLonger(m_stream));
 }
 
 int PngWriter::ColorType() const
@@ -220,40 +178,11 @@ void PngWriter::WritePalette()
     png_set_PLTE(m_png, m_info, m_palette.data(), count);
 }
 
-void PngWriter::WriteRows()
+bool PngWriter::WritePixels()
 {
-    m_stream.next_out = m_piece.Bytes().data();
-    m_stream.avail_out = kPngPiece;
-    for (int y = 0; y < m_image.height; ++y)
-    {
-        m_stream.next_in = const_cast<Bytef*>(m_rows.Next()); // zlib only reads it
-        m_stream.avail_in = static_cast<uInt>(m_rows.Size());
-        Compress(Z_NO_FLUSH);
-    }
-    Compress(Z_FINISH);
-    WritePiece();
-}
-
-void PngWriter::Compress(int flush)
-{
-    int result = Z_OK;
-    do
-    {
-        if (m_stream.avail_out == 0)
-            WritePiece();
-        result = deflate(&m_stream, flush);
-        if (result == Z_STREAM_ERROR)
-            png_error(m_png, "not compressed");
-    } while (flush == Z_FINISH ? result != Z_STREAM_END : m_stream.avail_in > 0);
-}
-
-/// What has been compressed, as a chunk.
-void PngWriter::WritePiece()
-{
-    unsigned char* piece = m_piece.Bytes().data();
-    WriteChunk("IDAT", piece, kPngPiece - m_stream.avail_out);
-    m_stream.next_out = piece;
-    m_stream.avail_out = kPngPiece;
+    for (auto piece = m_stream->Next(); !piece.empty(); piece = m_stream->Next())
+        WriteChunk("IDAT", piece.data(), piece.size());
+    return m_stream->IsComplete();
 }
 
 void PngWriter::WriteChunk(const char* type, const png_byte* data, std::size_t size)
@@ -266,7 +195,14 @@ bool EncodePng(const ImageView& image, const EncodedSink& sink)
 {
     if (!sink || !image.hasRows || image.width < 1 || image.height < 1)
         return false;
-    PngWriter writer(image, sink);
-    return writer.Write();
+    try
+    {
+        PngWriter writer(image, sink);
+        return writer.Write();
+    }
+    catch (const std::bad_alloc&)
+    {
+        return false;
+    }
 }
 } // namespace vorn

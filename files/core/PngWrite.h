@@ -7,9 +7,6 @@
 
 namespace vorn
 {
-/// The most bytes of compressed pixels in one chunk.
-inline constexpr unsigned kPngPiece = 32768;
-
 /// Gives the sink a PNG file of the picture: with a palette up to 8 bits, else RGB, or RGBA for 32 bits a pixel when
 /// some fourth byte is not 0. No further chunks.
 ///

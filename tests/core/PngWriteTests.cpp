@@ -2,6 +2,7 @@
 #include "files/core/ImagePixels.h"
 #include "files/core/PngRead.h"
 #include "files/core/PngWrite.h"
+#include "tests/support/MadePicture.h"
 #include "tests/support/PictureBytes.h"
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/TableBytes.h"
@@ -18,10 +19,15 @@ using vorn::ColorAt;
 using vorn::PackedImage;
 using vorn::PixelAt;
 using vorn::Rgb;
+using vorn::test::Areas;
 using vorn::test::BmpParts;
+using vorn::test::LevelBars;
 using vorn::test::LittleEndian;
+using vorn::test::Made;
+using vorn::test::Noise;
 using vorn::test::ScratchFolder;
 using vorn::test::Unsigned;
+using vorn::test::UprightBars;
 
 /// The whole file; nothing when it failed.
 std::string Written(const PackedImage& image)
@@ -254,5 +260,27 @@ TEST(PngWrite, AFileThatTakesNothingMakesItFail)
     ASSERT_NE(file, nullptr);
     EXPECT_FALSE(vorn::EncodePng(Counted(200, 200, 24).View(), vorn::FileSink(file)));
     std::fclose(file);
+}
+
+TEST(PngWrite, PicturesOfEveryKindAreReadBack)
+{
+    for (const int depth : {1, 4, 8, 16, 24, 32})
+        for (const auto& pixel : {UprightBars, LevelBars, Noise})
+            for (const int height : {70, -70})
+            {
+                const PackedImage image = Made(95, height, depth, pixel);
+                const PackedImage back = vorn::DecodePng(Unsigned(Written(image)));
+                ASSERT_FALSE(back.IsEmpty());
+                for (int y = 0; y < 70; ++y)
+                    for (int x = 0; x < 95; ++x)
+                        ASSERT_EQ(ColorAt(back.View(), x, y), ColorAt(image.View(), x, y))
+                            << depth << ": " << x << ", " << y;
+            }
+}
+
+TEST(PngWrite, FlatPicturesMakeSmallFiles)
+{
+    EXPECT_LT(Written(Made(400, 300, 24, Areas)).size(), 400u * 300 * 3 / 60);
+    EXPECT_LT(Written(Made(400, 300, 8, Areas)).size(), 400u * 300 / 20);
 }
 } // namespace
