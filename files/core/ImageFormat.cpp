@@ -24,9 +24,12 @@ ColorMasks MasksBehindHeader(std::span<const unsigned char> block)
     return {DwordAt(masks), DwordAt(masks + 4), DwordAt(masks + 8)};
 }
 
-std::span<const RGBQUAD> ColorTable(std::span<const unsigned char> block, std::size_t end, std::int64_t entries)
+// A header may count more entries than a pixel can name: those make room, but no colours.
+std::span<const RGBQUAD> ColorTable(std::span<const unsigned char> block, std::size_t end,
+                                    const BITMAPINFOHEADER& header)
 {
     const std::size_t room = std::min(end, block.size()) - kBitmapHeaderSize;
+    const std::int64_t entries = std::min(TableEntries(header), std::int64_t{1} << header.biBitCount);
     const auto count = std::min<std::uint64_t>(static_cast<std::uint64_t>(entries), room / sizeof(RGBQUAD));
     return {reinterpret_cast<const RGBQUAD*>(block.data() + kBitmapHeaderSize), static_cast<std::size_t>(count)};
 }
@@ -103,7 +106,7 @@ ImageFormat FormatOf(std::span<const unsigned char> block, std::size_t tableEnd,
     format.isTopDown = header.biHeight < 0;
     SetMasks(format, header.biCompression, block);
     if (format.depth <= 8 && usage == DIB_RGB_COLORS)
-        format.table = ColorTable(block, tableEnd, TableEntries(header));
+        format.table = ColorTable(block, tableEnd, header);
     return format;
 }
 } // namespace vorn
