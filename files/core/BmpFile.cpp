@@ -93,6 +93,7 @@ std::array<unsigned char, kBmpHeadSize> BmpHead(const BITMAPINFOHEADER& header)
 {
     BITMAPINFOHEADER written = header;
     written.biSize = kBitmapHeaderSize;
+    written.biPlanes = 1;
     written.biCompression = BI_RGB;
     written.biClrUsed = 0;
     const std::int64_t stride = BytesPerScan(static_cast<int>(header.biWidth), header.biBitCount);

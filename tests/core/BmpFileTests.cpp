@@ -282,4 +282,81 @@ TEST(BmpFile, Encode_RefusesOtherDepths)
     compressed.compression = 1;
     EXPECT_TRUE(vorn::EncodeBmp(Decoded(compressed)).empty());
 }
+TEST(BmpFile, MoreEntriesThanAPixelCanNameTakeTheirRoomOnly)
+{
+    for (const int depth : {1, 4, 8})
+    {
+        const auto own = static_cast<std::size_t>(1 << depth);
+        BmpParts parts;
+        parts.depth = depth;
+        parts.usedColors = static_cast<unsigned long>(own + 44);
+        parts.behindHeader = std::string(own * 4, '\x20') + std::string(std::size_t{44} * 4, '\x90');
+        parts.pixels = std::string("\x01\0\0\0", 4);
+        parts.offsetField = 0;
+        const PackedImage image = Decoded(parts);
+        ASSERT_FALSE(image.IsEmpty()) << depth;
+        EXPECT_EQ(image.BitsOffset(), 40 + (own + 44) * 4);
+        EXPECT_EQ(image.View().table.size(), own);
+        EXPECT_EQ(vorn::NearestEntry(image.View().table, {0x90, 0x90, 0x90}), 0) << "among those with an index";
+    }
+}
+
+TEST(BmpFile, SixteenBitsWithoutAnOffsetHaveTheirRowsBehindATable)
+{
+    for (const unsigned long compression : {0UL, 3UL})
+    {
+        BmpParts parts;
+        parts.depth = 16;
+        parts.compression = compression;
+        parts.behindHeader = std::string(65536 * 4, '\xFF');
+        parts.pixels = std::string("\x34\x12\0\0", 4);
+        parts.offsetField = 0;
+        EXPECT_EQ(PixelAt(Decoded(parts).View(), 0, 0), 0x1234u) << compression;
+        parts.behindHeader.resize(12);
+        EXPECT_TRUE(Decoded(parts).IsEmpty()) << compression;
+    }
+}
+
+TEST(BmpFile, MasksOf24BitsAreNotSeen)
+{
+    BmpParts parts = Four();
+    parts.compression = 3;
+    const PackedImage image = Decoded(parts);
+    EXPECT_EQ(image.Header().biWidth, 2);
+    EXPECT_FALSE(image.View().hasRows) << "which bytes would be the channels is told nowhere";
+}
+
+TEST(BmpFile, RowsHaveAtMostTwoGigabytesEvenWhereTheyAreCompressed)
+{
+    BmpParts parts = Indexed();
+    parts.compression = 1;
+    parts.width = INT_MAX - 3;
+    EXPECT_FALSE(Decoded(parts).IsEmpty());
+    parts.width = INT_MAX - 2;
+    EXPECT_TRUE(Decoded(parts).IsEmpty()) << "their length would be no number any more";
+}
+
+TEST(BmpFile, ColoursGoIntoMasksOfMoreThanEightBits)
+{
+    BmpParts parts;
+    parts.depth = 32;
+    parts.compression = 3;
+    parts.behindHeader = LittleEndian(0x3FF00000, 4) + LittleEndian(0x000FFC00, 4) + LittleEndian(0x000003FF, 4);
+    parts.pixels = LittleEndian(0xC0000000UL, 4);
+    PackedImage image = Decoded(parts);
+    vorn::SetPixelAt(image.Canvas(), 0, 0, 0x0180FF);
+    EXPECT_EQ(vorn::StoredPixel(image.View().Row(0), 0, 32), 0xC0000000UL | 0x3FCUL << 20 | 0x200UL << 10 | 0x004UL);
+    EXPECT_EQ(PixelAt(image.View(), 0, 0), 0x0180FFu);
+}
+
+TEST(BmpFile, Encode_SaysOnePlaneWhateverWasRead)
+{
+    BmpParts parts = Four();
+    for (const int planes : {0, 2, 65535})
+    {
+        parts.planes = planes;
+        const auto written = vorn::EncodeBmp(Decoded(parts));
+        EXPECT_EQ(std::string(written.begin(), written.end()), Four().Bytes()) << planes;
+    }
+}
 } // namespace

@@ -30,8 +30,9 @@ std::string BmpParts::Bytes() const
     const auto size = static_cast<unsigned long>(offset + pixels.size());
     std::string bytes =
         "BM" + LittleEndian(sizeField.value_or(size), 4) + Number(0, 4) + LittleEndian(offsetField.value_or(offset), 4);
-    bytes += LittleEndian(headerSize, 4) + Number(width, 4) + Number(height, 4) + Number(1, 2) + Number(depth, 2);
-    bytes += LittleEndian(compression, 4) + std::string(12, '\0') + LittleEndian(usedColors, 4) + Number(0, 4);
+    bytes += LittleEndian(headerSize, 4) + Number(width, 4) + Number(height, 4) + Number(planes, 2) + Number(depth, 2);
+    bytes += LittleEndian(compression, 4) + LittleEndian(imageSize, 4) + std::string(8, '\0') +
+             LittleEndian(usedColors, 4) + Number(0, 4);
     return bytes + behindHeader + pixels;
 }
 

@@ -18,6 +18,8 @@ struct BmpParts
     unsigned long headerSize = 40;
     unsigned long compression = 0;
     unsigned long usedColors = 0;
+    unsigned long imageSize = 0; ///< What the header says of the pixels' bytes.
+    int planes = 1;
     std::string behindHeader; ///< Table, masks, gap.
     std::string pixels;
     std::optional<unsigned long> sizeField; ///< In place of the true one.
