@@ -4,6 +4,7 @@
 #include "files/core/NoThrow.h"
 #include "files/core/PackedImage.h"
 
+#include <optional>
 #include <vector>
 
 namespace
@@ -26,7 +27,8 @@ int NearestOf(int pixel, int size, int sourceSize)
     return static_cast<int>((2 * std::int64_t{pixel} + 1) * sourceSize / (2 * std::int64_t{size}));
 }
 
-CursorPictures PicturesOf(const vorn::ImageView& source, int width, int height, vorn::Rgb transparent)
+CursorPictures PicturesOf(const vorn::ImageView& source, int width, int height,
+                          const std::optional<vorn::Rgb>& transparent)
 {
     CursorPictures made{{}, vorn::PackedImage::Make(width, -height, 24)};
     if (made.colors.IsEmpty())
@@ -70,8 +72,7 @@ HICON DIB::BuildCursor(HINSTANCE /*instance*/, int width, int height, int hotX, 
             const vorn::ImageView source = View();
             if (!source.hasRows || source.height < 1)
                 return nullptr;
-            const vorn::Rgb transparent{static_cast<BYTE>(r), static_cast<BYTE>(g), static_cast<BYTE>(b)};
-            const CursorPictures pictures = PicturesOf(source, width, height, transparent);
+            const CursorPictures pictures = PicturesOf(source, width, height, vorn::ColorIn({r, g, b}));
             return pictures.mask.empty() ? nullptr : CursorOf(pictures, hotX, hotY);
         });
 }

@@ -94,9 +94,10 @@ bool DIB::To24Bit(DIB* target) const
     if (target == this && Depth() == 24 && !m_section && View().hasRows)
         return true;
     // The memory of a picture that was made before serves again: fresh pages cost more than all pixels.
-    const bool isSameOrder =
-        m_info && target->m_info && (m_info->bmiHeader.biHeight < 0) == (target->m_info->bmiHeader.biHeight < 0);
-    if (isSameOrder && !target->m_section && vorn::PutAs24Bit(target->Canvas(), View()))
+    const int signedHeight = m_info ? static_cast<int>(m_info->bmiHeader.biHeight) : 0;
+    const bool isAsMade = !target->m_section && target->m_usage == DIB_RGB_COLORS &&
+                          vorn::IsAsMade(target->Block(), target->TableEnd(), Width(), signedHeight);
+    if (isAsMade && vorn::PutAs24Bit(target->Canvas(), View()))
         return true;
     vorn::PackedImage converted = vorn::To24Bit(View());
     return !converted.IsEmpty() && target->Adopt(std::move(converted));

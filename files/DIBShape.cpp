@@ -1,32 +1,17 @@
 #include "files/DIB.h"
 #include "files/core/ImageConvert.h"
+#include "files/core/ImagePixels.h"
 #include "files/core/ImageResize.h"
 #include "files/core/ImageRotate.h"
 #include "files/core/NoThrow.h"
 #include "files/core/PackedImage.h"
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 #include <utility>
 
 namespace
 {
-vorn::Rgb ColorOf(int r, int g, int b)
-{
-    return {static_cast<BYTE>(r), static_cast<BYTE>(g), static_cast<BYTE>(b)};
-}
-
-/// Whether a block begins as that of a new image of this size would, top-down.
-bool IsAsMade(std::span<const unsigned char> block, std::size_t bitsOffset, int width, int height)
-{
-    if (width < 1 || height < 1 || block.empty() || bitsOffset != vorn::kBitmapHeaderSize)
-        return false;
-    const BITMAPINFOHEADER header = vorn::HeaderOf(block);
-    const vorn::PackedImage head = vorn::PackedImage::MakeHead(width, -height, header.biBitCount, DIB_RGB_COLORS);
-    return !head.IsEmpty() && std::memcmp(block.data(), head.Block().data(), vorn::kBitmapHeaderSize) == 0;
-}
-
 /// The image with the palette indices that its pixels were made for.
 vorn::PackedImage WithIndices(const vorn::PackedImage& image, std::span<const unsigned char> indices)
 {
@@ -45,40 +30,40 @@ vorn::PackedImage WithIndices(const vorn::PackedImage& image, std::span<const un
 
 bool DIB::HQResize(int width, int height, DIB* source)
 {
-    return source &&
-           vorn::NoThrow(false,
-                         [&]
-                         {
-                             if (source != this && !m_section && IsAsMade(Block(), TableEnd(), width, height) &&
-                                 m_usage == DIB_RGB_COLORS && vorn::PutResized(Canvas(), source->View()))
-                                 return true; // fresh memory costs as much as many pixels
-                             vorn::PackedImage image = vorn::BoxResize(source->View(), width, height);
-                             return !image.IsEmpty() && Adopt(std::move(image));
-                         });
+    return source && vorn::NoThrow(false,
+                                   [&]
+                                   {
+                                       if (source != this && !m_section && height >= 1 &&
+                                           vorn::IsAsMade(Block(), TableEnd(), width, -height) &&
+                                           m_usage == DIB_RGB_COLORS && vorn::PutResized(Canvas(), source->View()))
+                                           return true; // fresh memory costs as much as many pixels
+                                       vorn::PackedImage image = vorn::BoxResize(source->View(), width, height);
+                                       return !image.IsEmpty() && Adopt(std::move(image));
+                                   });
 }
 
 DIB* DIB::Rotate(double angle, int flag, COLORREF background) const
 {
-    return vorn::NoThrow(
-        static_cast<DIB*>(nullptr),
-        [&]
-        {
-            const vorn::Rgb color = ColorOf(GetRValue(background), GetGValue(background), GetBValue(background));
-            vorn::PackedImage image = vorn::Rotate(View(), angle, flag != 0, color);
-            if (!image.IsEmpty() && m_usage == DIB_PAL_COLORS && m_depth <= 8)
-                image =
-                    WithIndices(image, Block().subspan(vorn::kBitmapHeaderSize, TableEnd() - vorn::kBitmapHeaderSize));
-            auto turned = std::make_unique<DIB>();
-            return turned->Adopt(std::move(image)) ? turned.release() : nullptr;
-        });
+    return vorn::NoThrow(static_cast<DIB*>(nullptr),
+                         [&]
+                         {
+                             const vorn::Rgb color{GetRValue(background), GetGValue(background), GetBValue(background)};
+                             vorn::PackedImage image = vorn::Rotate(View(), angle, flag != 0, color);
+                             if (!image.IsEmpty() && m_usage == DIB_PAL_COLORS && m_depth <= 8)
+                                 image = WithIndices(image, Block().subspan(vorn::kBitmapHeaderSize,
+                                                                            TableEnd() - vorn::kBitmapHeaderSize));
+                             auto turned = std::make_unique<DIB>();
+                             return turned->Adopt(std::move(image)) ? turned.release() : nullptr;
+                         });
 }
 
 Image* DIB::BuildMask(int r, int g, int b)
 {
-    return vorn::NoThrow(static_cast<Image*>(nullptr),
-                         [&]() -> Image*
-                         {
-                             auto mask = std::make_unique<DIB>();
-                             return mask->Adopt(vorn::MaskOf(View(), ColorOf(r, g, b))) ? mask.release() : nullptr;
-                         });
+    return vorn::NoThrow(
+        static_cast<Image*>(nullptr),
+        [&]() -> Image*
+        {
+            auto mask = std::make_unique<DIB>();
+            return mask->Adopt(vorn::MaskOf(View(), vorn::ColorIn({r, g, b}))) ? mask.release() : nullptr;
+        });
 }

@@ -160,7 +160,7 @@ bool PutImage(const ImageCanvas& target, int x, int y, const ImageView& source)
     return true;
 }
 
-PackedImage MaskOf(const ImageView& source, Rgb color)
+PackedImage MaskOf(const ImageView& source, const std::optional<Rgb>& color)
 {
     if (!source.hasRows)
         return {};

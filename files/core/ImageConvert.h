@@ -4,6 +4,8 @@
 /// Pictures in another depth, and one picture put into another.
 #include "files/core/PackedImage.h"
 
+#include <optional>
+
 namespace vorn
 {
 /// The same size and row order in 24 bits; empty for an image without rows to see, or without memory.
@@ -21,6 +23,7 @@ bool PutAs24Bit(const ImageCanvas& target, const ImageView& source);
 /// False for images without rows to see.
 bool PutImage(const ImageCanvas& target, int x, int y, const ImageView& source);
 
-/// 1 bit a pixel, in black and white: 1 where the colour is this one. The same size and row order.
-PackedImage MaskOf(const ImageView& source, Rgb color);
+/// 1 bit a pixel, in black and white: 1 where the colour is this one, so nowhere without one. The same size and row
+/// order.
+PackedImage MaskOf(const ImageView& source, const std::optional<Rgb>& color);
 } // namespace vorn

@@ -40,6 +40,11 @@ DWORD Placed(BYTE channel, DWORD mask)
     return value << low & mask;
 }
 
+bool IsByte(int value)
+{
+    return value >= 0 && value <= 255;
+}
+
 int Squared(int value)
 {
     return value * value;
@@ -51,6 +56,13 @@ int Distance(const RGBQUAD& entry, Rgb color)
            Squared(entry.rgbBlue - color.blue);
 }
 } // namespace
+
+std::optional<Rgb> ColorIn(const WantedColor& wanted)
+{
+    if (!IsByte(wanted.red) || !IsByte(wanted.green) || !IsByte(wanted.blue))
+        return std::nullopt;
+    return Rgb{static_cast<BYTE>(wanted.red), static_cast<BYTE>(wanted.green), static_cast<BYTE>(wanted.blue)};
+}
 
 DWORD StoredPixel(const unsigned char* row, int x, int depth)
 {

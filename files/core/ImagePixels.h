@@ -4,8 +4,21 @@
 /// Single pixels. (0, 0) is the top left one whatever the row order.
 #include "files/core/ImageView.h"
 
+#include <optional>
+
 namespace vorn
 {
+/// A colour as it comes from outside: any numbers.
+struct WantedColor
+{
+    int red;
+    int green;
+    int blue;
+};
+
+/// The colour; none when a number is not from 0 to 255: no pixel is so.
+std::optional<Rgb> ColorIn(const WantedColor& wanted);
+
 /// The table index up to 8 bits, the word for 16, else 0x00BBGGRR. 0 outside.
 DWORD PixelAt(const ImageView& image, int x, int y);
 

@@ -177,4 +177,12 @@ ImageBlock PackedImage::TakeBlock()
 {
     return std::exchange(m_block, ImageBlock());
 }
+
+bool IsAsMade(std::span<const unsigned char> block, std::size_t bitsOffset, int width, int height)
+{
+    if (block.size() < kBitmapHeaderSize || bitsOffset != kBitmapHeaderSize)
+        return false;
+    const BITMAPINFOHEADER header = NewHeader(width, height, HeaderOf(block).biBitCount);
+    return std::memcmp(block.data(), &header, sizeof header) == 0;
+}
 } // namespace vorn

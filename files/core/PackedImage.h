@@ -107,4 +107,8 @@ private:
     std::size_t m_bitsOffset = 0;
     int m_usage = DIB_RGB_COLORS;
 };
+
+/// Whether a block, which may be empty, has the header that a new image of this size and the block's depth would have,
+/// and its rows right behind it. A negative height: the first row at the top.
+bool IsAsMade(std::span<const unsigned char> block, std::size_t bitsOffset, int width, int height);
 } // namespace vorn

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <optional>
 
 namespace
 {
@@ -131,7 +132,7 @@ TEST(ImageConvert, NothingOfPicturesWithoutRows)
     {
         EXPECT_TRUE(vorn::To24Bit(view).IsEmpty());
         EXPECT_TRUE(vorn::ToPlainChannels(view).IsEmpty());
-        EXPECT_TRUE(vorn::MaskOf(view, {0, 0, 0}).IsEmpty());
+        EXPECT_TRUE(vorn::MaskOf(view, Rgb{}).IsEmpty());
         EXPECT_FALSE(vorn::PutImage(target.Canvas(), 0, 0, view));
     }
 }
@@ -223,7 +224,7 @@ TEST(MaskOf, IsOneWhereTheColorIs)
         SetPixelAt(source.Canvas(), 0, 0, 0x030201);
         SetPixelAt(source.Canvas(), 9, 1, 0x030201);
         SetPixelAt(source.Canvas(), 5, 1, 0x030202);
-        const PackedImage mask = vorn::MaskOf(source.View(), {1, 2, 3});
+        const PackedImage mask = vorn::MaskOf(source.View(), Rgb{1, 2, 3});
         EXPECT_EQ(mask.Header().biBitCount, 1);
         EXPECT_EQ(mask.Header().biHeight, height);
         EXPECT_EQ(mask.TableColor(0), (Rgb{0, 0, 0}));
@@ -241,7 +242,64 @@ TEST(MaskOf, FindsEveryIndexOfTheColor)
     source.SetTableColor(2, {9, 9, 9});
     SetPixelAt(source.Canvas(), 1, 0, 1);
     SetPixelAt(source.Canvas(), 2, 0, 2);
-    const PackedImage mask = vorn::MaskOf(source.View(), {9, 9, 9});
+    const PackedImage mask = vorn::MaskOf(source.View(), Rgb{9, 9, 9});
     EXPECT_EQ(mask.View().Row(0)[0], 0x60);
+}
+TEST(MaskOf, IsNowhereOneWithoutAColor)
+{
+    const PackedImage mask = vorn::MaskOf(PackedImage::Make(9, 1, 24).View(), std::nullopt);
+    EXPECT_EQ(mask.View().width, 9);
+    EXPECT_EQ(mask.View().Row(0)[0], 0);
+    EXPECT_EQ(mask.View().Row(0)[1], 0);
+}
+
+TEST(ColorIn, HasNumbersFrom0To255)
+{
+    EXPECT_EQ(vorn::ColorIn({0, 128, 255}), (Rgb{0, 128, 255}));
+    for (const int outside : {-1, 256, INT_MIN, INT_MAX})
+    {
+        EXPECT_EQ(vorn::ColorIn({outside, 0, 0}), std::nullopt);
+        EXPECT_EQ(vorn::ColorIn({0, outside, 0}), std::nullopt);
+        EXPECT_EQ(vorn::ColorIn({0, 0, outside}), std::nullopt);
+    }
+}
+
+TEST(PutImage, WhatBelongsToNoColorStays)
+{
+    PackedImage source = PackedImage::Make(1, 1, 24);
+    SetPixelAt(source.Canvas(), 0, 0, 0x030201);
+    PackedImage longer = PackedImage::Make(2, 1, 32);
+    longer.Canvas().Row(0)[7] = 0x77;
+    vorn::PutImage(longer.Canvas(), 1, 0, source.View());
+    EXPECT_EQ(vorn::StoredPixel(longer.View().Row(0), 1, 32), 0x77010203u);
+    PackedImage words = PackedImage::Make(1, 1, 16);
+    words.Canvas().Row(0)[1] = 0x80;
+    vorn::PutImage(words.Canvas(), 0, 0, longer.View());
+    EXPECT_EQ(PixelAt(words.View(), 0, 0), 0x8000u) << "the bit beside the masks";
+}
+
+TEST(PutImage, TakesNoEntryThatAPixelCannotName)
+{
+    vorn::test::BmpParts parts;
+    parts.depth = 4;
+    parts.usedColors = 20;
+    parts.behindHeader = std::string(64, '\x30') + std::string(16, '\xFF');
+    parts.pixels = std::string(4, '\x70');
+    PackedImage target = vorn::DecodeBmp(vorn::test::Unsigned(parts.Bytes()));
+    PackedImage white = PackedImage::Make(1, 1, 24);
+    SetPixelAt(white.Canvas(), 0, 0, 0xFFFFFF);
+    vorn::PutImage(target.Canvas(), 0, 0, white.View());
+    EXPECT_EQ(PixelAt(target.View(), 0, 0), 0u)
+        << "the first of sixteen that are as near; the white ones have no index";
+}
+
+TEST(ImageConvert, ToPlainChannels_FollowsTheMasks)
+{
+    PackedImage source = PackedImage::MakeMasked(2, -1, 32, {0x000000FF, 0x0000FF00, 0xFF000000});
+    vorn::StorePixel(source.Canvas().Row(0), 1, 32, 0x03EE0201);
+    const PackedImage made = vorn::ToPlainChannels(source.View());
+    EXPECT_EQ(made.Header().biBitCount, 32);
+    EXPECT_EQ(made.Header().biCompression, 0u);
+    EXPECT_EQ(vorn::StoredPixel(made.View().Row(0), 1, 32), 0x00010203u) << "a fourth byte there is not";
 }
 } // namespace

@@ -250,4 +250,20 @@ TEST(ImagePixels, NearestEntry_TakesTheFirstOfEquals)
     EXPECT_EQ(vorn::NearestEntry(table, {0, 0, 6}), 1);
     EXPECT_EQ(vorn::NearestEntry({}, {1, 2, 3}), 0);
 }
+TEST(PackedImage, IsAsMade_ByHeaderAndPlaceOfTheRows)
+{
+    PackedImage image = PackedImage::Make(5, -3, 24);
+    EXPECT_TRUE(vorn::IsAsMade(image.Block(), image.BitsOffset(), 5, -3));
+    EXPECT_FALSE(vorn::IsAsMade(image.Block(), image.BitsOffset(), 5, 3)) << "another order of rows";
+    EXPECT_FALSE(vorn::IsAsMade(image.Block(), image.BitsOffset(), 4, -3));
+    EXPECT_FALSE(vorn::IsAsMade(image.Block(), 44, 5, -3)) << "a gap";
+    EXPECT_FALSE(vorn::IsAsMade({}, 40, 5, -3));
+    for (const std::size_t at : {0, 12, 16, 20, 24, 28, 32, 36}) // what a header may say beside size and depth
+    {
+        image.Block()[at] ^= 1;
+        EXPECT_FALSE(vorn::IsAsMade(image.Block(), image.BitsOffset(), 5, -3)) << at;
+        image.Block()[at] ^= 1;
+    }
+    EXPECT_TRUE(vorn::IsAsMade(image.Block(), image.BitsOffset(), 5, -3));
+}
 } // namespace

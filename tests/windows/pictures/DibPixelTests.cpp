@@ -225,6 +225,20 @@ TEST(DibTo24Bit, TargetOfTheSameSizeGivesItsBlock)
     EXPECT_EQ(section.DIBSect(), nullptr);
 }
 
+TEST(DibTo24Bit, NothingOfTheTargetsFormerPictureStays)
+{
+    DIB indices(2, 2, 24, 1, 0, nullptr, nullptr);
+    EXPECT_TRUE(FromLetters("RG|BY", 32).To24Bit(&indices));
+    EXPECT_EQ(indices.Usage(), 0);
+    DIB target(2, 2, 24, 0, 0, nullptr, nullptr);
+    target.BitmapInfo()->bmiHeader.biXPelsPerMeter = 3000;
+    target.BitmapInfo()->bmiHeader.biSizeImage = 12345;
+    EXPECT_TRUE(FromLetters("RG|BY", 32).To24Bit(&target));
+    EXPECT_EQ(target.BitmapInfo()->bmiHeader.biXPelsPerMeter, 0);
+    EXPECT_EQ(target.BitmapInfo()->bmiHeader.biSizeImage, 0U);
+    EXPECT_EQ(Colors(target), "RG|BY");
+}
+
 TEST(DibTo24Bit, WithoutImageOrTargetFails)
 {
     DIB target = FromLetters("R");
@@ -240,5 +254,10 @@ TEST(DibTo24Bit, SectionBecomesABlock)
     EXPECT_TRUE(image.To24Bit(&image));
     EXPECT_EQ(image.DIBSect(), nullptr);
     EXPECT_EQ(Colors(image), "Y#");
+    DIB same(2, 1, 24, 0, 1, nullptr, nullptr);
+    same.PutPixel(1, 0, RGB(255, 0, 0));
+    EXPECT_TRUE(same.To24Bit(&same));
+    EXPECT_EQ(same.DIBSect(), nullptr);
+    EXPECT_EQ(Colors(same), "#R");
 }
 } // namespace

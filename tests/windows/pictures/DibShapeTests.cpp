@@ -6,6 +6,7 @@
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <tuple>
 
 namespace
 {
@@ -141,6 +142,13 @@ TEST(DibHQResize, AnImageOfTheSameSizeGivesItsBlock)
     image.BitmapInfo()->bmiHeader.biXPelsPerMeter = 3000;
     ASSERT_TRUE(image.HQResize(1, 2, &source));
     EXPECT_EQ(bytesOf(fresh), bytesOf(image)) << "nothing of the former picture stays";
+    DIB section(1, -2, 24, 0, 1, nullptr, nullptr);
+    ASSERT_TRUE(section.HQResize(1, 2, &source));
+    EXPECT_EQ(section.DIBSect(), nullptr);
+    EXPECT_EQ(bytesOf(fresh), bytesOf(section));
+    DIB indices(1, -2, 24, 1, 0, nullptr, nullptr);
+    ASSERT_TRUE(indices.HQResize(1, 2, &source));
+    EXPECT_EQ(indices.Usage(), 0);
 }
 
 TEST(DibHQResize, ImpossibleSizesChangeNothing)
@@ -215,6 +223,20 @@ TEST(DibRotate, KeepsPaletteIndices)
     EXPECT_EQ(turned->Bits() - reinterpret_cast<unsigned char*>(turned->BitmapInfo()), 40 + 512);
 }
 
+TEST(DibRotate, KeepsPaletteIndicesInEitherRowOrder)
+{
+    for (const int height : {2, -2})
+    {
+        DIB image(2, height, 4, 1, 0, nullptr, nullptr);
+        for (int i = 0; i < 4; ++i)
+            image.PutPixel(i % 2, i / 2, static_cast<DWORD>(i + 1));
+        const std::unique_ptr<DIB> turned(image.Rotate(90, 0, 0));
+        ASSERT_TRUE(turned);
+        EXPECT_EQ(Values(*turned), "31|42");
+        EXPECT_EQ(turned->BitmapInfo()->bmiHeader.biHeight, height);
+    }
+}
+
 TEST(DibRotate, NothingOfNoImageOrNoAngle)
 {
     EXPECT_EQ(DIB().Rotate(90, 1, 0), nullptr);
@@ -247,6 +269,16 @@ TEST(DibMask, GoesThroughTheTable)
     EXPECT_EQ(Values(dynamic_cast<const DIB&>(*mask)), "011");
     DIB empty;
     EXPECT_EQ(empty.BuildMask(0, 0, 0), nullptr);
+}
+
+TEST(DibMask, NoPixelHasNumbersBeyond255)
+{
+    DIB image = FromLetters("#.R");
+    for (const auto& [r, g, b] : {std::tuple{256, 0, 0}, {-1, -1, -1}, {255, 256, 0}, {0, 0, 1 << 24}, {511, 255, 255}})
+    {
+        const std::unique_ptr<Image> mask(image.BuildMask(r, g, b));
+        EXPECT_EQ(Values(dynamic_cast<const DIB&>(*mask)), "000") << r << ' ' << g << ' ' << b;
+    }
 }
 
 /// The cursor over white, and over black: what is transparent shows the ground.
@@ -293,6 +325,15 @@ TEST(DibCursor, PictureIsBroughtToTheSize)
     ASSERT_NE(wide, nullptr);
     EXPECT_EQ(LookOf(wide, 33, 1).onWhite, std::string(16, '.') + std::string(17, 'G'));
     DestroyCursor(wide);
+}
+
+TEST(DibCursor, IsNowhereTransparentWithANumberBeyond255)
+{
+    const HICON cursor = FromLetters("#.").BuildCursor(nullptr, 2, 1, 0, 0, -1, -1, -1);
+    ASSERT_NE(cursor, nullptr);
+    EXPECT_EQ(LookOf(cursor, 2, 1).onBlack, "#.");
+    EXPECT_EQ(LookOf(cursor, 2, 1).onWhite, "#.");
+    DestroyCursor(cursor);
 }
 
 TEST(DibCursor, NoneOfNoImageOrSize)
