@@ -17,6 +17,11 @@ std::size_t TableSize(const BITMAPINFOHEADER& header, int usage)
     const std::int64_t most = std::int64_t{1} << header.biBitCount;
     return static_cast<std::size_t>(std::min(TableEntries(header), most)) * (usage == DIB_PAL_COLORS ? 2 : 4);
 }
+// GDI draws no compressed pixels whose size is 0, which some programs write.
+DWORD SizeOf(DWORD stated, DWORD most)
+{
+    return stated == 0 ? most : std::min(stated, most);
+}
 } // namespace
 
 DibInfo::DibInfo(std::span<const unsigned char> block, std::size_t tableEnd, int usage, std::size_t pixelBytes)
@@ -31,7 +36,7 @@ DibInfo::DibInfo(std::span<const unsigned char> block, std::size_t tableEnd, int
     header.biClrUsed = 0;
     header.biClrImportant = 0;
     const bool hasRows = header.biCompression == BI_RGB || header.biCompression == BI_BITFIELDS;
-    header.biSizeImage = hasRows ? 0 : std::min(header.biSizeImage, static_cast<DWORD>(pixelBytes));
+    header.biSizeImage = hasRows ? 0 : SizeOf(header.biSizeImage, static_cast<DWORD>(pixelBytes));
 }
 
 DibInfo::DibInfo(int width, int rows, int depth)

@@ -7,7 +7,8 @@
 namespace vorn
 {
 /// A copy of a block's header, table and masks in which everything that GDI looks at is there: a table shorter than
-/// the depth asks for is filled up with zeros, and compressed pixels are not larger than they are.
+/// the depth asks for is filled up with zeros, and compressed pixels are as large as stated, but no larger than they
+/// are.
 class DibInfo
 {
 public:

@@ -85,13 +85,16 @@ TEST(DibStretch, PaletteIndicesTakeTheContextsPalette)
 
 TEST(DibStretch, TableShorterThanTheDepthIsFilledUp)
 {
-    // The last bytes of the block are the pixel: a whole table of colours is not there.
+    // Behind 128 colours comes the pixel: its bytes are no colour.
     DIB image(1, 1, 8, 1, 0, nullptr, nullptr);
-    image.PutPixel(0, 0, 255);
     image.Usage(0);
-    const DrawnOn target(1, 1);
-    EXPECT_NE(image.StretchDIBits(target.Dc(), 0, 0, 1, 1, SRCCOPY), 0);
-    EXPECT_EQ(target.Text(), "#");
+    for (const DWORD index : {128, 255})
+    {
+        image.PutPixel(0, 0, index);
+        const DrawnOn target(1, 1);
+        EXPECT_NE(image.StretchDIBits(target.Dc(), 0, 0, 1, 1, SRCCOPY), 0);
+        EXPECT_EQ(target.Text(), "#") << index;
+    }
 }
 
 TEST(DibStretch, NothingWithoutImageOrContext)
@@ -127,6 +130,27 @@ TEST(DibSetBits, RowsCountAsTheyAreStored)
     DrawnOn lower(2, 3);
     EXPECT_EQ(FromLetters("RR|GG|BB", 24, true).SetDIBits(lower.Dc(), lower.Unselected(), 1, 2), 2);
     EXPECT_EQ(lower.Text(), "..|GG|BB");
+    DrawnOn rest(2, 3);
+    EXPECT_EQ(FromLetters("RR|GG|BB", 24, true).SetDIBits(rest.Dc(), rest.Unselected(), 2, 0x7FFFFFFF), 1);
+    EXPECT_EQ(rest.Text(), "..|..|BB") << "no more than there are";
+}
+
+TEST(DibSetBits, PaletteIndicesTakeTheContextsPalette)
+{
+    const TestPalette palette;
+    for (const int height : {2, -2})
+    {
+        DrawnOn target(2, 2);
+        const HBITMAP bitmap = target.Unselected();
+        const HPALETTE former = SelectPalette(target.Dc(), palette, FALSE);
+        RealizePalette(target.Dc());
+        DIB image(2, height, 4, 1, 0, nullptr, nullptr);
+        for (int i = 0; i < 4; ++i)
+            image.PutPixel(i % 2, i / 2, static_cast<DWORD>(3 - i));
+        EXPECT_EQ(image.SetDIBits(target.Dc(), bitmap, 0, 2), 2);
+        EXPECT_EQ(target.Text(), "BG|R#");
+        SelectPalette(target.Dc(), former, FALSE);
+    }
 }
 
 TEST(DibSetBits, NothingWithoutRows)
@@ -135,6 +159,8 @@ TEST(DibSetBits, NothingWithoutRows)
     const HBITMAP bitmap = target.Unselected();
     EXPECT_EQ(DIB().SetDIBits(target.Dc(), bitmap, 0, 2), 0);
     EXPECT_EQ(FromLetters("RG|BY").SetDIBits(target.Dc(), bitmap, 2, 1), 0);
+    EXPECT_EQ(FromLetters("RG|BY").SetDIBits(target.Dc(), bitmap, 3, 1), 0);
+    EXPECT_EQ(FromLetters("RG|BY").SetDIBits(target.Dc(), bitmap, 0xFFFFFFFF, 3), 0);
     EXPECT_EQ(FromLetters("RG|BY").SetDIBits(target.Dc(), nullptr, 0, 2), 0);
     EXPECT_EQ(target.Text(), "..|..");
 }
@@ -205,6 +231,24 @@ TEST(DibSection, WhatIsDrawnIsInTheRows)
     image.PutPixel(2, 0, RGB(255, 0, 0));
     EXPECT_EQ(GetPixel(dc, 2, 0), RGB(255, 0, 0));
     SelectObject(dc, former);
+    DeleteDC(dc);
+}
+TEST(DibSection, PaletteIndicesTakeTheContextsPalette)
+{
+    const TestPalette palette;
+    const DrawnOn target(4, 1);
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HPALETTE formerPalette = SelectPalette(dc, palette, FALSE);
+    RealizePalette(dc);
+    DIB image(4, 1, 8, 1, 1, dc, nullptr);
+    ASSERT_NE(image.DIBSect(), nullptr);
+    for (int x = 0; x < 4; ++x)
+        image.PutPixel(x, 0, static_cast<DWORD>(3 - x));
+    const HGDIOBJ former = SelectObject(dc, image.DIBSect());
+    BitBlt(target.Dc(), 0, 0, 4, 1, dc, 0, 0, SRCCOPY);
+    EXPECT_EQ(target.Text(), "BGR#");
+    SelectObject(dc, former);
+    SelectPalette(dc, formerPalette, FALSE);
     DeleteDC(dc);
 }
 } // namespace

@@ -218,8 +218,12 @@ TEST_F(DibRead, CompressedBitmapIsKeptAndDrawnOnly)
     parts.width = 3;
     parts.height = 2;
     parts.pixels = std::string("\2\1\1\0\0\0\3\1\0\1", 10); // two red and a black one; three red
+    parts.imageSize = 10;
     DIB image;
     ASSERT_TRUE(image.ReadBMP(Write(parts.Bytes()).c_str()));
+    const DrawnOn target(3, 2);
+    EXPECT_NE(image.StretchDIBits(target.Dc(), 0, 0, 3, 2, SRCCOPY), 0);
+    EXPECT_EQ(target.Text(), "RRR|RR#");
     EXPECT_EQ(image.Width(), 3);
     EXPECT_EQ(image.GetPixel(0, 0), 0U);
     EXPECT_EQ(Colors(image), "###|###");
@@ -236,6 +240,22 @@ TEST_F(DibRead, CompressedBitmapIsKeptAndDrawnOnly)
     EXPECT_FALSE(image.WriteJPEG(m_folder.File("x.jpg").c_str(), 75, 0, nullptr));
     const DIB copy(image);
     EXPECT_EQ(copy.Depth(), 8);
+    const DrawnOn again(3, 2);
+    EXPECT_NE(copy.StretchDIBits(again.Dc(), 0, 0, 3, 2, SRCCOPY), 0);
+    EXPECT_EQ(again.Text(), "RRR|RR#");
+}
+
+TEST_F(DibRead, UnseenBitmapOf24BitsIsNoPictureOf24Bits)
+{
+    BmpParts parts;
+    parts.compression = 3;
+    parts.pixels = std::string(16, '\1');
+    DIB image;
+    ASSERT_TRUE(image.ReadBMP(Write(parts.Bytes()).c_str()));
+    EXPECT_EQ(image.Depth(), 24);
+    EXPECT_FALSE(image.To24Bit(&image));
+    EXPECT_FALSE(image.WriteBMP(m_folder.File("x.bmp").c_str()));
+    EXPECT_FALSE(std::filesystem::exists(m_folder.File("x.bmp")));
 }
 
 TEST_F(DibRead, CompressedBitmapOfAnySizeFieldIsDrawnFromWhatThereIs)
