@@ -95,7 +95,31 @@ TEST(GifFile, OwnTableGoesBeforeTheFiles)
     const GifParts parts = GifParts(kTable).Image(1, 1, 2, Data("1"), false, own).Image(1, 1, 2, Data("1"));
     EXPECT_EQ(ColorAt(Decoded(parts, 0).View(), 0, 0), (Rgb{4, 5, 6}));
     EXPECT_EQ(ColorAt(Decoded(parts, 1).View(), 0, 0), (Rgb{0x11, 0x22, 0x33}));
-    EXPECT_EQ(ColorAt(Decoded(GifParts().Image(1, 1, 2, Data("1"))).View(), 0, 0), (Rgb{0, 0, 0})) << "none at all";
+    const PackedImage none = Decoded(GifParts().Image(1, 1, 2, Data("1")));
+    EXPECT_EQ(Picture(none), "1") << "without any table";
+    EXPECT_EQ(ColorAt(none.View(), 0, 0), (Rgb{0, 0, 0}));
+}
+
+TEST(GifFile, TablesOfEachSize)
+{
+    for (int entries = 2; entries <= 256; entries *= 2)
+    {
+        std::string table;
+        for (int i = 0; i < entries * 3; ++i)
+            table += static_cast<char>(i * 7 + 1);
+        const auto last = [&](int back)
+        {
+            return static_cast<BYTE>((entries * 3 - back) * 7 + 1);
+        };
+        for (const GifParts& parts :
+             {GifParts(table).Image(2, 1, 2, Data("12")), GifParts(kTable).Image(2, 1, 2, Data("12"), false, table)})
+        {
+            const PackedImage image = Decoded(parts);
+            EXPECT_EQ(Picture(image), "12") << entries << ": what is behind the table begins there";
+            EXPECT_EQ(image.TableColor(entries - 1), (Rgb{last(3), last(2), last(1)})) << entries;
+            EXPECT_EQ(image.TableColor(entries), (Rgb{0, 0, 0})) << entries;
+        }
+    }
 }
 
 TEST(GifFile, InterlacedRowsComeInDisplayOrder)
@@ -129,6 +153,18 @@ TEST(GifFile, ImagesAreCountedWithoutExtensions)
     EXPECT_EQ(Picture(Decoded(parts, 2)), "3|2");
     EXPECT_TRUE(Decoded(parts, 3).IsEmpty());
     EXPECT_TRUE(Decoded(parts, -1).IsEmpty());
+}
+
+TEST(GifFile, ExtensionsOfSeveralSubBlocksArePassedOver)
+{
+    const std::string image = GifParts().Image(1, 1, 2, Data("2")).Bytes().substr(13);
+    const GifParts parts = GifParts(kTable).Extension(0xFE, SubBlocks("a block, then; " + image, 7));
+    EXPECT_EQ(Picture(Decoded(GifParts(parts).Image(1, 1, 2, Data("1")))), "1") << "no image, no end in there";
+    const std::string control("\4\1\0\0\3\4\1\0\0\7\0", 11);
+    const GifParts two = GifParts(kTable).Extension(0xF9, control).Image(1, 1, 2, Data("1"));
+    int transparent = 0;
+    vorn::DecodeGif(Unsigned(two.Bytes()), 0, transparent);
+    EXPECT_EQ(transparent, 3) << "the first sub-block says it";
 }
 
 TEST(GifFile, NothingIsFoundBehindTheEndMark)
@@ -282,6 +318,7 @@ TEST(GifFile, RefusesImpossibleSizes)
     EXPECT_TRUE(Decoded(GifParts(kTable).Image(0, 1, 2, Data("1"))).IsEmpty());
     EXPECT_TRUE(Decoded(GifParts(kTable).Image(1, 0, 2, Data("1"))).IsEmpty());
     EXPECT_TRUE(Decoded(GifParts(kTable).Image(65535, 65535, 2, Data("1"))).IsEmpty());
+    EXPECT_TRUE(Decoded(GifParts(kTable).Image(65534, 8193, 2, Data("1"))).IsEmpty()) << "rows of 65,536 bytes";
 }
 
 TEST(GifFile, ACutFileGivesTheRowsSoFar)
@@ -304,5 +341,21 @@ TEST(GifFile, ACutFileGivesTheRowsSoFar)
         before = picture;
     }
     EXPECT_EQ(before, digits);
+}
+TEST(GifFile, ASubBlockThatIsCutGivesItsPixels)
+{
+    const std::string digits = "0123321001233210012332100123";
+    const std::string codes = PlainCodes(Pixels(digits), 2);
+    const std::string bytes = GifParts(kTable).Image(28, 1, 2, SubBlocks(codes)).Bytes();
+    const std::size_t data = 13 + 12 + 10 + 2;
+    int transparent = 0;
+    for (std::size_t size = 1; size <= codes.size(); ++size)
+    {
+        // Each code has 3 bits; every third one is a clear.
+        const std::size_t whole = size * 8 / 3;
+        const std::size_t known = std::min(whole - (whole + 2) / 3, digits.size());
+        const std::string picture = Picture(vorn::DecodeGif(Unsigned(bytes).first(data + size), 0, transparent));
+        EXPECT_EQ(picture, digits.substr(0, known) + std::string(28 - known, '0')) << size;
+    }
 }
 } // namespace

@@ -115,9 +115,9 @@ TEST(BoxResize, IsTheAverageByArea)
 {
     for (const int depth : {24, 32})
         for (const auto& [width, height] :
-             {std::pair{1, 1}, {4, 3}, {5, 9}, {13, 4}, {11, 7}, {23, 3}, {3, 20}, {30, 30}})
+             {std::pair{1, 1}, {4, 3}, {5, 9}, {13, 4}, {12, 8}, {6, 5}, {5, 4}, {23, 3}, {3, 20}, {30, 30}})
         {
-            const PackedImage source = Noise(11, 7, depth);
+            const PackedImage source = Noise(12, 8, depth);
             const PackedImage made = BoxResize(source.View(), width, height);
             ASSERT_EQ(made.Header().biBitCount, depth);
             ASSERT_EQ(made.Header().biHeight, -height);
@@ -198,5 +198,19 @@ TEST(BoxResize, RefusesWhatIsNoSize)
     EXPECT_TRUE(BoxResize(source.View(), -3, -3).IsEmpty());
     EXPECT_TRUE(BoxResize(PackedImage().View(), 1, 1).IsEmpty());
     EXPECT_TRUE(BoxResize(PackedImage::Make(2, 0, 24).View(), 1, 1).IsEmpty());
+}
+TEST(BoxResize, MasksTellWhereTheChannelsAre)
+{
+    PackedImage source = PackedImage::MakeMasked(4, 2, 32, {0x000000FF, 0x0000FF00, 0x00FF0000});
+    for (int i = 0; i < 8; ++i)
+        vorn::StorePixel(source.Canvas().Row(i / 4), i % 4, 32, 0x00643214);
+    for (const auto& [width, height] : {std::pair{2, 1}, {3, 2}, {9, 5}})
+    {
+        const PackedImage made = BoxResize(source.View(), width, height);
+        ASSERT_EQ(made.Header().biBitCount, 32);
+        EXPECT_EQ(ColorAt(made.View(), width - 1, height - 1), (Rgb{20, 50, 100})) << width;
+    }
+    PackedImage target = PackedImage::MakeMasked(2, -1, 32, {0x000000FF, 0x0000FF00, 0x00FF0000});
+    EXPECT_FALSE(vorn::PutResized(target.Canvas(), source.View())) << "none is made with masks";
 }
 } // namespace

@@ -1,8 +1,11 @@
+#include "files/core/BmpFile.h"
 #include "files/core/ImagePixels.h"
 #include "files/core/ImageRotate.h"
+#include "tests/support/PictureBytes.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -101,6 +104,9 @@ TEST(Rotate, GrowsToHoldAll)
     const PackedImage kept = Rotate(Counted(100, 40, 8).View(), 30, false, {});
     EXPECT_EQ(kept.View().width, 100);
     EXPECT_EQ(kept.View().height, 40);
+    const PackedImage hardly = Rotate(Counted(41, 41, 8).View(), 30, true, {}); // 41 (cos + sin) = 56.007
+    EXPECT_EQ(hardly.View().width, 57);
+    EXPECT_EQ(hardly.View().height, 57);
 }
 
 TEST(Rotate, TakesTheNearestPixelOfTables)
@@ -149,9 +155,108 @@ TEST(Rotate, RefusesWhatCannotBeTurned)
     const PackedImage source = Counted(2, 2, 8);
     EXPECT_TRUE(Rotate(source.View(), std::numeric_limits<double>::quiet_NaN(), true, {}).IsEmpty());
     EXPECT_TRUE(Rotate(source.View(), std::numeric_limits<double>::infinity(), true, {}).IsEmpty());
+    EXPECT_TRUE(Rotate(source.View(), std::numeric_limits<double>::quiet_NaN(), false, {}).IsEmpty());
     EXPECT_TRUE(Rotate(PackedImage().View(), 10, true, {}).IsEmpty());
+    EXPECT_TRUE(Rotate(PackedImage::Make(4, 0, 8).View(), 10, true, {}).IsEmpty()) << "nothing to turn";
     EXPECT_FALSE(Rotate(source.View(), 1e300, true, {}).IsEmpty());
 }
+
+/// Where the middle of a pixel of a turned picture comes from.
+struct Origin
+{
+    double x;
+    double y;
+};
+
+Origin OriginOf(const vorn::ImageView& turned, const vorn::ImageView& source, double degrees, int x, int y)
+{
+    const double radians = degrees * std::acos(-1.0) / 180;
+    const double across = x + 0.5 - turned.width / 2.0;
+    const double down = y + 0.5 - turned.height / 2.0;
+    return {across * std::cos(radians) + down * std::sin(radians) + source.width / 2.0,
+            down * std::cos(radians) - across * std::sin(radians) + source.height / 2.0};
+}
+
+TEST(Rotate, EachPixelOfATableIsTheOneWhereItsMiddleCameFrom)
+{
+    PackedImage source = PackedImage::Make(13, -9, 8);
+    for (int i = 0; i < 256; ++i)
+        source.SetTableColor(i, {static_cast<BYTE>(i), static_cast<BYTE>(i), static_cast<BYTE>(i)});
+    for (int i = 0; i < 13 * 9; ++i)
+        SetPixelAt(source.Canvas(), i % 13, i / 13, static_cast<DWORD>(i * 89 % 251));
+    for (const double degrees : {20.0, 77.7, 133.3, 260.0, -41.0})
+        for (const bool grows : {false, true})
+        {
+            const PackedImage made = Rotate(source.View(), degrees, grows, {255, 255, 255});
+            for (int y = 0; y < made.View().height; ++y)
+                for (int x = 0; x < made.View().width; ++x)
+                {
+                    const Origin from = OriginOf(made.View(), source.View(), degrees, x, y);
+                    const int sourceX = static_cast<int>(std::floor(from.x));
+                    const int sourceY = static_cast<int>(std::floor(from.y));
+                    const bool isInside = source.View().Contains(sourceX, sourceY);
+                    ASSERT_EQ(PixelAt(made.View(), x, y), isInside ? PixelAt(source.View(), sourceX, sourceY) : 255u)
+                        << degrees << " at " << x << ", " << y;
+                }
+        }
+}
+
+TEST(Rotate, QuarterTurnsMixNothingWhereTheMiddleIsBetweenPixels)
+{
+    for (const int depth : {16, 24, 32})
+    {
+        const PackedImage source = Counted(4, 1, depth); // 1234, whose middle is an edge
+        EXPECT_EQ(Picture(Rotate(source.View(), 90, false, {})), "0030");
+        EXPECT_EQ(Picture(Rotate(source.View(), 270, false, {})), "0300");
+    }
+}
+
+// As in the picture of 24 bits: 2 x 2 pixels turned by 45 degrees, with their mean in the middle.
+TEST(Rotate, MixesChannelsWhereverTheyStand)
+{
+    const auto middleOf = [](PackedImage source)
+    {
+        const Rgb colors[] = {{0, 8, 80}, {64, 8, 0}, {128, 16, 0}, {248, 0, 0}};
+        for (int i = 0; i < 4; ++i)
+        {
+            unsigned char* row = source.Canvas().Row(i / 2);
+            vorn::StorePixel(row, i % 2, source.View().depth, vorn::StoredOfColor(source.View(), colors[i], 0));
+        }
+        const PackedImage made = Rotate(source.View(), 45, true, {});
+        return vorn::StoredPixel(made.View().Row(1), 1, made.View().depth);
+    };
+    // 16 bits hold 0, 66, 132 and 255 of red, 8, 8, 16 and 0 of green, 82 of blue: means of 113, 8 and 21.
+    EXPECT_EQ(middleOf(PackedImage::Make(2, -2, 16)), DWORD{14 << 10 | 1 << 5 | 2});
+    EXPECT_EQ(middleOf(PackedImage::MakeMasked(2, -2, 32, {0x000000FF, 0x0000FF00, 0x00FF0000})),
+              DWORD{110 | 8 << 8 | 20 << 16});
+    EXPECT_EQ(middleOf(PackedImage::MakeMasked(2, -2, 32, {0x3FF00000, 0x000FFC00, 0x000003FF})),
+              DWORD{110} << 22 | DWORD{8} << 12 | DWORD{20} << 2);
+}
+
+TEST(Rotate, MixesTheFourthByteToo)
+{
+    PackedImage source = PackedImage::Make(2, -2, 32);
+    for (int i = 0; i < 4; ++i)
+        source.Canvas().Row(i / 2)[i % 2 * 4 + 3] = static_cast<unsigned char>(50 * (i + 1));
+    const PackedImage made = Rotate(source.View(), 45, true, {255, 255, 255});
+    EXPECT_EQ(made.View().Row(1)[7], 125);
+    PackedImage large = PackedImage::Make(20, -20, 32);
+    std::ranges::fill(large.Block().subspan(large.BitsOffset()), static_cast<unsigned char>(255));
+    EXPECT_EQ(Rotate(large.View(), 45, true, {255, 255, 255}).View().Row(0)[3], 0) << "the background has none";
+}
+
+TEST(Rotate, TheBackgroundIsAnEntryThatAPixelCanName)
+{
+    vorn::test::BmpParts parts;
+    parts.width = 8;
+    parts.depth = 1;
+    parts.usedColors = 5;
+    parts.behindHeader = std::string(8, '\x30') + std::string(12, '\xFF');
+    parts.pixels = std::string("\xFF\0\0\0", 4);
+    const PackedImage source = vorn::DecodeBmp(vorn::test::Unsigned(parts.Bytes()));
+    EXPECT_EQ(Picture(Rotate(source.View(), 90, false, {255, 255, 255})), "00001000");
+}
+
 TEST(ImageRotate, KeepsMasks)
 {
     for (const int depth : {16, 32})

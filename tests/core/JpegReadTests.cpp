@@ -1,5 +1,6 @@
 #include "files/core/ImagePixels.h"
 #include "files/core/JpegRead.h"
+#include "files/core/JpegWrite.h"
 #include "tests/support/PictureBytes.h"
 #include "tests/support/PictureFiles.h"
 #include "tests/support/ScratchFolder.h"
@@ -159,6 +160,10 @@ TEST(JpegRead, FactorsMultiplyTheChannels)
     const JpegParts parts = Plain({10, 120, 230});
     EXPECT_EQ(ColorAt(Decoded(parts, {.red = 2.0}).View(), 0, 0), (Rgb{20, 120, 230}));
     EXPECT_EQ(ColorAt(Decoded(parts, {.green = 0.5, .blue = 1.5}).View(), 0, 0), (Rgb{10, 60, 255})) << "clamped";
+    EXPECT_EQ(ColorAt(Decoded(parts, {.green = 0.5}).View(), 0, 0), (Rgb{10, 60, 230}));
+    EXPECT_EQ(ColorAt(Decoded(parts, {.blue = 0.5}).View(), 0, 0), (Rgb{10, 120, 115})) << "each one alone";
+    EXPECT_EQ(ColorAt(Decoded(parts, {.red = 0.57, .green = 0.996, .blue = 0.0}).View(), 0, 0), (Rgb{6, 120, 0}))
+        << "5.7 and 119.52 are rounded";
     EXPECT_EQ(ColorAt(Decoded(parts, {.red = -1.0, .green = 1e300, .blue = std::nan("")}).View(), 0, 0),
               (Rgb{0, 255, 0}));
 }
@@ -330,5 +335,48 @@ TEST(JpegRead, APathIsReadFromAnOffset)
         EXPECT_TRUE(vorn::ReadJpegFile(path.c_str(), offset).IsEmpty()) << offset;
     EXPECT_TRUE(vorn::ReadJpegFile(folder.File("missing").c_str(), 0).IsEmpty());
     EXPECT_TRUE(vorn::ReadJpegFile(nullptr, 0).IsEmpty());
+}
+/// A picture of noise, as a file whose colours have half the size in both directions: rows come in pairs.
+std::string NoiseFile()
+{
+    PackedImage image = PackedImage::Make(45, 37, 24);
+    unsigned state = 1;
+    for (unsigned char& byte : image.Block().subspan(40))
+        byte = static_cast<unsigned char>((state = state * 1664525 + 1013904223) >> 24);
+    std::string file;
+    EXPECT_TRUE(vorn::EncodeJpeg(image.View(),
+                                 [&](const char* data, unsigned size)
+                                 {
+                                     file.append(data, size);
+                                 },
+                                 {}));
+    return file;
+}
+
+TEST(JpegRead, FactorsAndPaletteWorkOnTheColorsOfThePlainPicture)
+{
+    const std::string file = NoiseFile();
+    for (const int scale : {1, 2})
+    {
+        const PackedImage plain = vorn::DecodeJpeg(Unsigned(file), {.scale = scale});
+        ASSERT_FALSE(plain.IsEmpty());
+        const PackedImage half = vorn::DecodeJpeg(Unsigned(file), {.scale = scale, .green = 0.5});
+        std::array<RGBQUAD, 256> table{};
+        vorn::NearestReducer reducer(table,
+                                     [](unsigned char red, unsigned char green, unsigned char blue)
+                                     {
+                                         return static_cast<unsigned char>(red * 3 + green * 5 + blue * 7);
+                                     });
+        const PackedImage reduced = vorn::DecodeJpeg(Unsigned(file), {.scale = scale, .reducer = &reducer});
+        for (int y = 0; y < plain.View().height; ++y)
+            for (int x = 0; x < plain.View().width; ++x)
+            {
+                const Rgb color = ColorAt(plain.View(), x, y);
+                const auto green = static_cast<BYTE>((color.green + 1) / 2);
+                ASSERT_EQ(ColorAt(half.View(), x, y), (Rgb{color.red, green, color.blue})) << x << ' ' << y;
+                ASSERT_EQ(PixelAt(reduced.View(), x, y), (color.red * 3u + color.green * 5u + color.blue * 7u) % 256)
+                    << x << ' ' << y;
+            }
+    }
 }
 } // namespace

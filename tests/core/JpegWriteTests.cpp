@@ -97,6 +97,14 @@ TEST(JpegWrite, EveryDepthIsReadBackInItsColors)
     ExpectNear({}, ColorAt(vorn::DecodeJpeg(Unsigned(Written(words))).View(), 4, 4), 1);
 }
 
+TEST(JpegWrite, MasksTellWhereTheChannelsAre)
+{
+    PackedImage masked = PackedImage::MakeMasked(20, 20, 32, {0x000000FF, 0x0000FF00, 0x00FF0000});
+    for (int i = 0; i < 400; ++i)
+        vorn::SetPixelAt(masked.Canvas(), i % 20, i / 20, Packed({200, 90, 30}));
+    EXPECT_EQ(Written(masked), Written(OneColor(20, 20, 24, {200, 90, 30})));
+}
+
 TEST(JpegWrite, TheFirstRowIsTheTopRow)
 {
     for (const int height : {32, -32})
@@ -114,6 +122,7 @@ TEST(JpegWrite, QualityIsClamped)
     EXPECT_EQ(Written(image, {.quality = 0}), Written(image, {.quality = 75}));
     EXPECT_EQ(Written(image, {.quality = -9}), Written(image, {.quality = 75}));
     EXPECT_EQ(Written(image, {.quality = 101}), Written(image, {.quality = 100}));
+    EXPECT_LT(Written(image, {.quality = 99}).size(), Written(image, {.quality = 100}).size());
     EXPECT_LT(Written(image, {.quality = 1}).size(), Written(image, {.quality = 50}).size());
     EXPECT_LT(Written(image, {.quality = 75}).size(), Written(image, {.quality = 76}).size());
 }

@@ -242,4 +242,63 @@ TEST(PcxFile, RefusesWhatIsNoPicture)
     for (std::size_t size = 128; size < bytes.size(); ++size)
         ASSERT_FALSE(vorn::DecodePcx(Unsigned(bytes).first(size)).IsEmpty()) << size;
 }
+TEST(PcxFile, LastBytesWithoutTheMarkAreNoPalette)
+{
+    PcxParts parts = Eight();
+    parts.palette.clear();
+    parts.headerPalette = "abcdefghi" + std::string(39, '\1');
+    for (const char mark : {'\0', '\xB', '\xD'})
+    {
+        parts.data = "\1\2\3\4\5\6\7\x8" + (mark + Palette());
+        const PackedImage image = Decoded(parts);
+        EXPECT_EQ(image.BitsOffset(), 104u);
+        EXPECT_EQ(ColorAt(image.View(), 1, 0), (Rgb{'g', 'h', 'i'}));
+    }
+}
+
+TEST(PcxFile, TheImageSizeCountsWholeBytesOfPixels)
+{
+    PcxParts parts = Eight();
+    parts.bits = 1;
+    parts.right = parts.left + 12; // 13 pixels: one whole byte of them
+    EXPECT_EQ(Decoded(parts).Header().biSizeImage, 2u);
+    parts.bits = 4;
+    EXPECT_EQ(Decoded(parts).Header().biSizeImage, 12u) << "six whole bytes";
+}
+
+TEST(PcxFile, FourPlanesBecomeOne)
+{
+    PcxParts parts = Eight();
+    parts.bits = 1;
+    parts.planes = 4;
+    EXPECT_EQ(Decoded(parts).Header().biPlanes, 1);
+    EXPECT_EQ(Decoded(parts).Header().biBitCount, 4);
+}
+
+TEST(PcxFile, LinesMayBeLongerThan255Bytes)
+{
+    PcxParts parts = Eight();
+    parts.right = parts.left + 299;
+    parts.bytesPerLine = 300;
+    parts.data.clear();
+    for (int i = 0; i < 10; ++i)
+        parts.data += std::string{'\xFF', static_cast<char>(i + 1)}; // runs of 63
+    const PackedImage image = Decoded(parts);
+    for (int i = 0; i < 600; ++i)
+        ASSERT_EQ(PixelAt(image.View(), i % 300, i / 300), static_cast<DWORD>(i / 63 + 1)) << i;
+}
+
+TEST(PcxFile, ALineOfPlanesThatIsCutOffHasNothingOfTheOneAbove)
+{
+    PcxParts parts;
+    parts.bits = 1;
+    parts.planes = 4;
+    parts.right = 7;
+    parts.bottom = 1;
+    parts.data = "\xC4\xFF\x81"; // a whole line, and a plane
+    const PackedImage image = Decoded(parts);
+    EXPECT_EQ(PixelAt(image.View(), 3, 0), 15u);
+    EXPECT_EQ(PixelAt(image.View(), 0, 1), 1u);
+    EXPECT_EQ(PixelAt(image.View(), 3, 1), 0u);
+}
 } // namespace

@@ -162,6 +162,9 @@ TEST_F(DibCoded, PngWritingFails)
         }));
     EXPECT_FALSE(DIB().WritePNG(Path().c_str()));
     EXPECT_FALSE(HasFile()) << "no file of no image";
+    Write("before", "out");
+    EXPECT_FALSE(DIB().WritePNG(Path().c_str()));
+    EXPECT_EQ(m_folder.Read("out"), "before") << "nothing was to be written";
 }
 
 TEST_F(DibCoded, DamagedPngLeavesNoImage)
@@ -276,6 +279,9 @@ TEST_F(DibCoded, JpegWritingFails)
 {
     EXPECT_FALSE(DIB().WriteJPEG(Path().c_str(), 75, 0, nullptr));
     EXPECT_FALSE(HasFile());
+    Write("before", "out");
+    EXPECT_FALSE(DIB().WriteJPEG(Path().c_str(), 75, 0, nullptr));
+    EXPECT_EQ(m_folder.Read("out"), "before");
     EXPECT_FALSE(FromLetters("R").WriteJPEG(Path("no/such/folder").c_str(), 75, 0, nullptr));
     EXPECT_FALSE(FromLetters("R").WriteJPEG(nullptr, 75, 0, nullptr));
 }
@@ -381,6 +387,9 @@ TEST_F(DibCoded, BitmapOfOtherDepthsMakesNoFile)
         EXPECT_FALSE(DIB(2, 2, depth, 0, 0, nullptr, nullptr).WriteBMP(Path().c_str()));
     EXPECT_FALSE(DIB().WriteBMP(Path().c_str()));
     EXPECT_FALSE(HasFile());
+    Write("before", "out");
+    EXPECT_FALSE(DIB(2, 2, 8, 0, 0, nullptr, nullptr).WriteBMP(Path().c_str()));
+    EXPECT_EQ(m_folder.Read("out"), "before");
     EXPECT_FALSE(FromLetters("R").WriteBMP(Path("no/such/folder").c_str()));
     EXPECT_FALSE(FromLetters("R").WriteBMP(nullptr));
 }

@@ -242,7 +242,9 @@ TEST(DibMake, CopyKeepsAnIndexTableAndItsUsage)
     DIB image(2, 1, 4, 1, 0, nullptr, nullptr);
     image.PutPixel(1, 0, 9);
     DIB copy;
+    image.ImageNumber(7);
     copy = image;
+    EXPECT_EQ(copy.ImageNumber(), 7);
     EXPECT_EQ(copy.Usage(), 1);
     EXPECT_EQ(BitsOffset(copy), 40 + 32);
     EXPECT_EQ(Values(copy), "09");
