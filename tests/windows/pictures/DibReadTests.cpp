@@ -277,6 +277,21 @@ TEST_F(DibRead, CompressedBitmapOfAnySizeFieldIsDrawnFromWhatThereIs)
     }
 }
 
+TEST_F(DibRead, CompressedBitmapThatDoesNotTellItsSizeIsDrawn)
+{
+    BmpParts parts = RedBmp();
+    parts.compression = 1;
+    parts.width = 3;
+    parts.height = 2;
+    parts.pixels = std::string("\2\1\1\0\0\0\3\1\0\1", 10); // two red and a black one; three red
+    DIB image;
+    ASSERT_TRUE(image.ReadBMP(Write(parts.Bytes()).c_str()));
+    ASSERT_EQ(image.BitmapInfo()->bmiHeader.biSizeImage, 0U);
+    const DrawnOn target(3, 2);
+    EXPECT_NE(image.StretchDIBits(target.Dc(), 0, 0, 3, 2, SRCCOPY), 0);
+    EXPECT_EQ(target.Text(), "RRR|RR#");
+}
+
 TEST_F(DibRead, PcxOfOtherPrograms)
 {
     DIB image;
