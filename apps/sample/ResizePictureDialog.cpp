@@ -52,6 +52,7 @@ BOOL ResizePictureDialog::OnInitDialog()
     SetDlgItemInt(IDC_RESIZE_WIDTH, static_cast<UINT>(m_width));
     SetDlgItemInt(IDC_RESIZE_HEIGHT, static_cast<UINT>(m_height));
     m_isFollowing = false;
+    LetPassWhatFits();
     CenterWindow();
     return TRUE;
 }
@@ -73,8 +74,16 @@ void ResizePictureDialog::Follow(int typedId, int otherId, int typedBefore, int 
         SetDlgItemInt(otherId, static_cast<UINT>(std::max(1, MulDiv(typed, otherBefore, typedBefore))));
         m_isFollowing = false;
     }
-    const bool fits = typed >= 1 && typed <= kMost && Typed(otherId) >= 1 && Typed(otherId) <= kMost;
-    GetDlgItem(IDOK)->EnableWindow(fits);
+    LetPassWhatFits();
+}
+
+void ResizePictureDialog::LetPassWhatFits()
+{
+    const auto fits = [this](int id)
+    {
+        return Typed(id) >= 1 && Typed(id) <= kMost;
+    };
+    GetDlgItem(IDOK)->EnableWindow(fits(IDC_RESIZE_WIDTH) && fits(IDC_RESIZE_HEIGHT));
 }
 
 void ResizePictureDialog::OnWidth()

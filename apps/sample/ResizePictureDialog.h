@@ -23,6 +23,7 @@ protected:
 private:
     int Typed(int id) const;
     void Follow(int typedId, int otherId, int typedBefore, int otherBefore);
+    void LetPassWhatFits();
 
     int m_oldWidth;
     int m_oldHeight;

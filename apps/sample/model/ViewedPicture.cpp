@@ -1,16 +1,16 @@
 #include "apps/sample/model/ViewedPicture.h"
 
+#include "apps/chart/PictureFile.h"
 #include "apps/sample/model/SamplePicture.h"
 #include "apps/sample/model/SavePicture.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace
 {
-
-constexpr int kMostImages = 1000;
 
 struct Format
 {
@@ -20,18 +20,21 @@ struct Format
 
 constexpr Format kFormats[] = {{'B', "BMP"}, {10, "PCX"}, {'G', "GIF"}, {137, "PNG"}, {255, "JPEG"}};
 
+constexpr int kGifByte = 'G';
+
 struct FileStart
 {
-    int firstByte = -1;
+    int firstByte = -1; // of an empty file
     std::uint64_t size = 0;
 };
 
-FileStart StartOf(const std::string& path)
+/// Nothing for a file that there is not, or that may not be read.
+std::optional<FileStart> StartOf(const std::string& path)
 {
-    FileStart start;
     CFile file;
     if (!file.Open(path.c_str(), CFile::modeRead | CFile::shareDenyNone))
-        return start;
+        return std::nullopt;
+    FileStart start;
     unsigned char byte = 0;
     if (file.Read(&byte, 1) == 1)
         start.firstByte = byte;
@@ -45,17 +48,6 @@ const char* FormatName(int firstByte)
     return found == std::end(kFormats) ? "" : found->name;
 }
 
-/// How many images a GIF file has.
-int CountImages(const std::string& path)
-{
-    DIB image;
-    int transparent = -1;
-    int count = 0;
-    while (count < kMostImages && image.ReadGIF(path.c_str(), transparent, count))
-        ++count;
-    return count;
-}
-
 bool HasAlpha(const DIB& image)
 {
     if (image.Depth() != 32 || image.BitmapInfo()->bmiHeader.biCompression != BI_RGB)
@@ -67,6 +59,11 @@ bool HasAlpha(const DIB& image)
             return true;
     }
     return false;
+}
+
+std::string Unreadable(const std::string& path)
+{
+    return "This is no picture that can be read: " + path + ".";
 }
 
 /// 32 bits, with nothing where a pixel has the index.
@@ -85,19 +82,6 @@ DIB WithoutIndex(const DIB& image, int index)
     return made;
 }
 
-/// What GDI makes of it: for pixels that only GDI can read.
-DIB Drawn(const DIB& image)
-{
-    DIB made(image.Width(), -image.Height(), 24, 0, 1, nullptr, nullptr);
-    CDC memory;
-    if (made.DIBSect() == nullptr || !memory.CreateCompatibleDC(nullptr))
-        return made;
-    const HGDIOBJ before = ::SelectObject(memory, made.DIBSect());
-    image.StretchDIBits(memory, 0, 0, image.Width(), image.Height(), SRCCOPY);
-    ::SelectObject(memory, before);
-    return made;
-}
-
 std::string Number(std::uint64_t value)
 {
     std::string digits = std::to_string(value);
@@ -110,23 +94,48 @@ std::string Number(std::uint64_t value)
 
 std::string ViewedPicture::Open(const std::string& path)
 {
-    const FileStart start = StartOf(path);
-    DIB image;
-    if (!image.ReadUnknown(path.c_str()))
-        return start.firstByte < 0 ? "There is no readable file " + path + "."
-                                   : "This is no picture that can be read: " + path + ".";
+    const std::optional<FileStart> start = StartOf(path);
+    if (!start)
+        return "There is no readable file " + path + ".";
+    const bool isGif = start->firstByte == kGifByte;
+    auto image = std::make_unique<DIB>();
+    int transparent = -1;
+    if (!(isGif ? image->ReadGIF(path.c_str(), transparent, 0) : image->ReadUnknown(path.c_str())))
+        return Unreadable(path);
+    const bool isCompressed = vorn::chart::IsCompressed(*image);
+    if (isCompressed)
+        image = std::make_unique<DIB>(vorn::chart::DrawnBySystem(*image));
+    if (image->BitmapInfo() == nullptr)
+        return Unreadable(path);
+    if (!Take(std::move(image), transparent))
+        return "There is no memory to show the picture " + path + ".";
     m_path = path;
-    m_format = FormatName(start.firstByte);
-    m_fileSize = start.size;
+    m_format = std::string(FormatName(start->firstByte)) + (isCompressed ? ", compressed" : "");
+    m_fileSize = start->size;
     m_changes.clear();
     m_image = 0;
-    m_transparent = -1;
-    m_images = m_format == "GIF" ? CountImages(path) : 1;
-    if (m_format == "GIF")
-        image.ReadGIF(path.c_str(), m_transparent, 0);
-    m_picture = image;
-    MakeShown();
+    m_images = isGif ? vorn::chart::CountImages(path.c_str()) : 1;
     return {};
+}
+
+bool ViewedPicture::Take(std::unique_ptr<DIB> picture, int transparent)
+{
+    const bool hasAlpha = HasAlpha(*picture);
+    const int index = picture->Depth() <= 8 ? transparent : -1;
+    auto shown = std::make_unique<DIB>();
+    if (hasAlpha)
+        *shown = *picture;
+    else if (index >= 0)
+        *shown = WithoutIndex(*picture, index);
+    else
+        picture->To24Bit(shown.get());
+    if (shown->BitmapInfo() == nullptr)
+        return false;
+    m_shown = std::move(shown);
+    m_picture = std::move(picture);
+    m_hasAlpha = hasAlpha;
+    m_transparent = index;
+    return true;
 }
 
 void ViewedPicture::TakeSample()
@@ -137,23 +146,20 @@ void ViewedPicture::TakeSample()
     m_changes.clear();
     m_image = 0;
     m_images = 1;
-    m_transparent = -1;
-    m_picture = SamplePicture();
-    MakeShown();
+    Take(std::make_unique<DIB>(SamplePicture()), -1);
 }
 
 bool ViewedPicture::ShowImage(int number)
 {
-    DIB image;
+    auto image = std::make_unique<DIB>();
     int transparent = -1;
-    if (number < 0 || number >= m_images || !image.ReadGIF(m_path.c_str(), transparent, number))
+    if (number < 0 || number >= m_images || !image->ReadGIF(m_path.c_str(), transparent, number))
         return false;
-    m_picture = image;
-    m_picture.ImageNumber(number);
-    m_transparent = transparent;
+    image->ImageNumber(number);
+    if (!Take(std::move(image), transparent))
+        return false;
     m_image = number;
     m_changes.clear();
-    MakeShown();
     return true;
 }
 
@@ -169,35 +175,32 @@ int ViewedPicture::ImageCount() const
 
 bool ViewedPicture::Rotate(double degrees)
 {
-    const std::unique_ptr<DIB> turned(m_picture.Rotate(degrees, 1, RGB(255, 255, 255)));
-    if (turned == nullptr)
+    std::unique_ptr<DIB> turned(m_picture->Rotate(degrees, 1, RGB(255, 255, 255)));
+    if (turned == nullptr || !Take(std::move(turned), m_transparent))
         return false;
-    m_picture = *turned;
     m_changes = "turned";
-    MakeShown();
     return true;
 }
 
 bool ViewedPicture::Resize(int width, int height, bool byArea)
 {
+    auto made = std::make_unique<DIB>();
     const bool done =
-        byArea ? m_picture.HQResize(width, height, &m_picture) : m_picture.LQResize(width, height, &m_picture);
-    if (!done)
+        byArea ? made->HQResize(width, height, m_picture.get()) : made->LQResize(width, height, m_picture.get());
+    if (!done || !Take(std::move(made), -1)) // the new pixels have another table
         return false;
-    m_transparent = -1; // the new pixels have another table
     m_changes = byArea ? "resized by area" : "resized by the system";
-    MakeShown();
     return true;
 }
 
 std::string ViewedPicture::Save(const std::string& path) const
 {
-    return SavePicture(m_picture, path);
+    return SavePicture(*m_picture, path);
 }
 
 bool ViewedPicture::IsEmpty() const
 {
-    return m_picture.BitmapInfo() == nullptr;
+    return m_picture->BitmapInfo() == nullptr;
 }
 
 const std::string& ViewedPicture::Path() const
@@ -212,37 +215,22 @@ std::string ViewedPicture::Name() const
 
 int ViewedPicture::Width() const
 {
-    return m_picture.Width();
+    return m_picture->Width();
 }
 
 int ViewedPicture::Height() const
 {
-    return m_picture.Height();
+    return m_picture->Height();
 }
 
 const DIB& ViewedPicture::Shown() const
 {
-    return m_shown;
-}
-
-int ViewedPicture::TransparentIndex() const
-{
-    return m_picture.Depth() <= 8 ? m_transparent : -1;
-}
-
-void ViewedPicture::MakeShown()
-{
-    if (HasAlpha(m_picture))
-        m_shown = m_picture;
-    else if (TransparentIndex() >= 0)
-        m_shown = WithoutIndex(m_picture, m_transparent);
-    else if (!m_picture.To24Bit(&m_shown))
-        m_shown = Drawn(m_picture);
+    return *m_shown;
 }
 
 std::string ViewedPicture::DepthWords() const
 {
-    const int depth = m_picture.Depth();
+    const int depth = m_picture->Depth();
     const std::string bits = std::to_string(depth) + (depth == 1 ? " bit" : " bits");
     if (depth > 8)
         return bits;
@@ -251,9 +239,9 @@ std::string ViewedPicture::DepthWords() const
 
 std::string ViewedPicture::TransparencyWords() const
 {
-    if (HasAlpha(m_picture))
+    if (m_hasAlpha)
         return "alpha channel";
-    return TransparentIndex() >= 0 ? "index " + std::to_string(m_transparent) : "none";
+    return m_transparent >= 0 ? "index " + std::to_string(m_transparent) : "none";
 }
 
 vorn::ReportTable ViewedPicture::Facts() const
@@ -268,9 +256,9 @@ vorn::ReportTable ViewedPicture::Facts() const
     facts.AddRow({"Transparent", TransparencyWords()},
                  TransparencyWords() == "none" ? vorn::Tone::Muted : vorn::Tone::Plain);
     facts.AddRow({"Image", std::to_string(m_image + 1) + " of " + std::to_string(m_images)});
-    const bool isTopDown = !IsEmpty() && m_picture.BitmapInfo()->bmiHeader.biHeight < 0;
+    const bool isTopDown = !IsEmpty() && m_picture->BitmapInfo()->bmiHeader.biHeight < 0;
     facts.AddRow({"Rows", isTopDown ? "top-down" : "bottom-up"});
-    facts.AddRow({"Bytes a row", Number(static_cast<std::uint64_t>(m_picture.BytesPerScan()))});
+    facts.AddRow({"Bytes a row", Number(static_cast<std::uint64_t>(m_picture->BytesPerScan()))});
     facts.AddRow({"File", m_fileSize == 0 ? "none" : Number(m_fileSize) + " bytes"},
                  m_fileSize == 0 ? vorn::Tone::Muted : vorn::Tone::Plain);
     facts.AddRow({"Changes", m_changes.empty() ? "none" : m_changes},

@@ -4,6 +4,7 @@
 
 #include <VornCommon.h>
 
+#include <memory>
 #include <string>
 
 /// The picture that the viewer shows, and where it came from.
@@ -34,22 +35,24 @@ public:
     std::string Name() const;
     int Width() const;
     int Height() const;
-    /// In 24 bits, or in 32 where the fourth byte tells how far a pixel covers what is behind it.
+    /// In 24 bits, or in 32 where the fourth byte tells how far a pixel covers what is behind it. Another object after
+    /// each change.
     const DIB& Shown() const;
     vorn::ReportTable Facts() const;
 
 private:
-    void MakeShown();
+    /// With the index of a transparent colour, or -1. False, and no change, without the memory to show it.
+    bool Take(std::unique_ptr<DIB> picture, int transparent);
     std::string DepthWords() const;
     std::string TransparencyWords() const;
-    int TransparentIndex() const;
 
     std::string m_path;
     std::string m_format;
     std::string m_changes; // since it was read
-    DIB m_picture;
-    DIB m_shown;
-    int m_transparent = -1;
+    std::unique_ptr<DIB> m_picture = std::make_unique<DIB>();
+    std::unique_ptr<DIB> m_shown = std::make_unique<DIB>();
+    bool m_hasAlpha = false;
+    int m_transparent = -1; // the index
     int m_images = 1;
     int m_image = 0;
     std::uint64_t m_fileSize = 0;

@@ -20,6 +20,26 @@ std::string SizeWords(const ViewedPicture& picture)
     return std::to_string(picture.Width()) + " x " + std::to_string(picture.Height()) + " pixels";
 }
 
+/// What a picture of 32 bits is on paper, in 24 bits, its rows from the top. Empty without memory.
+DIB OnWhite(const DIB& picture)
+{
+    DIB made(picture.Width(), -picture.Height(), 24, DIB_RGB_COLORS, 0, nullptr, nullptr);
+    const bool isTopDown = picture.BitmapInfo()->bmiHeader.biHeight < 0;
+    for (int y = 0; made.Bits() != nullptr && y < picture.Height(); ++y)
+    {
+        const int stored = isTopDown ? y : picture.Height() - 1 - y;
+        const BYTE* from = picture.Bits() + static_cast<std::ptrdiff_t>(stored) * picture.BytesPerScan();
+        BYTE* to = made.Bits() + static_cast<std::ptrdiff_t>(y) * made.BytesPerScan();
+        for (int x = 0; x < picture.Width(); ++x, from += 4, to += 3)
+            std::transform(from, from + 3, to,
+                           [alpha = from[3]](BYTE color)
+                           {
+                               return static_cast<BYTE>((color * alpha + 255 * (255 - alpha) + 127) / 255);
+                           });
+    }
+    return made;
+}
+
 } // namespace
 
 const char* PicturePage::Name() const
@@ -132,9 +152,9 @@ void PicturePage::Open(const std::string& path)
         Say(problem, Notice::News::Bad);
         return LogNote(LOG_WARNING, problem);
     }
+    ShowPicture();
     LogNote(LOG_INFO, "Opened the picture " + path);
     Say("Opened " + m_picture.Name() + ": " + SizeWords(m_picture) + ".", Notice::News::Good);
-    ShowPicture();
 }
 
 void PicturePage::AskForPicture()
@@ -162,25 +182,25 @@ void PicturePage::AskForSize()
         return;
     if (!m_picture.Resize(dialog.Width(), dialog.Height(), dialog.IsByArea()))
         return Say("The picture could not be resized.", Notice::News::Bad);
-    Say("Resized to " + SizeWords(m_picture) + ".", Notice::News::Good);
     ShowPicture();
+    Say("Resized to " + SizeWords(m_picture) + ".", Notice::News::Good);
 }
 
 void PicturePage::ShowImage(int number)
 {
     if (!m_picture.ShowImage(number))
         return Say("This image cannot be read.", Notice::News::Bad);
+    ShowPicture();
     Say("Image " + std::to_string(number + 1) + " of " + std::to_string(m_picture.ImageCount()) + ".",
         Notice::News::Plain);
-    ShowPicture();
 }
 
 void PicturePage::Turn(double degrees)
 {
     if (!m_picture.Rotate(degrees))
         return Say("The picture could not be turned.", Notice::News::Bad);
-    Say("Turned: " + SizeWords(m_picture) + ".", Notice::News::Good);
     ShowPicture();
+    Say("Turned: " + SizeWords(m_picture) + ".", Notice::News::Good);
 }
 
 void PicturePage::ShowPicture()
@@ -227,6 +247,9 @@ void PicturePage::Print(CDC& dc, const CRect& area, const Theme& theme) const
         return;
     const double zoom =
         std::min(static_cast<double>(area.Width()) / shown.Width(), static_cast<double>(room) / shown.Height());
-    shown.StretchDIBits(dc, area.left, top.bottom + theme.Px(20), static_cast<int>(shown.Width() * zoom),
-                        static_cast<int>(shown.Height() * zoom), SRCCOPY);
+    const int width = std::max(1, static_cast<int>(shown.Width() * zoom));
+    const int height = std::max(1, static_cast<int>(shown.Height() * zoom));
+    const DIB paper = shown.Depth() == 32 ? OnWhite(shown) : DIB();
+    const DIB& printed = paper.BitmapInfo() != nullptr ? paper : shown;
+    printed.StretchDIBits(dc, area.left, top.bottom + theme.Px(20), width, height, SRCCOPY);
 }

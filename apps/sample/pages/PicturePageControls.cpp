@@ -18,7 +18,7 @@ constexpr int kGroupGap = 16;
 constexpr int kRow = 24;
 constexpr int kTitleHeight = 22;
 constexpr int kNoteHeight = 18;
-constexpr int kSideWidth = 262;
+constexpr int kSideWidth = 290;
 constexpr int kWide = 620; // below it there is no room for the facts
 constexpr int kSmall = 28;
 constexpr int kUsual = 72;
@@ -53,12 +53,12 @@ CRect TakeTop(CRect& rest, int height, int gap)
     return piece;
 }
 
-void DrawWords(CDC& dc, CRect area, const std::string& words, const CFont& font, COLORREF color)
+void DrawWords(CDC& dc, CRect area, const std::string& words, const CFont& font, COLORREF color, UINT ellipsis)
 {
     CFont* const before = dc.SelectObject(const_cast<CFont*>(&font));
     dc.SetTextColor(color);
     dc.SetBkMode(TRANSPARENT);
-    dc.DrawText(words.c_str(), -1, &area, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_PATH_ELLIPSIS);
+    dc.DrawText(words.c_str(), -1, &area, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | ellipsis);
     dc.SelectObject(before);
 }
 
@@ -115,8 +115,9 @@ PicturePage::Places PicturePage::PlacesIn(const CRect& area, const Theme& theme)
 void PicturePage::Paint(CDC& dc, const CRect& area, const Theme& theme) const
 {
     const Places places = PlacesIn(area, theme);
-    DrawWords(dc, places.title, m_picture.Name(), theme.heading, theme.accent);
-    DrawWords(dc, places.note, Note(), theme.note, theme.muted);
+    DrawWords(dc, places.title, m_picture.Name(), theme.heading, theme.accent, DT_END_ELLIPSIS);
+    DrawWords(dc, places.note, Note(), theme.note, theme.muted,
+              m_picture.Path().empty() ? DT_END_ELLIPSIS : DT_PATH_ELLIPSIS);
     CRect frame(places.pane);
     frame.InflateRect(1, 1);
     dc.FillSolidRect(&frame, theme.border);

@@ -75,6 +75,7 @@ ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDBLCLK()
 ON_WM_MOUSEMOVE()
+ON_WM_CAPTURECHANGED()
 ON_WM_MOUSEWHEEL()
 ON_WM_SETCURSOR()
 ON_WM_SETFOCUS()
@@ -93,12 +94,6 @@ void PicturePane::Show(const DIB* picture)
     m_picture = picture != nullptr && picture->BitmapInfo() != nullptr ? picture : nullptr;
     m_zoom.SetPicture(m_picture != nullptr ? vorn::Extents{picture->Width(), picture->Height()} : vorn::Extents{});
     Changed();
-}
-
-void PicturePane::Redraw()
-{
-    m_isScaled = false;
-    Invalidate(FALSE);
 }
 
 void PicturePane::Fit()
@@ -276,10 +271,14 @@ void PicturePane::OnLButtonDown(UINT, CPoint point)
 
 void PicturePane::OnLButtonUp(UINT, CPoint)
 {
-    if (!m_isDragging)
-        return;
+    if (m_isDragging)
+        ReleaseCapture();
+}
+
+void PicturePane::OnCaptureChanged(CWnd* to)
+{
+    CWnd::OnCaptureChanged(to);
     m_isDragging = false;
-    ReleaseCapture();
 }
 
 void PicturePane::OnLButtonDblClk(UINT, CPoint)

@@ -22,8 +22,6 @@ public:
 
     /// Shows a picture of 24 or 32 bits as a whole; null for none. It must outlive its use here.
     void Show(const DIB* picture);
-    /// The picture has changed, not in size: it stays where it is.
-    void Redraw();
 
     void Fit();
     void ShowActualSize();
@@ -43,6 +41,7 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* to);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hit, UINT message);
     afx_msg void OnSetFocus(CWnd* before);

@@ -1,5 +1,6 @@
 #include "config/DefinedPathSetting.h"
 #include "files/DIB.h"
+#include "tests/support/PictureBytes.h"
 #include "tests/support/PumpUntil.h"
 #include "tests/support/ScratchFolder.h"
 #include "tests/support/ScratchKey.h"
@@ -193,6 +194,40 @@ TEST_F(SamplePictures, ReportFilesThatAreNone)
     const std::string text = m_folder.Write("text.png", "no picture");
     EXPECT_EQ(Run("--picture \"" + text + "\" --summary"), 1u);
     EXPECT_EQ(m_folder.Read("output.txt"), "VornSample: This is no picture that can be read: " + text + ".\n");
+    const std::string empty = m_folder.Write("empty.png", "");
+    EXPECT_EQ(Run("--picture \"" + empty + "\" --summary"), 1u);
+    EXPECT_EQ(m_folder.Read("output.txt"), "VornSample: This is no picture that can be read: " + empty + ".\n");
+}
+
+TEST_F(SamplePictures, AreCountedFastWhereAFileHasMany)
+{
+    std::string many(ThreeImages());
+    const std::string images = many.substr(13, many.size() - 14);
+    many.pop_back();
+    for (int i = 1; i < 300; ++i)
+        many += images;
+    const std::string gif = m_folder.Write("many.gif", many + ';');
+    EXPECT_EQ(Run("--picture \"" + gif + "\" --summary"), 0u);
+    EXPECT_TRUE(HasLine("Image", "1 of 900"));
+}
+
+// Runs of pixels in a bitmap file: the library keeps them as they are, the system draws them.
+TEST_F(SamplePictures, AreThoseThatTheSystemDrawsWhereTheirPixelsAreCompressed)
+{
+    vorn::test::BmpParts parts;
+    parts.width = 2;
+    parts.depth = 8;
+    parts.compression = BI_RLE8;
+    parts.usedColors = 2;
+    parts.behindHeader = std::string("\0\0\0\0\0\0\xFF\0", 8);
+    parts.pixels = std::string("\2\1\0\1", 4);
+    const std::string packed = m_folder.Write("packed.bmp", parts.Bytes());
+    EXPECT_EQ(Run("--picture \"" + packed + "\" --summary"), 0u);
+    EXPECT_TRUE(HasLine("Format", "BMP, compressed"));
+    Start(packed);
+    Push(kRight);
+    EXPECT_TRUE(NoticeBecomes("Turned: 1 x 2 pixels.")) << TextOf(Control(kNotice));
+    End();
 }
 
 TEST_F(SamplePictures, AreShownPixelByPixel)
@@ -265,6 +300,23 @@ TEST_F(SamplePictures, TakeANewSizeInProportion)
     EXPECT_EQ(TextOf(GetDlgItem(dialog, kHeight)), "6");
     Click(dialog, IDOK);
     EXPECT_TRUE(NoticeBecomes("Resized to 100 x 6 pixels."));
+    End();
+}
+
+TEST_F(SamplePictures, WiderThanANewSizeMayBeAreNotResizedToTheLargestOneUnasked)
+{
+    DIB wide(20001, 1, 1, 0, 0, nullptr, nullptr);
+    const std::string path = m_folder.File("wide.png");
+    ASSERT_TRUE(wide.WritePNG(path.c_str()));
+    Start(path);
+    Push(kResize);
+    const HWND dialog = m_sample->Dialog();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(TextOf(GetDlgItem(dialog, kWidth)), "20001");
+    EXPECT_FALSE(IsWindowEnabled(GetDlgItem(dialog, IDOK)));
+    SendMessageA(GetDlgItem(dialog, kWidth), WM_SETTEXT, 0, reinterpret_cast<LPARAM>("20000"));
+    EXPECT_TRUE(IsWindowEnabled(GetDlgItem(dialog, IDOK)));
+    Click(dialog, IDCANCEL);
     End();
 }
 
