@@ -5,6 +5,7 @@
 #include "apps/vorntool/ToolFailure.h"
 #include "apps/vorntool/ToolHost.h"
 #include "apps/vorntool/core/ChartWords.h"
+#include "apps/vorntool/core/JsonWriter.h"
 
 #include "apps/chart/Chart.h"
 
@@ -73,10 +74,10 @@ std::vector<std::string> ProjectionNames()
     }
 }
 
-/// What is wrong with the words of the call; empty when nothing is.
+/// What the words of the call ask for.
 struct Wish
 {
-    std::string problem;
+    std::string problem; ///< what is wrong with them; empty when nothing is
     PictureSize size{kDefaultWidth, kDefaultHeight};
     std::optional<ViewDefinition> view;
     std::optional<ChartPlace> centre;
@@ -157,6 +158,19 @@ ExitStatus Fail(const Command& self, Output& output, ExitStatus status, const st
     return status;
 }
 
+std::string ResultText(const Invocation& call, const chart::Chart& chart)
+{
+    ViewDefinition view;
+    chart.Store(view);
+    const std::string text = view.Format().GetString();
+    if (!call.Has("json"))
+        return text + '\n';
+    JsonWriter json;
+    json.BeginObject().Name("file").Text(call.ValueOf("out", "")).Name("width").Whole(chart.View().Width());
+    json.Name("height").Whole(chart.View().Height()).Name("scale").Whole(std::llround(chart.View().Scale()));
+    return json.Name("view").Text(text).EndObject().Line();
+}
+
 ExitStatus RenderChart(const Command& self, const Invocation& call, Output& output)
 {
     const Wish wish = WishOf(call);
@@ -167,7 +181,10 @@ ExitStatus RenderChart(const Command& self, const Invocation& call, Output& outp
     const ToolHost host;
     const NightScope night(call.Has("night"));
     chart::Chart chart;
-    const std::string folder = call.Has("data") ? FolderIn(call.ValueOf("data", "")) : OwnData();
+    const std::string named = call.ValueOf("data", "");
+    const std::string folder = call.Has("data") ? FolderIn(named) : OwnData();
+    if (folder.empty())
+        return Fail(self, output, ExitStatus::WrongUse, Quoted(named) + " cannot be the name of a folder");
     if (const std::string missing = chart.Load(folder); !missing.empty())
         return Fail(self, output, ExitStatus::Refused,
                     "cannot open " + missing + " in " + Quoted(Utf8FromLibrary(folder)));
@@ -187,9 +204,7 @@ ExitStatus RenderChart(const Command& self, const Invocation& call, Output& outp
     {
         return Fail(self, output, failure.Status(), failure.what());
     }
-    ViewDefinition view;
-    chart.Store(view);
-    output.text = std::string(view.Format().GetString()) + '\n';
+    output.text = ResultText(call, chart);
     return ExitStatus::Done;
 }
 
@@ -205,7 +220,7 @@ constexpr const char* kDetails =
 const CommandGroup& ChartCommands()
 {
     static const Option options[] = {
-        {"view", "TEXT", "show this view; projection, centre and scale stand in it"},
+        {"view", "TEXT", "show this view; centre and scale stand in it, and a projection unless one is named"},
         {"center", "LAT,LON", "show the surroundings of a position, in degrees"},
         {"scale", "N", "the scale 1:N at the centre, for a screen of 96 dots an inch; N from 100000 to 60000000"},
         {"size", "WxH", "size of the picture in pixels; 1200x900 unless given"},

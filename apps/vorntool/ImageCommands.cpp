@@ -1,3 +1,4 @@
+#include "apps/chart/PictureFile.h"
 #include "apps/vorntool/CommandRun.h"
 #include "apps/vorntool/Commands.h"
 #include "apps/vorntool/ImagePicture.h"
@@ -38,6 +39,12 @@ void Read(const Invocation& call, ImagePicture& picture)
     ReadPicture(call.values[0], TakeNumber(call, kFrame, 0, 0, INT_MAX), picture);
 }
 
+void ReadPixels(const Invocation& call, ImagePicture& picture)
+{
+    Read(call, picture);
+    Decompress(call.values[0], picture);
+}
+
 ImageWriting TakeWriting(const Invocation& call, const std::string& name)
 {
     const auto kind = ImageKindOf(name);
@@ -72,18 +79,24 @@ int TableColors(const DIB& dib)
     return header.biClrUsed != 0 ? static_cast<int>(header.biClrUsed) : 1 << header.biBitCount;
 }
 
+std::string RowsText(const DIB& dib)
+{
+    return std::string(IsTopDown(dib) ? "from the top" : "from the bottom") +
+           (chart::IsCompressed(dib) ? ", compressed" : ", " + std::to_string(dib.BytesPerScan()) + " bytes each");
+}
+
 std::string InfoText(const std::string& name, const ImagePicture& picture)
 {
     const DIB& dib = picture.dib;
     const int colors = TableColors(dib);
     return LinedUp({{"File", name},
                     {"Format", picture.format},
+                    {"Images", std::to_string(CountFrames(name, picture))},
                     {"Size", SizeText(dib)},
                     {"Depth", std::to_string(dib.Depth()) + (dib.Depth() == 1 ? " bit" : " bits") + " a pixel"},
                     {"Colours", colors == 0 ? "no table" : std::to_string(colors) + " in the table"},
                     {"Transparent", picture.transparent < 0 ? "" : "colour " + std::to_string(picture.transparent)},
-                    {"Rows", std::string(IsTopDown(dib) ? "from the top" : "from the bottom") + ", " +
-                                 std::to_string(dib.BytesPerScan()) + " bytes each"}});
+                    {"Rows", RowsText(dib)}});
 }
 
 std::string InfoJson(const std::string& name, const ImagePicture& picture)
@@ -91,10 +104,12 @@ std::string InfoJson(const std::string& name, const ImagePicture& picture)
     const DIB& dib = picture.dib;
     JsonWriter json;
     json.BeginObject().Name("file").Text(name).Name("format").Text(picture.format);
+    json.Name("images").Whole(CountFrames(name, picture));
     json.Name("width").Whole(dib.Width()).Name("height").Whole(dib.Height()).Name("depth").Whole(dib.Depth());
     json.Name("colours").Whole(TableColors(dib)).Name("transparent");
     picture.transparent < 0 ? json.Null() : json.Whole(picture.transparent);
     json.Name("topDown").Flag(IsTopDown(dib)).Name("bytesPerRow").Whole(dib.BytesPerScan());
+    json.Name("compressed").Flag(chart::IsCompressed(dib));
     return json.EndObject().Line();
 }
 
@@ -123,7 +138,7 @@ void Convert(const Invocation& call, Output& output)
 {
     const ImageWriting how = TakeWriting(call, call.values[1]);
     ImagePicture picture;
-    Read(call, picture);
+    ReadPixels(call, picture);
     Finish(call, picture.dib, call.values[1], how, output);
 }
 
@@ -133,16 +148,17 @@ void Resize(const Invocation& call, Output& output)
     const ImageWriting how = TakeWriting(call, call.values[2]);
     if (!ParseImageSize(word, {1, 1}) && !ParseImageSize(word, {kMostImageSide, kMostImageSide}))
     {
-        throw ToolWrongUse(Quoted(word) + " is no size such as 400x300, 400x, x300 or 50%");
+        throw ToolWrongUse(Quoted(word) + " is no size such as 400x300, 400x, x300 or 50%, with sides up to " +
+                           std::to_string(kMostImageSide));
     }
     ImagePicture picture;
-    Read(call, picture);
+    ReadPixels(call, picture);
     const auto size = ParseImageSize(word, {picture.dib.Width(), picture.dib.Height()});
     DIB made;
     if (!size || !(call.Has(kQuick.name) ? made.LQResize(size->width, size->height, &picture.dib)
                                          : made.HQResize(size->width, size->height, &picture.dib)))
     {
-        throw ToolFailure(Quoted(call.values[0]) + " cannot be made " + Quoted(word));
+        throw ToolFailure(Quoted(call.values[0]) + " cannot be made " + Quoted(word) + ": that is too large");
     }
     Finish(call, made, call.values[2], how, output);
 }
@@ -173,11 +189,11 @@ void Rotate(const Invocation& call, Output& output)
     const COLORREF background = TakeBackground(call);
     const ImageWriting how = TakeWriting(call, call.values[2]);
     ImagePicture picture;
-    Read(call, picture);
+    ReadPixels(call, picture);
     const std::unique_ptr<DIB> made(picture.dib.Rotate(degrees, call.Has(kGrow.name), background));
     if (!made)
     {
-        throw ToolFailure(Quoted(call.values[0]) + " cannot be turned");
+        throw ToolFailure(Quoted(call.values[0]) + " cannot be turned: the result is too large");
     }
     Finish(call, *made, call.values[2], how, output);
 }

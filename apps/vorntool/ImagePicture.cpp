@@ -1,5 +1,6 @@
 #include "apps/vorntool/ImagePicture.h"
 
+#include "apps/chart/PictureFile.h"
 #include "apps/vorntool/DbfOutput.h"
 #include "apps/vorntool/SystemErrors.h"
 #include "apps/vorntool/TextConversion.h"
@@ -36,12 +37,37 @@ std::string FormatOf(const std::string& name)
     return std::string(ImageFormatName(std::span(head).first(static_cast<std::size_t>(file.gcount()))));
 }
 
-/// A name beside a file, which goes with whatever stands there unless it has been moved.
+std::string WhyUnread(const std::string& name, int frame, const std::string& format)
+{
+    if (frame != 0)
+    {
+        return Quoted(name) + " has no frame " + std::to_string(frame) + " that can be read";
+    }
+    return Quoted(name) + (format == "unknown" ? " is no BMP, PCX, GIF, PNG or JPEG file"
+                                               : " is a " + format +
+                                                     " file that is damaged, too large or of a kind that "
+                                                     "is not read");
+}
+
+[[noreturn]] void FailToWrite(const std::string& name)
+{
+    const DWORD code = GetLastError();
+    throw ToolFailure(Quoted(name) + " cannot be written: " + SystemError(code));
+}
+
+/// An empty file beside another one, which goes with whatever is written there unless it has been moved.
 class Unfinished
 {
 public:
-    explicit Unfinished(const std::filesystem::path& path) : m_path(UnusedBeside(path))
+    /// @param name of the file, for the reason why none can be made beside it
+    Unfinished(const std::filesystem::path& path, const std::string& name) : m_path(UnusedBeside(path))
     {
+        const HANDLE file = CreateFileW(m_path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+        if (file == INVALID_HANDLE_VALUE)
+        {
+            FailToWrite(name);
+        }
+        CloseHandle(file);
     }
     ~Unfinished()
     {
@@ -93,8 +119,25 @@ void ReadPicture(const std::string& name, int frame, ImagePicture& picture)
         picture.format == "GIF" ? picture.dib.ReadGIF(path, picture.transparent, frame) : picture.dib.ReadUnknown(path);
     if (!isRead)
     {
-        throw ToolFailure(Quoted(name) + (frame != 0 ? " has no frame " + std::to_string(frame) + " that can be read"
-                                                     : " is no picture that can be read"));
+        throw ToolFailure(WhyUnread(name, frame, picture.format));
+    }
+}
+
+int CountFrames(const std::string& name, const ImagePicture& picture)
+{
+    return picture.format == "GIF" ? chart::CountImages(NameForLibrary(name)) : 1;
+}
+
+void Decompress(const std::string& name, ImagePicture& picture)
+{
+    if (!chart::IsCompressed(picture.dib))
+    {
+        return;
+    }
+    picture.dib = chart::DrawnBySystem(picture.dib);
+    if (picture.dib.BitmapInfo() == nullptr)
+    {
+        throw ToolFailure(Quoted(name) + " has compressed pixels that the system cannot draw");
     }
 }
 
@@ -102,11 +145,16 @@ void WritePicture(const DIB& dib, const std::string& name, const ImageWriting& h
 {
     NameForLibrary(name);
     const std::filesystem::path path = PathFromUtf8(name);
-    if (GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES && !how.mayReplace)
+    const DWORD there = GetFileAttributesW(path.c_str());
+    if (there != INVALID_FILE_ATTRIBUTES && (there & FILE_ATTRIBUTE_DIRECTORY) != 0)
+    {
+        throw ToolFailure(Quoted(name) + " is a folder");
+    }
+    if (there != INVALID_FILE_ATTRIBUTES && !how.mayReplace)
     {
         throw ToolFailure(Quoted(name) + " exists; --force replaces it");
     }
-    const Unfinished unfinished(path);
+    const Unfinished unfinished(path, name);
     const CString written = NameForLibrary(Utf8FromWide(unfinished.Path().native()));
     if (!WriteAs(dib, written, how))
     {
@@ -114,7 +162,7 @@ void WritePicture(const DIB& dib, const std::string& name, const ImageWriting& h
     }
     if (!MoveOver(unfinished.Path(), path))
     {
-        throw ToolFailure(Quoted(name) + " cannot be replaced");
+        FailToWrite(name);
     }
 }
 

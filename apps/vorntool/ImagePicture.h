@@ -18,9 +18,16 @@ struct ImagePicture
     int transparent = -1;
 };
 
-/// Reads a file (UTF-8 name); `frame` counts the images of a GIF file, of others there is frame 0 alone. An
-/// ToolFailure when there is no picture to be read.
+/// Reads a file (UTF-8 name); `frame` counts the images of a GIF file, of others there is frame 0 alone. A ToolFailure
+/// when there is no picture to be read.
 void ReadPicture(const std::string& name, int frame, ImagePicture& picture);
+
+/// How many images a file has that ReadPicture() reads, as far as they are counted.
+int CountFrames(const std::string& name, const ImagePicture& picture);
+
+/// Makes compressed pixels, which only the system can read, those of a picture of 24 bits. A ToolFailure when it
+/// cannot.
+void Decompress(const std::string& name, ImagePicture& picture);
 
 /// How a picture is written.
 struct ImageWriting

@@ -84,6 +84,19 @@ TEST_F(ChartTool, DrawsTheSameViewAgainFromItsText)
     }
 }
 
+TEST_F(ChartTool, TellsItsViewAsJson)
+{
+    const std::string out = m_folder.File("a.png");
+    const ToolRun run = RunVornTool({"chart", "render", "--json", "--size", "64x48", "--scale", "2e6", "--center",
+                                     "47,-120", "--projection", "Mercator", "--out", out});
+    EXPECT_EQ(run.errors, "");
+    EXPECT_TRUE(run.text.starts_with("{\"file\":\"")) << run.text;
+    EXPECT_NE(run.text.find("a.png\",\"width\":64,\"height\":48,\"scale\":2000000,\"view\":\"v1|1|1|0|"),
+              std::string::npos)
+        << run.text;
+    EXPECT_TRUE(run.text.ends_with("|180|0|47|-120|\"}\n")) << run.text;
+}
+
 TEST_F(ChartTool, KeepsTheParametersOfAView)
 {
     const std::string view = Render("a.png", {"--size", "64x48", "--view", "v1|2|2|20|70|0|0|0|0|5000|180|0|47|-120|"});
@@ -176,8 +189,11 @@ TEST_F(ChartTool, RefusesWhatCannotBeDone)
     ExpectFailure({"chart", "render", "--out", out, "--data", folder}, 1,
                   "vorntool chart render: cannot open navaids.dbf, runways.dbf, shores.dbf in '" + folder + "\\'");
     const std::string nowhere = m_folder.File("no such folder\\x.png");
-    ExpectFailure({"chart", "render", "--size", "32x32", "--out", nowhere}, 1,
-                  "vorntool chart render: '" + nowhere + "' could not be written");
+    const ToolRun run = RunVornTool({"chart", "render", "--size", "32x32", "--out", nowhere});
+    EXPECT_EQ(run.status, 1u);
+    EXPECT_NE(run.errors.find("x.png' cannot be written: error 3"), std::string::npos) << run.errors;
+    ExpectFailure({"chart", "render", "--out", out, "--data", "\xE6\x97\xA5"}, 2,
+                  "vorntool chart render: '\xE6\x97\xA5' cannot be the name of a folder");
     const std::string old = m_folder.Write("old.png", "something");
     ExpectFailure({"chart", "render", "--size", "32x32", "--out", old}, 1,
                   "vorntool chart render: '" + old + "' exists; --force replaces it");

@@ -2,6 +2,8 @@
 #include "tests/support/ScratchFolder.h"
 #include "tests/windows/vorntool/ToolProcess.h"
 
+#include <windows.h>
+
 using namespace vorn::test;
 
 namespace
@@ -41,6 +43,12 @@ std::string RowsOfBmp(const std::string& file)
 class ImageTool : public testing::Test
 {
 protected:
+    ImageTool()
+    {
+        // The first program that draws starts the desktop, which then holds what it was given: not the tool's pipes.
+        ReleaseDC(nullptr, GetDC(nullptr));
+    }
+
     /// Runs the tool for the picture into a file of this name, and gives the file.
     std::string Made(const std::vector<std::string>& words, const std::string& name) const
     {
@@ -60,6 +68,7 @@ TEST_F(ImageTool, InfoTellsWhatTheFileHolds)
     ExpectDone({"image", "info", m_bmp}, "File         " + m_bmp +
                                              "\n"
                                              "Format       BMP\n"
+                                             "Images       1\n"
                                              "Size         3 x 2 pixels\n"
                                              "Depth        24 bits a pixel\n"
                                              "Colours      no table\n"
@@ -71,8 +80,8 @@ TEST_F(ImageTool, InfoTellsTheTransparentColorOfAFrame)
 {
     const std::string gif = m_folder.Write("in.gif", TwoFrames());
     const ToolRun first = RunVornTool({"image", "info", gif, "--json"});
-    EXPECT_NE(first.text.find("\"format\":\"GIF\",\"width\":1,\"height\":1,\"depth\":8,\"colours\":256,"
-                              "\"transparent\":null,\"topDown\":true,\"bytesPerRow\":4}\n"),
+    EXPECT_NE(first.text.find("\"format\":\"GIF\",\"images\":2,\"width\":1,\"height\":1,\"depth\":8,\"colours\":256,"
+                              "\"transparent\":null,\"topDown\":true,\"bytesPerRow\":4,\"compressed\":false}\n"),
               std::string::npos)
         << first.text;
     const ToolRun second = RunVornTool({"image", "info", gif, "--frame", "1"});
@@ -139,14 +148,17 @@ TEST_F(ImageTool, FilesThatExistAreReplacedByForceAlone)
 TEST_F(ImageTool, WhatIsNoPictureIsRefused)
 {
     const std::string text = m_folder.Write("text.png", "no picture");
-    ExpectFailure({"image", "info", text}, 1, "vorntool image info: '" + text + "' is no picture that can be read");
+    ExpectFailure({"image", "info", text}, 1,
+                  "vorntool image info: '" + text + "' is no BMP, PCX, GIF, PNG or JPEG file");
     const std::string empty = m_folder.Write("empty", "");
-    ExpectFailure({"image", "info", empty}, 1, "vorntool image info: '" + empty + "' is no picture that can be read");
+    ExpectFailure({"image", "info", empty}, 1,
+                  "vorntool image info: '" + empty + "' is no BMP, PCX, GIF, PNG or JPEG file");
     ExpectFailure({"image", "info", m_bmp, "--frame=1"}, 1,
                   "vorntool image info: '" + m_bmp + "' is no GIF file and has no frame 1");
     const std::string cut = m_folder.Write("cut.bmp", TwoRows().substr(0, 60));
     ExpectFailure({"image", "convert", cut, m_out}, 1,
-                  "vorntool image convert: '" + cut + "' is no picture that can be read");
+                  "vorntool image convert: '" + cut +
+                      "' is a BMP file that is damaged, too large or of a kind that is not read");
     EXPECT_EQ(m_folder.Read("out.bmp"), "") << "nothing is left behind";
 }
 
@@ -156,8 +168,30 @@ TEST_F(ImageTool, FilesThatAreNotThereAndFoldersAreRefused)
     EXPECT_EQ(run.status, 1u);
     EXPECT_NE(run.errors.find("missing.png' cannot be opened"), std::string::npos) << run.errors;
     const std::string nowhere = m_folder.File("none") + "\\out.png";
-    ExpectFailure({"image", "convert", m_bmp, nowhere}, 1,
-                  "vorntool image convert: '" + nowhere + "' could not be written");
+    const ToolRun written = RunVornTool({"image", "convert", m_bmp, nowhere});
+    EXPECT_EQ(written.status, 1u);
+    EXPECT_NE(written.errors.find("out.png' cannot be written: error 3"), std::string::npos) << written.errors;
+    const std::string folder = m_folder.File("folder.png");
+    CreateDirectoryA(folder.c_str(), nullptr);
+    ExpectFailure({"image", "convert", m_bmp, folder, "--force"}, 1,
+                  "vorntool image convert: '" + folder + "' is a folder");
+}
+
+// Two pixels of 8 bits in one run: the library has no rows of them, the system has.
+TEST_F(ImageTool, CompressedPixelsAreDrawnByTheSystem)
+{
+    BmpParts parts;
+    parts.width = 2;
+    parts.depth = 8;
+    parts.compression = BI_RLE8;
+    parts.usedColors = 2;
+    parts.behindHeader = std::string("\0\0\0\0", 4) + kRed + '\0';
+    parts.pixels = std::string("\2\1\0\1", 4);
+    const std::string packed = m_folder.Write("packed.bmp", parts.Bytes());
+    const ToolRun info = RunVornTool({"image", "info", packed});
+    EXPECT_NE(info.text.find("Rows         from the bottom, compressed\n"), std::string::npos) << info.text;
+    EXPECT_EQ(RowsOfBmp(Made({"image", "convert", packed, m_out}, "out.bmp")), kRed + kRed + std::string(2, '\0'));
+    EXPECT_EQ(RowsOfBmp(Made({"image", "resize", packed, "1x1", m_out, "--force"}, "out.bmp")), kRed + '\0');
 }
 
 TEST_F(ImageTool, WrongWordsAreWrongUse)
@@ -172,7 +206,8 @@ TEST_F(ImageTool, WrongWordsAreWrongUse)
     ExpectFailure({"image", "info", m_bmp, "--frame=-1"}, 2,
                   "vorntool image info: --frame takes a whole number from 0 to 2147483647");
     ExpectFailure({"image", "resize", m_bmp, "big", png}, 2,
-                  "vorntool image resize: 'big' is no size such as 400x300, 400x, x300 or 50%");
+                  "vorntool image resize: 'big' is no size such as 400x300, 400x, x300 or 50%, with sides "
+                  "up to 65500");
     ExpectFailure({"image", "rotate", m_bmp, "left", png}, 2, "vorntool image rotate: 'left' is no number of degrees");
     ExpectFailure({"image", "rotate", m_bmp, "1", png, "--background=green"}, 2,
                   "vorntool image rotate: --background takes six hexadecimal digits, RRGGBB");
@@ -185,7 +220,7 @@ TEST_F(ImageTool, SizesBeyondWhatTheSystemHoldsAreRefused)
 {
     const std::string png = m_folder.File("a.png");
     ExpectFailure({"image", "resize", m_bmp, "65500x65500", png}, 1,
-                  "vorntool image resize: '" + m_bmp + "' cannot be made '65500x65500'");
+                  "vorntool image resize: '" + m_bmp + "' cannot be made '65500x65500': that is too large");
     EXPECT_EQ(m_folder.Read("a.png"), "");
 }
 
