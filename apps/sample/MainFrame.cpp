@@ -18,7 +18,7 @@ namespace
 constexpr int kViewMenu = 1; // places in the menu bar of IDR_MAINFRAME
 constexpr int kChartMenu = 3;
 constexpr int kUnitsMenu = 6;
-constexpr SIZE kSmallest = {560, 420};
+constexpr SIZE kSmallest = {560, 420};    // pixels at 96 dpi
 constexpr const char* kWindow = "Window"; // settings: section and key
 constexpr const char* kPage = "Page";
 
@@ -147,7 +147,9 @@ void MainFrame::ShowKeptPage()
 void MainFrame::OnGetMinMaxInfo(MINMAXINFO* info)
 {
     CFrameWnd::OnGetMinMaxInfo(info);
-    info->ptMinTrackSize = {kSmallest.cx, kSmallest.cy};
+    const CClientDC dc(this);
+    info->ptMinTrackSize = {MulDiv(kSmallest.cx, dc.GetDeviceCaps(LOGPIXELSX), USER_DEFAULT_SCREEN_DPI),
+                            MulDiv(kSmallest.cy, dc.GetDeviceCaps(LOGPIXELSY), USER_DEFAULT_SCREEN_DPI)};
 }
 
 void MainFrame::OnViewRefresh()

@@ -115,7 +115,8 @@ void ChartWnd::OnLButtonDown(UINT flags, CPoint point)
     CWnd::OnLButtonDown(flags, point);
     SetFocus();
     m_grabbed = m_chart.View().ToPosition({static_cast<double>(point.x), static_cast<double>(point.y)});
-    SetCapture();
+    if (m_grabbed) // beyond the edge of the map there is nothing to drag
+        SetCapture();
 }
 
 void ChartWnd::OnLButtonUp(UINT flags, CPoint point)

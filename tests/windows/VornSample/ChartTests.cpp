@@ -235,6 +235,28 @@ TEST_F(SampleChart, FollowsTheHandThatDragsIt)
     EXPECT_NEAR(view.mScale, 12050, 60);
 }
 
+TEST_F(SampleChart, LetsThePointerGoThatPressesBesideTheMap)
+{
+    Start("--view \"v1|5|0|0|0|0|0|500|180|0|47.5|-121|\""); // a globe smaller than the window
+    const HWND chart = Chart();
+    const auto captured = [chart]
+    {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        GetGUIThreadInfo(GetWindowThreadProcessId(chart, nullptr), &info);
+        return info.hwndCapture;
+    };
+    const SIZE size = ChartSize();
+    SendMessageA(chart, WM_LBUTTONDOWN, MK_LBUTTON, At(size.cx / 2, size.cy / 2));
+    EXPECT_EQ(captured(), chart) << "on the globe";
+    SendMessageA(chart, WM_LBUTTONUP, 0, At(size.cx / 2, size.cy / 2));
+    EXPECT_EQ(captured(), nullptr);
+    SendMessageA(chart, WM_LBUTTONDOWN, MK_LBUTTON, At(2, 2));
+    SendMessageA(chart, WM_LBUTTONUP, 0, At(2, 2));
+    EXPECT_EQ(captured(), nullptr) << "beside it";
+    End();
+}
+
 TEST_F(SampleChart, MovesByKeys)
 {
     Start(std::string("--view \"") + kSeattle + '"');
