@@ -32,10 +32,18 @@ double Rounded(double value, int decimals)
     return std::round(value * factor) / factor;
 }
 
-/// Lambert's parallels lie a sixth of the region from its edges.
+/// Lambert's parallels lie a sixth of the region from its edges; the equidistant map is true to scale amid them.
 std::vector<double> OwnParameters(int number)
 {
-    return number == PROJECTION_LAMBERT_CONFORMAL ? std::vector<double>{44, 52} : std::vector<double>();
+    switch (number)
+    {
+    case PROJECTION_LAMBERT_CONFORMAL:
+        return {44, 52};
+    case PROJECTION_EQUIDISTANT_CYLINDRICAL:
+        return {48};
+    default:
+        return {};
+    }
 }
 
 /// Takes as many parameters as the projection has. False when it refuses one, or what they make together.
@@ -180,7 +188,7 @@ void Chart::MakeScene(CDC& dc)
 void Chart::DrawTexts(CDC& dc, Quality quality)
 {
     PaintLabels(dc, m_scene, quality == Quality::Fast);
-    m_panels.Draw(dc, Texts(), m_terrain, m_view);
+    m_panels.Draw(dc, Texts(), m_terrain);
 }
 
 bool Chart::Compose(Quality quality)

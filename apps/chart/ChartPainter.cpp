@@ -56,6 +56,7 @@ public:
         for (const GridLine& line : m_scene.graticule.lines)
             (line.whole ? strong : fine)
                 .insert((line.whole ? strong : fine).end(), line.pieces.begin(), line.pieces.end());
+        strong.insert(strong.end(), m_scene.limb.begin(), m_scene.limb.end());
         Stroke(fine, ResMgr::Inst()->GetStdAppPen(APPCOLOR_GRID));
         FillLines(strong, 1, AppColor(APPCOLOR_GRID));
         PaintBorders();

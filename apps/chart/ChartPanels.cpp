@@ -21,7 +21,9 @@ constexpr double kTitleHeight = 76;
 constexpr double kHeightsWidth = 96;
 constexpr double kSwatch = 15;
 constexpr double kHeightsTitle = 18;
-constexpr double kBarWidth = 230;
+constexpr double kBarWidth = 230; // at most
+constexpr double kBarSides = 56;  // beside the bar, for half of a text at each end
+constexpr double kBarLeft = 18;
 constexpr double kLeastBar = 120;
 constexpr double kBarHeight = 38;
 constexpr double kEdgeLabels = 16; // meridians' and parallels' texts along the edges
@@ -69,9 +71,12 @@ void ChartPanels::Place(const ChartView& view)
         m_title = {left, top, left + Px(kTitleWidth), top + Px(kTitleHeight)};
     if (!m_title.IsEmpty() && bottom - m_title.bottom >= heights + Px(2 * kInset))
         m_heights = {left, bottom - heights, left + Px(kHeightsWidth), bottom};
-    const int bar = std::min(Px(kBarWidth), view.Width() * 2 / 5);
-    if (bar >= Px(kLeastBar) && bottom - top >= Px(3 * kBarHeight))
-        m_scaleBar = {right - bar, bottom - Px(kBarHeight), right, bottom};
+    const int most = std::min(Px(kBarWidth), view.Width() * 2 / 5);
+    if (most < Px(kLeastBar) || bottom - top < Px(3 * kBarHeight))
+        return;
+    m_bar = ScaleBarFor(view.PixelsPerMile(), most - Px(kBarSides));
+    const int width = static_cast<int>(std::lround(m_bar.pixels)) + Px(kBarSides);
+    m_scaleBar = {right - width, bottom - Px(kBarHeight), right, bottom};
 }
 
 std::vector<PixelBox> ChartPanels::Boxes() const
@@ -85,7 +90,7 @@ std::vector<PixelBox> ChartPanels::Boxes() const
     return boxes;
 }
 
-void ChartPanels::Draw(CDC& dc, const PanelTexts& texts, const TerrainColorMap& terrain, const ChartView& view)
+void ChartPanels::Draw(CDC& dc, const PanelTexts& texts, const TerrainColorMap& terrain)
 {
     const int mode = dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(AppColor(APPCOLOR_TEXT));
@@ -94,7 +99,7 @@ void ChartPanels::Draw(CDC& dc, const PanelTexts& texts, const TerrainColorMap& 
     if (!m_heights.IsEmpty())
         DrawHeights(dc, terrain);
     if (!m_scaleBar.IsEmpty())
-        DrawScaleBar(dc, view);
+        DrawScaleBar(dc);
     dc.SetBkMode(mode);
 }
 
@@ -144,17 +149,16 @@ void ChartPanels::DrawHeights(CDC& dc, const TerrainColorMap& terrain) const
     SelectObject(&dc, font);
 }
 
-void ChartPanels::DrawScaleBar(CDC& dc, const ChartView& view) const
+void ChartPanels::DrawScaleBar(CDC& dc) const
 {
     DrawSheet(dc, m_scaleBar);
-    const ScaleBar bar = ScaleBarFor(view.PixelsPerMile(), m_scaleBar.Width() - Px(64));
     const HGDIOBJ font = SelectObject(&dc, FontOf(TextStyle::Plain, m_unit));
-    const int width = static_cast<int>(std::lround(bar.pixels));
-    const int left = m_scaleBar.left + (m_scaleBar.Width() - width - Px(22)) / 2;
+    const int width = static_cast<int>(std::lround(m_bar.pixels));
+    const int left = m_scaleBar.left + Px(kBarLeft);
     const int top = m_scaleBar.bottom - Px(kPadding + 6);
-    for (int part = 0; part < bar.parts; ++part)
+    for (int part = 0; part < m_bar.parts; ++part)
     {
-        const CRect area(left + width * part / bar.parts, top, left + width * (part + 1) / bar.parts, top + Px(6));
+        const CRect area(left + width * part / m_bar.parts, top, left + width * (part + 1) / m_bar.parts, top + Px(6));
         dc.FillSolidRect(&area, AppColor(part % 2 == 0 ? APPCOLOR_TEXT : APPCOLOR_TEXTHALO));
     }
     const HGDIOBJ brush = SelectObject(&dc, ResMgr::Inst()->GetNullBrush());
@@ -164,7 +168,7 @@ void ChartPanels::DrawScaleBar(CDC& dc, const ChartView& view) const
     SelectObject(&dc, brush);
     dc.SetTextColor(AppColor(APPCOLOR_TEXT));
     DrawText(dc, left, top - Px(15), "0", TA_CENTER);
-    DrawText(dc, left + width, top - Px(15), LengthText(bar.miles), TA_CENTER);
+    DrawText(dc, left + width, top - Px(15), LengthText(m_bar.miles), TA_CENTER);
     SelectObject(&dc, font);
 }
 

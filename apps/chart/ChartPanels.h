@@ -2,6 +2,7 @@
 
 #include "apps/chart/core/ChartView.h"
 #include "apps/chart/core/PixelGeometry.h"
+#include "apps/chart/core/ScaleBar.h"
 
 #include <VornCommon.h>
 
@@ -32,18 +33,19 @@ public:
     /// Where they lie.
     std::vector<PixelBox> Boxes() const;
 
-    void Draw(CDC& dc, const PanelTexts& texts, const TerrainColorMap& terrain, const ChartView& view);
+    void Draw(CDC& dc, const PanelTexts& texts, const TerrainColorMap& terrain);
 
 private:
     void DrawTitle(CDC& dc, const PanelTexts& texts) const;
     void DrawHeights(CDC& dc, const TerrainColorMap& terrain) const;
-    void DrawScaleBar(CDC& dc, const ChartView& view) const;
+    void DrawScaleBar(CDC& dc) const;
     int Px(double at96) const;
 
     double m_unit = 1;
     PixelBox m_title;
     PixelBox m_heights;
     PixelBox m_scaleBar;
+    ScaleBar m_bar;
 };
 
 } // namespace vorn::chart

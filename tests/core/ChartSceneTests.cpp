@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <random>
 
 using namespace vorn::chart;
@@ -163,6 +164,55 @@ TEST(ChartScene, NamesThePlacesOfTheRouteEvenWhereItIsCrowded)
     };
     EXPECT_FALSE(isNamed("BBX CCX")) << "there is no room beside it";
     EXPECT_TRUE(isNamed("AAX BBX"));
+}
+
+TEST(ChartScene, HasNoSymbolOverAnotherOnTheSmallestCharts)
+{
+    MercatorSphere plane;
+    PlainMeter meter;
+    const ChartModel model = ModelOf(Region(), "");
+    const auto aids = [&](double scale)
+    {
+        return SceneOf(model, View(plane, scale), meter, {}, {});
+    };
+    const ChartScene scene = aids(40'000'000);
+    EXPECT_GT(scene.symbols.size(), 10u);
+    EXPECT_LT(scene.symbols.size(), aids(14'000'000).symbols.size());
+    for (std::size_t i = 0; i < scene.symbols.size(); ++i)
+    {
+        for (std::size_t j = 0; j < i; ++j)
+        {
+            const SceneSymbol& one = scene.symbols[i];
+            const SceneSymbol& other = scene.symbols[j];
+            EXPECT_GE(std::hypot(one.at.x - other.at.x, one.at.y - other.at.y),
+                      (one.shape.reach + other.shape.reach) * scene.symbolUnit * 0.8);
+        }
+    }
+}
+
+TEST(ChartScene, DoesNotNameWhatAPanelHides)
+{
+    ChartData data;
+    Aid aid;
+    aid.ident = "AAX";
+    aid.kilohertz = 112300;
+    aid.position = LatLon(47.5, -119);
+    data.aids.push_back(aid);
+    MercatorSphere plane;
+    PlainMeter meter;
+    const ChartModel model = ModelOf(data, "");
+    const ChartView view = View(plane, 2'000'000); // the aid is at 500, 375
+    const auto isNamed = [&](const PixelBox& panel)
+    {
+        const ChartScene scene = SceneOf(model, view, meter, {panel}, {});
+        return std::any_of(scene.labels.begin(), scene.labels.end(),
+                           [](const SceneLabel& label)
+                           {
+                               return label.text.front().text == "AAX";
+                           });
+    };
+    EXPECT_FALSE(isNamed({400, 370, 520, 480})) << "its middle is below the panel";
+    EXPECT_TRUE(isNamed({400, 380, 520, 480}));
 }
 
 TEST(ChartScene, IsTheSameForTheSameView)

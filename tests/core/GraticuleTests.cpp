@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <set>
 
 using namespace vorn::chart;
@@ -104,6 +106,31 @@ TEST(Graticule, KeepsItsLinesWithinTheView)
             }
         }
     }
+}
+
+TEST(Graticule, ReachesTheEdgeOfTheGlobe)
+{
+    GlobeSphere plane;
+    const ChartView view = View(plane, 60'000'000, LatLon(48, -119));
+    const auto fromEdge = [&view](const PixelPoint& point)
+    {
+        return view.PixelsPerRadius() - std::hypot(point.x - 500, point.y - 400);
+    };
+    const auto pieceOf = [lines = GraticuleOf(view, 90).lines](bool parallel, int minutes)
+    {
+        const auto line = std::ranges::find_if(lines,
+                                               [&](const GridLine& one)
+                                               {
+                                                   return one.parallel == parallel && one.minutes == minutes;
+                                               });
+        return line != lines.end() && line->pieces.size() == 1 ? line->pieces.front() : PixelLine{{0, 0}, {0, 0}};
+    };
+    const PixelLine equator = pieceOf(true, 0);
+    EXPECT_NEAR(fromEdge(equator.front()), 0, 0.05);
+    EXPECT_NEAR(fromEdge(equator.back()), 0, 0.05);
+    const PixelLine meridian = pieceOf(false, -30 * 60); // from the south on, 89 degrees aside
+    EXPECT_NEAR(fromEdge(meridian.front()), 0, 0.05);
+    EXPECT_GT(fromEdge(meridian.back()), 50) << "near the pole";
 }
 
 TEST(Graticule, GoesOnOverTheDateLine)

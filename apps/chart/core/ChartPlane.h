@@ -3,6 +3,7 @@
 #include "family/TarnUtil/core/LatLon.h"
 
 #include <optional>
+#include <vector>
 
 namespace vorn::chart
 {
@@ -27,6 +28,12 @@ public:
     /// Nothing for a place that the map does not show.
     virtual std::optional<MapPoint> Forward(const LatLon& position) const = 0;
     virtual std::optional<LatLon> Inverse(const MapPoint& point) const = 0;
+
+    /// The edge of a map that looks like a globe, without a doubled last point; nothing for other maps.
+    virtual std::vector<MapPoint> Limb() const
+    {
+        return {};
+    }
 
     /// Length on the map of a short way there, for each length on the earth; above 0.
     virtual double ScaleAt(const LatLon& position) const = 0;

@@ -94,6 +94,7 @@ struct ChartScene
     std::vector<PixelLine> coasts;
     std::vector<PixelLine> borders;
     Graticule graticule;
+    std::vector<PixelLine> limb; ///< of the globe
     std::vector<SceneSymbol> roses;
     std::vector<SceneSymbol> symbols;
     std::vector<PixelLine> runways; ///< outlines, true to scale

@@ -118,11 +118,24 @@ PixelPoint ChartView::Middle() const
 std::optional<PixelPoint> ChartView::ToPixel(const LatLon& position) const
 {
     const std::optional<MapPoint> point = m_plane->Forward(position);
-    if (!point)
-        return std::nullopt;
+    return point ? std::optional(PixelOf(*point)) : std::nullopt;
+}
+
+PixelPoint ChartView::PixelOf(const MapPoint& point) const
+{
     const PixelPoint middle = Middle();
-    return PixelPoint{middle.x + (point->x - m_origin.x) * m_pixelsPerRadius,
-                      middle.y - (point->y - m_origin.y) * m_pixelsPerRadius};
+    return {middle.x + (point.x - m_origin.x) * m_pixelsPerRadius,
+            middle.y - (point.y - m_origin.y) * m_pixelsPerRadius};
+}
+
+PixelLine ChartView::Limb() const
+{
+    PixelLine limb;
+    for (const MapPoint& point : m_plane->Limb())
+        limb.push_back(PixelOf(point));
+    if (!limb.empty())
+        limb.push_back(limb.front());
+    return limb;
 }
 
 std::optional<LatLon> ChartView::ToPosition(PixelPoint pixel) const

@@ -40,6 +40,9 @@ public:
     std::optional<PixelPoint> ToPixel(const LatLon& position) const;
     std::optional<LatLon> ToPosition(PixelPoint pixel) const;
 
+    /// The edge of the globe, closed; empty for maps that look like none.
+    PixelLine Limb() const;
+
     /// Pixels for a radius of the earth on the map, which is how stored views keep their scale. Not above 0: no change.
     void SetPixelsPerRadius(double pixels);
     double PixelsPerRadius() const;
@@ -64,6 +67,7 @@ private:
     void Recentre();
     double Enlarged() const;
     PixelPoint Middle() const;
+    PixelPoint PixelOf(const MapPoint& point) const;
 
     ChartPlane* m_plane;
     LatLon m_centre{47.5, -120};

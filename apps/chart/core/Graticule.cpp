@@ -17,6 +17,7 @@ constexpr int kMinutesAround = 360 * 60;
 constexpr int kFarthestParallel = 85 * 60; // meridians and parallels end there: they crowd at the poles
 constexpr double kSampleSpacing = 20;      // pixels between the points of a line
 constexpr int kMostSamples = 400;
+constexpr int kEdgeSteps = 16;  // halvings on the way to the map's edge
 constexpr int kEdgeSamples = 8; // an edge of the view and a row within it are looked at in so many steps
 
 std::string DegreeText(int minutes, int step, char plus, char minus)
@@ -58,28 +59,54 @@ void WidenToPole(const ChartView& view, double latitude, Extent& extent)
     extent.east = view.Centre().Lon() + 180;
 }
 
-PixelLine Sampled(const ChartView& view, const GridLine& line, double from, double to, int samples,
-                  std::vector<PixelLine>& whole)
+/// A place on a line: so many degrees along it.
+std::optional<PixelPoint> PlaceOn(const ChartView& view, const GridLine& line, double along)
 {
-    PixelLine piece;
+    const double fixed = line.minutes / 60.0;
+    return view.ToPixel(line.parallel ? LatLon(fixed, along) : LatLon(along, fixed));
+}
+
+/// The last place that the map shows on the way to one that it does not.
+std::optional<PixelPoint> EdgeOf(const ChartView& view, const GridLine& line, double shown, double hidden)
+{
+    std::optional<PixelPoint> edge;
+    for (int step = 0; step < kEdgeSteps; ++step)
+    {
+        const double middle = (shown + hidden) / 2;
+        const std::optional<PixelPoint> pixel = PlaceOn(view, line, middle);
+        (pixel ? shown : hidden) = middle;
+        edge = pixel ? pixel : edge;
+    }
+    return edge;
+}
+
+/// The pieces of a line that the map shows, up to its edges.
+std::vector<PixelLine> Sampled(const ChartView& view, const GridLine& line, double from, double to, int samples)
+{
+    std::vector<PixelLine> pieces(1);
+    const auto add = [&](const std::optional<PixelPoint>& point)
+    {
+        if (point)
+            pieces.back().push_back(*point);
+    };
+    const double apart = std::max(view.Width(), view.Height());
+    double before = from;
     for (int i = 0; i <= samples; ++i)
     {
         const double along = from + (to - from) * i / samples;
-        const double fixed = line.minutes / 60.0;
-        const std::optional<PixelPoint> pixel =
-            view.ToPixel(line.parallel ? LatLon(fixed, along) : LatLon(along, fixed));
-        const bool torn =
-            pixel && !piece.empty() &&
-            std::hypot(pixel->x - piece.back().x, pixel->y - piece.back().y) > std::max(view.Width(), view.Height());
-        if ((!pixel || torn) && !piece.empty())
-        {
-            whole.push_back(piece);
-            piece.clear();
-        }
-        if (pixel)
-            piece.push_back(*pixel);
+        const std::optional<PixelPoint> pixel = PlaceOn(view, line, along);
+        const bool wasShown = !pieces.back().empty();
+        if (wasShown && !pixel)
+            add(EdgeOf(view, line, before, along));
+        else if (!wasShown && pixel && i > 0)
+            add(EdgeOf(view, line, along, before));
+        if (wasShown &&
+            (!pixel || std::hypot(pixel->x - pieces.back().back().x, pixel->y - pieces.back().back().y) > apart))
+            pieces.emplace_back();
+        add(pixel);
+        before = along;
     }
-    return piece;
+    return pieces;
 }
 
 void AddLine(const ChartView& view, GridLine line, double from, double to, double pixelsPerDegree,
@@ -89,10 +116,8 @@ void AddLine(const ChartView& view, GridLine line, double from, double to, doubl
         return;
     const double wanted = std::ceil((to - from) * pixelsPerDegree / kSampleSpacing);
     const int samples = std::max(2, static_cast<int>(std::min<double>(kMostSamples, wanted)));
-    std::vector<PixelLine> whole;
-    whole.push_back(Sampled(view, line, from, to, samples, whole));
     const PixelBox box{0, 0, view.Width(), view.Height()};
-    for (const PixelLine& piece : whole)
+    for (const PixelLine& piece : Sampled(view, line, from, to, samples))
     {
         for (PixelLine& part : ClippedLine(piece, box))
             line.pieces.push_back(std::move(part));

@@ -32,7 +32,7 @@ using LabelText = std::vector<TextLine>;
 /// How much a chart of some scale says.
 enum class Detail
 {
-    Marks,     ///< of the aids with radials, without labels
+    Marks,     ///< of the aids with radials where there is room, without labels
     Radials,   ///< aids with radials and their idents
     Idents,    ///< all aids and the large aerodromes
     Frequency, ///< ident and frequency; all aerodromes

@@ -36,6 +36,19 @@ std::optional<LatLon> ProjectionPlane::Inverse(const MapPoint& point) const
     return LatLon(lat, lon);
 }
 
+std::vector<MapPoint> ProjectionPlane::Limb() const
+{
+    std::vector<MapPoint> limb;
+    const int count = m_projection->Is3D() ? m_projection->NMapLimitPts() : 0;
+    for (int i = 0; i < count; ++i)
+    {
+        MapPoint point;
+        if (m_projection->MapLimitPt(i, point.x, point.y))
+            limb.push_back(point);
+    }
+    return limb;
+}
+
 double ProjectionPlane::ScaleAt(const LatLon& position) const
 {
     const double scale = m_projection->ScaleMult(position.Lat(), position.Lon());

@@ -20,6 +20,7 @@ public:
     bool PanTo(const LatLon& centre) override;
     std::optional<MapPoint> Forward(const LatLon& position) const override;
     std::optional<LatLon> Inverse(const MapPoint& point) const override;
+    std::vector<MapPoint> Limb() const override;
     double ScaleAt(const LatLon& position) const override;
 
 private:

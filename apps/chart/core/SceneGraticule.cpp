@@ -52,6 +52,7 @@ void WishForLabel(SceneDraft& draft, const GridLine& line)
 void AddGraticule(SceneDraft& draft)
 {
     draft.scene.graticule = GraticuleOf(draft.view, draft.Px(kSpacing));
+    draft.scene.limb = ClippedLine(draft.view.Limb(), {0, 0, draft.view.Width(), draft.view.Height()});
     for (const GridLine& line : draft.scene.graticule.lines)
         WishForLabel(draft, line);
 }

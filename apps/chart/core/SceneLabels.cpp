@@ -43,6 +43,15 @@ PixelSize SceneLabels::Measure(const LabelText& text)
     return m_meter.Measure(text);
 }
 
+bool SceneLabels::IsUnderPanel(PixelPoint at) const
+{
+    return std::any_of(m_obstacles.closed.begin(), m_obstacles.closed.end(),
+                       [at](const PixelBox& box)
+                       {
+                           return box.Contains(at);
+                       });
+}
+
 void SceneLabels::Wish(LabelWish wish)
 {
     // An empty place is none, and the others keep their numbers.

@@ -23,6 +23,8 @@ public:
     SceneLabels(LabelMeter& meter, const PixelBox& drawing, const std::vector<PixelBox>& closed);
 
     PixelSize Measure(const LabelText& text);
+    /// Whether a panel lies over a place.
+    bool IsUnderPanel(PixelPoint at) const;
     void Wish(LabelWish wish);
 
     /// Everything within `half` of a symbol's place.

@@ -17,6 +17,7 @@ constexpr double kRouteStandOff = 16;
 constexpr double kRoseRadius = 46;
 constexpr double kTrueRunway = 22; // a runway of this length is drawn to scale
 constexpr double kRunwayHalf = 1.6;
+constexpr double kMayOverlap = 0.85; // of both symbols' reaches
 
 constexpr double kRosesBelow = 1'200'000; // scale
 constexpr double kFeetPerMile = 6076.115;
@@ -52,7 +53,7 @@ struct SymbolLabel
 
 void WishForLabel(SceneDraft& draft, SymbolLabel label, PixelPoint at)
 {
-    if (label.text.empty())
+    if (label.text.empty() || draft.labels.IsUnderPanel(at))
         return;
     const PixelSize size = draft.labels.Measure(label.text);
     std::vector<PixelBox> places =
@@ -96,13 +97,23 @@ void AddRose(SceneDraft& draft, const Aid& aid, PixelPoint at)
     }
 }
 
-void AddAid(SceneDraft& draft, int id, const Aid& aid)
+/// Whether a symbol would lie over another one.
+bool IsTaken(const SceneDraft& draft, PixelPoint at, double reach)
 {
-    const bool onRoute = draft.IsOnRoute(aid.ident, aid.position);
+    return std::any_of(draft.scene.symbols.begin(), draft.scene.symbols.end(),
+                       [&](const SceneSymbol& other)
+                       {
+                           const double apart = (reach + other.shape.reach) * draft.scene.symbolUnit * kMayOverlap;
+                           return std::hypot(other.at.x - at.x, other.at.y - at.y) < apart;
+                       });
+}
+
+void AddAid(SceneDraft& draft, int id, const Aid& aid, bool onRoute)
+{
     if (!IsShown(aid, draft.detail) && !onRoute)
         return;
     const std::optional<PixelPoint> at = draft.WithinReach(aid.position);
-    if (!at)
+    if (!at || (draft.detail == Detail::Marks && IsTaken(draft, *at, ShapeOf(aid.kind).reach)))
         return;
     const Ink ink = InkOf(aid.kind);
     const bool hasRose = HasRadials(aid.kind) && draft.view.Scale() <= kRosesBelow;
@@ -159,11 +170,19 @@ void AddField(SceneDraft& draft, std::size_t index)
 
 } // namespace
 
+/// Those on the route first: on the smallest charts the others have what room is left.
 void AddAids(SceneDraft& draft)
 {
-    int id = kAidIds;
-    for (const Aid& aid : draft.model.data.aids)
-        AddAid(draft, ++id, aid);
+    for (const bool onRoute : {true, false})
+    {
+        int id = kAidIds;
+        for (const Aid& aid : draft.model.data.aids)
+        {
+            ++id;
+            if (draft.IsOnRoute(aid.ident, aid.position) == onRoute)
+                AddAid(draft, id, aid, onRoute);
+        }
+    }
 }
 
 void AddFields(SceneDraft& draft)
