@@ -4,6 +4,8 @@
 
 #include <VornCommon.h>
 
+#include <cstring>
+
 /// @file
 /// What the programs that show pictures beside the chart find out about picture files.
 
@@ -31,6 +33,18 @@ inline bool IsCompressed(const DIB& image)
 {
     const BITMAPINFO* const info = image.BitmapInfo();
     return info != nullptr && info->bmiHeader.biCompression != BI_RGB && info->bmiHeader.biCompression != BI_BITFIELDS;
+}
+
+/// Whether the bytes of a picture of 32 bits are blue, green, red and one more: so they are unless masks tell
+/// otherwise.
+inline bool HasPlainChannels(const DIB& image)
+{
+    const BITMAPINFO& info = *image.BitmapInfo();
+    static constexpr DWORD kPlain[] = {0xFF0000, 0x00FF00, 0x0000FF};
+    if (info.bmiHeader.biCompression != BI_BITFIELDS)
+        return info.bmiHeader.biCompression == BI_RGB;
+    const auto* const masks = reinterpret_cast<const BYTE*>(info.bmiColors);
+    return image.Bits() >= masks + sizeof kPlain && std::memcmp(masks, kPlain, sizeof kPlain) == 0;
 }
 
 /// The picture of 24 bits that the system makes of one. Empty when it makes none.

@@ -9,6 +9,7 @@ namespace vorn
 namespace
 {
 constexpr ColorMasks kFiveBitsEach{0x7C00, 0x03E0, 0x001F};
+constexpr ColorMasks kBytesInOrder{0xFF0000, 0x00FF00, 0x0000FF};
 constexpr std::size_t kMasksSize = 12;
 
 DWORD DwordAt(const unsigned char* bytes)
@@ -48,8 +49,8 @@ void SetMasks(ImageFormat& format, DWORD compression, std::span<const unsigned c
     if (compression != BI_BITFIELDS || !CanHaveMasks(format.depth) || block.size() < kBitmapHeaderSize + kMasksSize)
         return;
     format.hasRows = true;
-    format.isMasked = true;
     format.masks = MasksBehindHeader(block);
+    format.isMasked = format.depth == 16 || format.masks != kBytesInOrder;
 }
 } // namespace
 

@@ -31,6 +31,8 @@ struct ColorMasks
     DWORD red = 0;
     DWORD green = 0;
     DWORD blue = 0;
+
+    bool operator==(const ColorMasks&) const = default;
 };
 
 /// Size, order and meaning of a bitmap's pixels.
@@ -41,8 +43,8 @@ struct ImageFormat
     int depth = 0;  ///< Bits a pixel: 1, 4, 8, 16, 24 or 32.
     int stride = 0; ///< Bytes from row to row, a multiple of 4.
     bool isTopDown = false;
-    bool hasRows = false; ///< False for compressed pixels, which nothing here looks at.
-    bool isMasked = false;
+    bool hasRows = false;           ///< False for compressed pixels, which nothing here looks at.
+    bool isMasked = false;          ///< False for masks of 32 bits that say what is so without them.
     ColorMasks masks;               ///< Of 16 bits always, of 32 bits when `isMasked`.
     std::span<const RGBQUAD> table; ///< Up to 8 bits a pixel; indices beyond it are black.
 };

@@ -107,6 +107,15 @@ TEST(PackedImage, MakeMasked_HasTheMasksBehindTheHeader)
     EXPECT_TRUE(PackedImage::MakeMasked(0, 1, 16, {}).IsEmpty());
 }
 
+TEST(PackedImage, MakeMasked_WithTheMasksThatPlainPixelsHaveIsPlain)
+{
+    const PackedImage image = PackedImage::MakeMasked(1, 1, 32, {0xFF0000, 0x00FF00, 0x0000FF});
+    EXPECT_FALSE(image.View().isMasked);
+    EXPECT_TRUE(image.View().hasRows);
+    EXPECT_TRUE(PackedImage::MakeMasked(1, 1, 32, {0x0000FF, 0x00FF00, 0xFF0000}).View().isMasked);
+    EXPECT_TRUE(PackedImage::MakeMasked(1, 1, 16, {0xFF0000, 0x00FF00, 0x0000FF}).View().isMasked);
+}
+
 TEST(PackedImage, MakeHead_HasNoRows)
 {
     EXPECT_EQ(PackedImage::MakeHead(100, 100, 24, DIB_RGB_COLORS).Block().size(), 40u);

@@ -50,7 +50,7 @@ const char* FormatName(int firstByte)
 
 bool HasAlpha(const DIB& image)
 {
-    if (image.Depth() != 32 || image.BitmapInfo()->bmiHeader.biCompression != BI_RGB)
+    if (image.Depth() != 32 || !vorn::chart::HasPlainChannels(image))
         return false;
     const int bytes = image.BytesPerScan() * image.Height();
     for (int i = 3; i < bytes; i += 4)

@@ -1,5 +1,6 @@
 #include "files/PaletteMapper.h"
 #include "tests/support/ImportRedirect.h"
+#include "tests/support/PictureBytes.h"
 #include "tests/support/ScratchFolder.h"
 #include "tests/windows/pictures/DrawnOn.h"
 #include "tests/windows/pictures/OutsideFiles.h"
@@ -117,6 +118,24 @@ TEST_F(DibCoded, PngOfAlphaGoesRound)
     ASSERT_TRUE(back.ReadPNG(Path().c_str()));
     EXPECT_EQ(back.Depth(), 32);
     EXPECT_EQ(std::memcmp(back.Bits(), image.Bits(), 16), 0);
+}
+
+// As programs write bitmaps with an alpha channel: masks that tell the usual order of the channels.
+TEST_F(DibCoded, AlphaOfABitmapWithMasksGoesIntoAPng)
+{
+    BmpParts parts;
+    parts.depth = 32;
+    parts.compression = BI_BITFIELDS;
+    parts.behindHeader = std::string("\0\0\xFF\0\0\xFF\0\0\xFF\0\0\0", 12);
+    parts.pixels = "\x10\x20\x30\x40";
+    DIB image;
+    ASSERT_TRUE(image.ReadBMP(Write(parts.Bytes()).c_str()));
+    EXPECT_EQ(ColorOf(image, 0, 0), 0x302010u);
+    ASSERT_TRUE(image.WritePNG(Path().c_str()));
+    DIB back;
+    ASSERT_TRUE(back.ReadPNG(Path().c_str()));
+    ASSERT_EQ(back.Depth(), 32);
+    EXPECT_EQ(std::memcmp(back.Bits(), "\x10\x20\x30\x40", 4), 0);
 }
 
 TEST_F(DibCoded, PngGoesIntoEveryTarget)
