@@ -183,6 +183,20 @@ TEST(PngRead, ATransparentColorOfRgbBecomesAlpha)
     EXPECT_EQ(std::string("\3\2\1\0\6\5\4\xFF", 8), std::string(row, row + 8));
 }
 
+TEST(PngRead, ATransparentColorOf16BitsIsMetExactly)
+{
+    PngParts parts = Picture(2, 1, 16, 2, std::string("\0\1\1\2\2\3\3\1\1\2\2\3\4", 13));
+    parts.transparency = "\1\1\2\2\3\3";
+    const PackedImage image = Decoded(parts);
+    ASSERT_EQ(image.Header().biBitCount, 32);
+    const unsigned char* row = image.View().Row(0);
+    EXPECT_EQ(std::string("\3\2\1\0\3\2\1\xFF", 8), std::string(row, row + 8)) << "the last bits tell them apart";
+    PngParts grey = Picture(2, 1, 16, 0, std::string("\0\7\7\x8\x8", 5));
+    grey.transparency = "\7\7";
+    EXPECT_EQ(Decoded(grey).Header().biBitCount, 8);
+    EXPECT_EQ(PixelAt(Decoded(grey).View(), 0, 0), 7u);
+}
+
 TEST(PngRead, GammaAndOtherChunksChangeNothing)
 {
     PngParts parts = Four();

@@ -159,6 +159,25 @@ TEST_F(DibFaults, CodedFilesFail)
     }
 }
 
+// Every pixel is asked for then.
+TEST_F(DibFaults, JpegThroughAMapperWithoutCellsHasTheSameEntries)
+{
+    const TestPalette palette(68);
+    m_memory.RefuseAfter(0);
+    PaletteMapper without(palette, 256);
+    ASSERT_GE(m_memory.Stop(), 1);
+    PaletteMapper with(palette, 256);
+    const std::string path = Write(outside::JpegColor(), "jpg");
+    DIB image;
+    DIB expected;
+    ASSERT_TRUE(image.ReadJPEG(path.c_str(), 0, 1, &without, 1, 1, 1));
+    ASSERT_TRUE(expected.ReadJPEG(path.c_str(), 0, 1, &with, 1, 1, 1));
+    EXPECT_NE(expected.GetPixel(0, 0), expected.GetPixel(3, 1)) << "there is something to see";
+    for (int y = 0; y < expected.Height(); ++y)
+        for (int x = 0; x < expected.Width(); ++x)
+            EXPECT_EQ(image.GetPixel(x, y), expected.GetPixel(x, y)) << x << ' ' << y;
+}
+
 // Handles are counted in one process; each turn makes and drops some of every kind.
 TEST(DibHandles, ThousandsOfOperationsLeaveNone)
 {
