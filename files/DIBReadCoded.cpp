@@ -29,6 +29,12 @@ private:
     std::optional<vorn::PaletteOfMapper> m_palette;
     vorn::JpegReading m_how;
 };
+
+// A file that was written to before must be told a place even where it stays; a pipe knows none.
+bool Advance(FILE* file, long offset)
+{
+    return std::fseek(file, offset, SEEK_CUR) == 0 || offset == 0;
+}
 } // namespace
 
 bool DIB::ReadPNG(const char* path)
@@ -56,7 +62,7 @@ bool DIB::ReadJPEG(const char* path, long offset, int scale, PaletteMapper* mapp
 bool DIB::ReadJPEG(FILE* file, long offset, int scale, PaletteMapper* mapper, double red, double green, double blue)
 {
     Free();
-    return file && std::fseek(file, offset, SEEK_CUR) == 0 &&
+    return file && Advance(file, offset) &&
            vorn::NoThrow(false,
                          [&]
                          {

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <fcntl.h>
+#include <io.h>
 #include <sstream>
 #include <stdexcept>
 
@@ -237,6 +239,22 @@ TEST_F(DibCoded, JpegBehindOtherBytes)
     std::fclose(file);
     EXPECT_FALSE(image.ReadJPEG(static_cast<FILE*>(nullptr), 0, 1, nullptr, 1, 1, 1));
     EXPECT_TRUE(IsWithoutImage(image));
+}
+
+TEST_F(DibCoded, JpegOutOfAPipe)
+{
+    const std::string jpeg = outside::JpegColor();
+    int ends[2] = {-1, -1};
+    ASSERT_EQ(_pipe(ends, 65536, _O_BINARY), 0);
+    EXPECT_EQ(_write(ends[1], jpeg.data(), static_cast<unsigned>(jpeg.size())), static_cast<int>(jpeg.size()));
+    _close(ends[1]);
+    FILE* file = _fdopen(ends[0], "rb");
+    ASSERT_NE(file, nullptr);
+    DIB image;
+    EXPECT_TRUE(image.ReadJPEG(file, 0, 1, nullptr, 1, 1, 1)) << "where there is no way but forward";
+    EXPECT_EQ(image.Width(), 4);
+    EXPECT_FALSE(image.ReadJPEG(file, 1, 1, nullptr, 1, 1, 1));
+    std::fclose(file);
 }
 
 TEST_F(DibCoded, JpegScalesAndFactors)
