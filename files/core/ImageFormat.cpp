@@ -9,7 +9,6 @@ namespace vorn
 namespace
 {
 constexpr ColorMasks kFiveBitsEach{0x7C00, 0x03E0, 0x001F};
-constexpr ColorMasks kBytesInOrder{0xFF0000, 0x00FF00, 0x0000FF};
 constexpr std::size_t kMasksSize = 12;
 
 DWORD DwordAt(const unsigned char* bytes)
@@ -40,6 +39,12 @@ bool CanHaveMasks(int depth)
     return depth == 16 || depth == 32;
 }
 
+// Masks that say of 32 bits what they are without: the fourth byte is alpha then, as it is in others.
+bool AreUsualBytes(const ColorMasks& masks)
+{
+    return masks.red == 0xFF0000 && masks.green == 0x00FF00 && masks.blue == 0x0000FF;
+}
+
 // 16 bits without masks of their own have five for each channel.
 void SetMasks(ImageFormat& format, DWORD compression, std::span<const unsigned char> block)
 {
@@ -50,7 +55,7 @@ void SetMasks(ImageFormat& format, DWORD compression, std::span<const unsigned c
         return;
     format.hasRows = true;
     format.masks = MasksBehindHeader(block);
-    format.isMasked = format.depth == 16 || format.masks != kBytesInOrder;
+    format.isMasked = format.depth == 16 || !AreUsualBytes(format.masks);
 }
 } // namespace
 

@@ -31,8 +31,6 @@ struct ColorMasks
     DWORD red = 0;
     DWORD green = 0;
     DWORD blue = 0;
-
-    bool operator==(const ColorMasks&) const = default;
 };
 
 /// Size, order and meaning of a bitmap's pixels.

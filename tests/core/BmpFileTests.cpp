@@ -1,5 +1,8 @@
 #include "files/core/BmpFile.h"
 #include "files/core/ImagePixels.h"
+#include "files/core/ImageResize.h"
+#include "files/core/PngRead.h"
+#include "files/core/PngWrite.h"
 #include "tests/support/PictureBytes.h"
 #include "tests/support/TableBytes.h"
 
@@ -358,5 +361,28 @@ TEST(BmpFile, Encode_SaysOnePlaneWhateverWasRead)
         const auto written = vorn::EncodeBmp(Decoded(parts));
         EXPECT_EQ(std::string(written.begin(), written.end()), Four().Bytes()) << planes;
     }
+}
+TEST(BmpFile, MasksOfTheUsualBytesLeaveTheFourthOneToAlpha)
+{
+    BmpParts parts;
+    parts.width = 2;
+    parts.depth = 32;
+    parts.compression = 3;
+    parts.behindHeader = LittleEndian(0xFF0000, 4) + LittleEndian(0x00FF00, 4) + LittleEndian(0x0000FF, 4);
+    parts.pixels = LittleEndian(0x40010203, 4) + LittleEndian(0xFF040506, 4);
+    const PackedImage image = Decoded(parts);
+    EXPECT_EQ(ColorAt(image.View(), 1, 0), (Rgb{4, 5, 6}));
+    std::string file;
+    ASSERT_TRUE(vorn::EncodePng(image.View(),
+                                [&](const char* data, unsigned size)
+                                {
+                                    file.append(data, size);
+                                }));
+    const PackedImage back = vorn::DecodePng(Unsigned(file));
+    ASSERT_EQ(back.Header().biBitCount, 32);
+    EXPECT_EQ(vorn::StoredPixel(back.View().Row(0), 0, 32), 0x40010203u);
+    EXPECT_EQ(vorn::StoredPixel(back.View().Row(0), 1, 32), 0xFF040506u);
+    const PackedImage half = vorn::BoxResize(image.View(), 1, 1);
+    EXPECT_EQ(half.View().Row(0)[3], 0xA0) << "the mean of 64 and 255";
 }
 } // namespace
