@@ -285,6 +285,7 @@ TEST(BmpFile, Encode_RefusesOtherDepths)
     compressed.compression = 1;
     EXPECT_TRUE(vorn::EncodeBmp(Decoded(compressed)).empty());
 }
+
 TEST(BmpFile, MoreEntriesThanAPixelCanNameTakeTheirRoomOnly)
 {
     for (const int depth : {1, 4, 8})
@@ -362,6 +363,7 @@ TEST(BmpFile, Encode_SaysOnePlaneWhateverWasRead)
         EXPECT_EQ(std::string(written.begin(), written.end()), Four().Bytes()) << planes;
     }
 }
+
 TEST(BmpFile, MasksOfTheUsualBytesLeaveTheFourthOneToAlpha)
 {
     BmpParts parts;
