@@ -10,11 +10,34 @@ namespace vorn::test
 
 namespace fs = std::filesystem;
 
-ScratchFolder::ScratchFolder()
-    : m_path(fs::temp_directory_path() / ("vorn-" + CurrentTestFileName() + "-" + std::to_string(ProcessId())))
+namespace
 {
-    fs::remove_all(m_path);
-    fs::create_directories(m_path);
+
+/// A folder of that name; of a longer one where files of another run, of a process with the same number, are still
+/// there and cannot be removed: programs that were linked there cannot, while they run elsewhere.
+fs::path MadeEmpty(const fs::path& wanted)
+{
+    constexpr int kMost = 100;
+    fs::path path = wanted;
+    for (int number = 2; number <= kMost; ++number)
+    {
+        std::error_code error;
+        fs::remove_all(path, error);
+        if (!error && fs::create_directories(path, error))
+            return path;
+        path = wanted;
+        path += '-' + std::to_string(number);
+    }
+    fs::create_directories(path);
+    return path;
+}
+
+} // namespace
+
+ScratchFolder::ScratchFolder()
+    : m_path(
+          MadeEmpty(fs::temp_directory_path() / ("vorn-" + CurrentTestFileName() + "-" + std::to_string(ProcessId()))))
+{
 }
 
 ScratchFolder::~ScratchFolder()
