@@ -80,6 +80,14 @@ Chart::Chart()
     m_terrain.GenColorMap(kBands, heights.data());
 }
 
+std::string Chart::OwnFolder()
+{
+    std::array<char, MAX_PATH> program{};
+    GetModuleFileName(nullptr, program.data(), MAX_PATH);
+    const std::string path = program.data();
+    return path.substr(0, path.find_last_of('\\') + 1) + "data\\";
+}
+
 std::string Chart::Load(const std::string& folder)
 {
     ChartData data;

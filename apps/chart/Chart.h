@@ -20,6 +20,9 @@ class Chart
 public:
     Chart();
 
+    /// The folder `data` beside the program, with a backslash at its end: the region's tables are there.
+    static std::string OwnFolder();
+
     /// Reads the region's tables from a folder, whose name ends with a backslash.
     /// @return the tables that are missing, parted by commas; empty when all are there
     std::string Load(const std::string& folder);

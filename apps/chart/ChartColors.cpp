@@ -1,5 +1,8 @@
 #include "apps/chart/ChartColors.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace vorn::chart
 {
 
@@ -41,6 +44,12 @@ BYTE Mixed(BYTE ground, BYTE tint, int percent)
 COLORREF InkColor(Ink ink)
 {
     return ColorContext::Instance()->GetColor(TypeOf(ink));
+}
+
+HPEN FinePen(AppColorsType color, double unit)
+{
+    constexpr double kFine = 0.5;
+    return ResMgr::Inst()->GetAppPen(PS_SOLID, std::max(1, static_cast<int>(std::lround(unit * kFine))), color);
 }
 
 COLORREF BandColor(const TerrainColorMap& terrain, int band)

@@ -46,7 +46,7 @@ public:
             water.insert(water.end(), m_scene.land.begin(), m_scene.land.end());
             Fill(water, AppColor(APPCOLOR_WATER), ALTERNATE);
         }
-        Stroke(m_scene.coasts, ResMgr::Inst()->GetStdAppPen(APPCOLOR_SELECTION));
+        Stroke(m_scene.coasts, FinePen(APPCOLOR_SELECTION, m_scene.unit));
     }
 
     void PaintLines()
@@ -57,7 +57,7 @@ public:
             (line.whole ? strong : fine)
                 .insert((line.whole ? strong : fine).end(), line.pieces.begin(), line.pieces.end());
         strong.insert(strong.end(), m_scene.limb.begin(), m_scene.limb.end());
-        Stroke(fine, ResMgr::Inst()->GetStdAppPen(APPCOLOR_GRID));
+        Stroke(fine, FinePen(APPCOLOR_GRID, m_scene.unit));
         FillLines(strong, 1, AppColor(APPCOLOR_GRID));
         PaintBorders();
         PaintRoses();

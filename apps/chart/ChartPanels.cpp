@@ -35,10 +35,10 @@ COLORREF AppColor(AppColorsType type)
     return ColorContext::Instance()->GetColor(type);
 }
 
-void DrawSheet(CDC& dc, const PixelBox& box)
+void DrawSheet(CDC& dc, const PixelBox& box, double unit)
 {
     const HGDIOBJ brush = SelectObject(&dc, ResMgr::Inst()->GetAppBrush(APPCOLOR_BACKGROUND));
-    const HGDIOBJ pen = SelectObject(&dc, ResMgr::Inst()->GetStdAppPen(APPCOLOR_GRID));
+    const HGDIOBJ pen = SelectObject(&dc, FinePen(APPCOLOR_GRID, unit));
     dc.Rectangle(box.left, box.top, box.right, box.bottom);
     SelectObject(&dc, pen);
     SelectObject(&dc, brush);
@@ -105,7 +105,7 @@ void ChartPanels::Draw(CDC& dc, const PanelTexts& texts, const TerrainColorMap& 
 
 void ChartPanels::DrawTitle(CDC& dc, const PanelTexts& texts) const
 {
-    DrawSheet(dc, m_title);
+    DrawSheet(dc, m_title, m_unit);
     using namespace TextLayout;
     const COLORREF ink = AppColor(APPCOLOR_TEXT);
     const COLORREF accent = AppColor(APPCOLOR_AIRSPACE);
@@ -129,14 +129,14 @@ void ChartPanels::DrawTitle(CDC& dc, const PanelTexts& texts) const
 
 void ChartPanels::DrawHeights(CDC& dc, const TerrainColorMap& terrain) const
 {
-    DrawSheet(dc, m_heights);
+    DrawSheet(dc, m_heights, m_unit);
     const int left = m_heights.left + Px(kPadding);
     int y = m_heights.top + Px(kPadding / 2);
     const HGDIOBJ font = SelectObject(&dc, FontOf(TextStyle::Ident, m_unit));
     DrawText(dc, left, y, "Elevation", TA_LEFT);
     y += Px(kHeightsTitle);
     SelectObject(&dc, FontOf(TextStyle::Plain, m_unit));
-    const HGDIOBJ pen = SelectObject(&dc, ResMgr::Inst()->GetStdAppPen(APPCOLOR_GRID));
+    const HGDIOBJ pen = SelectObject(&dc, FinePen(APPCOLOR_GRID, m_unit));
     for (int band = kBands - 1; band >= 0; --band)
     {
         const HGDIOBJ brush = SelectObject(&dc, ResMgr::Inst()->GetBrush(BandColor(terrain, band)));
@@ -151,7 +151,7 @@ void ChartPanels::DrawHeights(CDC& dc, const TerrainColorMap& terrain) const
 
 void ChartPanels::DrawScaleBar(CDC& dc) const
 {
-    DrawSheet(dc, m_scaleBar);
+    DrawSheet(dc, m_scaleBar, m_unit);
     const HGDIOBJ font = SelectObject(&dc, FontOf(TextStyle::Plain, m_unit));
     const int width = static_cast<int>(std::lround(m_bar.pixels));
     const int left = m_scaleBar.left + Px(kBarLeft);
@@ -162,7 +162,7 @@ void ChartPanels::DrawScaleBar(CDC& dc) const
         dc.FillSolidRect(&area, AppColor(part % 2 == 0 ? APPCOLOR_TEXT : APPCOLOR_TEXTHALO));
     }
     const HGDIOBJ brush = SelectObject(&dc, ResMgr::Inst()->GetNullBrush());
-    const HGDIOBJ pen = SelectObject(&dc, ResMgr::Inst()->GetStdAppPen(APPCOLOR_TEXT));
+    const HGDIOBJ pen = SelectObject(&dc, FinePen(APPCOLOR_TEXT, m_unit));
     dc.Rectangle(left, top, left + width + 1, top + Px(6));
     SelectObject(&dc, pen);
     SelectObject(&dc, brush);

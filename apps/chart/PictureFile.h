@@ -47,6 +47,13 @@ inline bool HasPlainChannels(const DIB& image)
     return image.Bits() >= masks + sizeof kPlain && std::memcmp(masks, kPlain, sizeof kPlain) == 0;
 }
 
+/// Writes a bitmap file, which has 24 bits whatever the picture has.
+inline bool WriteBitmap(const DIB& image, const char* path)
+{
+    DIB colors;
+    return image.Depth() == 24 ? image.WriteBMP(path) != 0 : image.To24Bit(&colors) && colors.WriteBMP(path) != 0;
+}
+
 /// The picture of 24 bits that the system makes of one. Empty when it makes none.
 inline DIB DrawnBySystem(const DIB& image)
 {

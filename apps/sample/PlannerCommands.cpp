@@ -16,20 +16,10 @@
 #include "apps/sample/PageView.h"
 #include "apps/sample/pages/ChartPage.h"
 
-#include <array>
-
 using namespace vorn::planner;
 
 namespace
 {
-
-std::string DataFolder()
-{
-    std::array<char, MAX_PATH> program{};
-    GetModuleFileName(nullptr, program.data(), MAX_PATH);
-    const std::string path = program.data();
-    return path.substr(0, path.find_last_of('\\') + 1) + "data\\";
-}
 
 std::vector<Place> PlacesOf(const vorn::chart::ChartData& chart)
 {
@@ -71,7 +61,7 @@ void PlannerCommands::Load()
         return;
     m_loaded = true;
     vorn::chart::ChartData chart;
-    vorn::chart::ReadChartData(DataFolder(), chart);
+    vorn::chart::ReadChartData(vorn::chart::Chart::OwnFolder(), chart);
     m_data.places = PlacesOf(chart);
     m_data.showOnChart = [this](const LatLon& position)
     {

@@ -8,8 +8,8 @@
 #include "apps/vorntool/core/JsonWriter.h"
 
 #include "apps/chart/Chart.h"
+#include "apps/chart/ChartColors.h"
 
-#include <array>
 #include <cmath>
 #include <memory>
 
@@ -22,35 +22,6 @@ namespace
 constexpr int kDefaultWidth = 1200;
 constexpr int kDefaultHeight = 900;
 constexpr double kDotsPerInch = 96;
-
-/// Puts the night's colours in force for the time of its life.
-class NightScope
-{
-public:
-    explicit NightScope(bool night) : m_before(ColorContext::Instance()->GetCurrentState())
-    {
-        if (night)
-            ColorContext::Instance()->SetCurrentState(COLORSTATE_NIGHT);
-    }
-    ~NightScope()
-    {
-        ColorContext::Instance()->SetCurrentState(m_before);
-    }
-    NightScope(const NightScope&) = delete;
-    NightScope& operator=(const NightScope&) = delete;
-
-private:
-    int m_before;
-};
-
-/// The folder `data` beside the tool, where the sample's tables are.
-std::string OwnData()
-{
-    std::array<char, MAX_PATH> program{};
-    GetModuleFileName(nullptr, program.data(), MAX_PATH);
-    const std::string path = program.data();
-    return path.substr(0, path.find_last_of('\\') + 1) + "data\\";
-}
 
 /// The folder that an option names, for the library; empty when its name cannot be written there.
 std::string FolderIn(const std::string& words)
@@ -179,10 +150,11 @@ ExitStatus RenderChart(const Command& self, const Invocation& call, Output& outp
     if (!ActAsApplication(self, call, output))
         return ExitStatus::WrongUse;
     const ToolHost host;
-    const NightScope night(call.Has("night"));
+    const chart::ColorStateScope state(call.Has("night") ? COLORSTATE_NIGHT
+                                                         : ColorContext::Instance()->GetCurrentState());
     chart::Chart chart;
     const std::string named = call.ValueOf("data", "");
-    const std::string folder = call.Has("data") ? FolderIn(named) : OwnData();
+    const std::string folder = call.Has("data") ? FolderIn(named) : chart::Chart::OwnFolder();
     if (folder.empty())
         return Fail(self, output, ExitStatus::WrongUse, Quoted(named) + " cannot be the name of a folder");
     if (const std::string missing = chart.Load(folder); !missing.empty())

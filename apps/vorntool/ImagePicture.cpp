@@ -85,19 +85,12 @@ private:
     std::filesystem::path m_path;
 };
 
-// Bitmap files are written of 24 bits alone.
-bool WriteBmp(const DIB& dib, const char* path)
-{
-    DIB colors;
-    return dib.Depth() == 24 ? dib.WriteBMP(path) : dib.To24Bit(&colors) && colors.WriteBMP(path);
-}
-
 bool WriteAs(const DIB& dib, const char* path, const ImageWriting& how)
 {
     switch (how.kind)
     {
     case ImageKind::Bmp:
-        return WriteBmp(dib, path);
+        return chart::WriteBitmap(dib, path);
     case ImageKind::Png:
         return dib.WritePNG(path);
     default:

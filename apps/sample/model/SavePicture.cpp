@@ -1,5 +1,7 @@
 #include "apps/sample/model/SavePicture.h"
 
+#include "apps/chart/PictureFile.h"
+
 #include <cstring>
 
 namespace
@@ -13,13 +15,6 @@ bool EndsWith(const std::string& path, const char* ending)
     return text.Right(static_cast<int>(std::strlen(ending))).CompareNoCase(ending) == 0;
 }
 
-// Bitmap files have 24 bits.
-bool WriteBmp(const DIB& picture, const std::string& path)
-{
-    DIB colors;
-    return picture.To24Bit(&colors) && colors.WriteBMP(path.c_str());
-}
-
 } // namespace
 
 std::string SavePicture(const DIB& picture, const std::string& path)
@@ -30,7 +25,7 @@ std::string SavePicture(const DIB& picture, const std::string& path)
     else if (EndsWith(path, ".jpg") || EndsWith(path, ".jpeg"))
         done = picture.WriteJPEG(path.c_str(), kJpegQuality, 0, nullptr);
     else if (EndsWith(path, ".bmp"))
-        done = WriteBmp(picture, path);
+        done = vorn::chart::WriteBitmap(picture, path.c_str());
     else
         return "The name must end in .png, .jpg or .bmp.";
     return done ? "" : "The picture could not be written to " + path + ".";

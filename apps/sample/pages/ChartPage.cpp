@@ -1,5 +1,6 @@
 #include "apps/sample/pages/ChartPage.h"
 
+#include "apps/chart/ChartColors.h"
 #include "apps/chart/core/ScaleBar.h"
 #include "apps/planner/PlannerData.h"
 #include "apps/sample/model/Messages.h"
@@ -20,33 +21,6 @@ constexpr int kNoProjection = -1;
 
 constexpr double kZoomButton = 1.5;
 constexpr double kPrinterMargin = 0.02; // of the sheet's width
-
-std::string OwnData()
-{
-    std::array<char, MAX_PATH> program{};
-    GetModuleFileName(nullptr, program.data(), MAX_PATH);
-    const std::string path = program.data();
-    return path.substr(0, path.find_last_of('\\') + 1) + "data\\";
-}
-
-/// The chart's colours by day, on paper, for the time of its life.
-class DayScope
-{
-public:
-    DayScope() : m_before(ColorContext::Instance()->GetCurrentState())
-    {
-        ColorContext::Instance()->SetCurrentState(COLORSTATE_DAY);
-    }
-    ~DayScope()
-    {
-        ColorContext::Instance()->SetCurrentState(m_before);
-    }
-    DayScope(const DayScope&) = delete;
-    DayScope& operator=(const DayScope&) = delete;
-
-private:
-    int m_before;
-};
 
 /// An older release kept each field of a view by itself. Where its fields are still to be seen, in the file of its
 /// settings, they would go before every view that is stored from now on.
@@ -99,7 +73,7 @@ void ChartPage::Load()
     if (m_loaded)
         return;
     m_loaded = true;
-    m_missing = m_chart.Load(OwnData());
+    m_missing = m_chart.Load(vorn::chart::Chart::OwnFolder());
     if (!m_missing.empty())
         LogNote(LOG_ERROR, "The chart lacks " + m_missing);
     if (const int state = VornCommonApp::Inst()->GetSettingInt(kChart, kNight, COLORSTATE_DAY); state != COLORSTATE_DAY)
@@ -173,7 +147,7 @@ std::string ChartPage::Summary() const
 
 void ChartPage::Print(CDC& dc, const CRect& area, const Theme&) const
 {
-    const DayScope day;
+    const vorn::chart::ColorStateScope day(COLORSTATE_DAY); // on paper
     const vorn::chart::ChartView before = m_chart.View();
     CRect sheet(area);
     const int margin = static_cast<int>(area.Width() * kPrinterMargin);

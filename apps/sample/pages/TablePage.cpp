@@ -1,5 +1,6 @@
 #include "apps/sample/pages/TablePage.h"
 
+#include "apps/chart/Chart.h"
 #include "apps/sample/model/Messages.h"
 #include "apps/sample/model/Usage.h"
 #include "apps/sample/pages/TableControls.h"
@@ -11,15 +12,12 @@
 namespace
 {
 
-constexpr const char* kOwnTable = "data\\navaids.dbf";
+constexpr const char* kOwnTable = "navaids.dbf";
 constexpr int kSummaryRows = 20;
 
 std::string OwnTable()
 {
-    std::array<char, MAX_PATH> program{};
-    GetModuleFileName(nullptr, program.data(), MAX_PATH);
-    const std::string path = program.data();
-    return path.substr(0, path.find_last_of('\\') + 1) + kOwnTable;
+    return vorn::chart::Chart::OwnFolder() + kOwnTable;
 }
 
 std::string FileNameOf(const std::string& path)

@@ -1,4 +1,5 @@
 #include "apps/chart/Chart.h"
+#include "apps/chart/ChartColors.h"
 #include "tests/support/GdiCount.h"
 
 #include <gtest/gtest.h>
@@ -158,6 +159,21 @@ TEST_F(ChartDrawing, HoldsNoMoreHandlesFromFrameToFrame)
     }
     EXPECT_EQ(ResMgr::Inst()->GetResourceCount(), kept);
     EXPECT_LE(vorn::test::CountGdiObjects(), before);
+}
+
+TEST_F(ChartDrawing, HasFineLinesThatAPrinterCanShow)
+{
+    const auto width = [](double dotsPerInch)
+    {
+        LOGPEN pen{};
+        GetObjectA(vorn::chart::FinePen(APPCOLOR_GRID, dotsPerInch / 96), sizeof pen, &pen);
+        EXPECT_EQ(pen.lopnColor, Color(APPCOLOR_GRID));
+        return pen.lopnWidth.x;
+    };
+    EXPECT_EQ(width(96), 1);
+    EXPECT_EQ(width(192), 1);
+    EXPECT_EQ(width(300), 2);
+    EXPECT_EQ(width(600), 3);
 }
 
 TEST_F(ChartDrawing, BecomesAnImageOfTheSamePixels)
