@@ -44,13 +44,13 @@ public:
     explicit DIB(HBITMAP packedDib);
 
     /// @param width from 1
-    /// @param height negative for the first row at the top
+    /// @param height negative for the first row at the top; an image of 0 has no rows
     /// @param usage what the table's entries are: 0 (DIB_RGB_COLORS) colours, here black ones; 1 (DIB_PAL_COLORS)
     ///        palette indices, here 0, 1, 2, ...
     /// @param wantSection not 0 for rows in a GDI section, made for `dc`
     /// @param pixels rows in the image's own layout, which are copied; null for zeros
     ///
-    /// No image for a size below 1 or above 1 GiB, a depth that is none, and when the section cannot be made.
+    /// No image for a width below 1, pixels of more than 1 GiB, a depth that is none, and when the section cannot be made.
     DIB(int width, int height, int depth, int usage, int wantSection, HDC dc, const unsigned char* pixels);
 
     /// The header, and behind it the table; null without an image. It stays this object's.
