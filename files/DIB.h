@@ -50,7 +50,7 @@ public:
     /// @param wantSection not 0 for rows in a GDI section, made for `dc`
     /// @param pixels rows in the image's own layout, which are copied; null for zeros
     ///
-    /// No image for a width below 1, pixels of more than 1 GiB, a depth that is none, and when the section cannot be made.
+    /// No image for a width below 1, more than 1 GiB of pixels, a depth that is none, or a section that cannot be made.
     DIB(int width, int height, int depth, int usage, int wantSection, HDC dc, const unsigned char* pixels);
 
     /// The header, and behind it the table; null without an image. It stays this object's.
