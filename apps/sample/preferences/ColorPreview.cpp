@@ -1,5 +1,6 @@
 #include "apps/sample/preferences/ColorPreview.h"
 
+#include "apps/chart/ChartColors.h"
 #include "apps/planner/StoredValue.h"
 #include "apps/sample/preferences/core/Entries.h"
 
@@ -25,25 +26,6 @@ BYTE Scaled(BYTE component, double factor)
     return static_cast<BYTE>(component * factor);
 }
 
-/// A state of the chart's colours for the time of its life.
-class StateScope
-{
-public:
-    explicit StateScope(int state) : m_before(ColorContext::Instance()->GetCurrentState())
-    {
-        ColorContext::Instance()->SetCurrentState(state);
-    }
-    ~StateScope()
-    {
-        ColorContext::Instance()->SetCurrentState(m_before);
-    }
-    StateScope(const StateScope&) = delete;
-    StateScope& operator=(const StateScope&) = delete;
-
-private:
-    int m_before;
-};
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(ColorPreview, CWnd)
@@ -63,7 +45,7 @@ COLORREF Dimmed(COLORREF color, const NightFactors& factors)
 
 std::vector<COLORREF> ColorsOf(int state)
 {
-    const StateScope scope(state);
+    const vorn::chart::ColorStateScope scope(state);
     std::vector<COLORREF> colors;
     colors.reserve(APPCOLOR_COUNT);
     for (int type = 0; type < APPCOLOR_COUNT; ++type)

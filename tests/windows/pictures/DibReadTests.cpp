@@ -42,18 +42,6 @@ std::ptrdiff_t BitsOffset(const DIB& image)
     return image.Bits() - reinterpret_cast<const unsigned char*>(image.BitmapInfo());
 }
 
-/// A picture of one row of 8 bits with the entries black and red.
-BmpParts RedBmp()
-{
-    BmpParts parts;
-    parts.width = 2;
-    parts.depth = 8;
-    parts.usedColors = 2;
-    parts.behindHeader = std::string("\0\0\0\0\0\0\xFF\0", 8);
-    parts.pixels = std::string("\1\0\0\0", 4);
-    return parts;
-}
-
 TEST_F(DibRead, BitmapsOfOtherPrograms)
 {
     DIB image;

@@ -88,18 +88,6 @@ private:
     ImportRedirect m_redirect{"VornCommon.dll", "StretchDIBits", reinterpret_cast<const void*>(NotedDrawing)};
 };
 
-/// One row of two pixels with the entries black and red.
-BmpParts TwoPixels()
-{
-    BmpParts parts;
-    parts.width = 2;
-    parts.depth = 8;
-    parts.usedColors = 2;
-    parts.behindHeader = std::string("\0\0\0\0\0\0\xFF\0", 8);
-    parts.pixels = std::string("\1\0\0\0", 4);
-    return parts;
-}
-
 TEST_F(DibDraws, TheWholeOfATopDownImageByItsPositiveHeight)
 {
     const DrawnOn target(9, 9);
@@ -135,7 +123,7 @@ TEST_F(DibDraws, QuickResizingIsOneDrawingInHalftoneMode)
 
 TEST_F(DibDraws, UnseenPixelsAreNotResized)
 {
-    BmpParts parts = TwoPixels();
+    BmpParts parts = RedBmp();
     parts.compression = 1;
     parts.pixels = std::string("\2\1\0\1", 4);
     parts.imageSize = 4;
@@ -148,7 +136,7 @@ TEST_F(DibDraws, UnseenPixelsAreNotResized)
 
 TEST_F(DibDraws, HeadersOfFilesBecomeSoundOnes)
 {
-    BmpParts parts = TwoPixels();
+    BmpParts parts = RedBmp();
     parts.planes = 0;
     parts.imageSize = 0xFFFFFFFF;
     parts.headerSize = 41;
@@ -166,7 +154,7 @@ TEST_F(DibDraws, HeadersOfFilesBecomeSoundOnes)
 
 TEST_F(DibDraws, CompressedPixelsAreAsManyAsStatedButNoMoreThanThereAre)
 {
-    BmpParts parts = TwoPixels();
+    BmpParts parts = RedBmp();
     parts.compression = 1;
     parts.pixels = std::string("\2\1\0\1", 4);
     for (const auto& [field, expected] : {std::pair{3UL, 3U}, {4UL, 4U}, {5UL, 4U}, {0xFFFFFFFFUL, 4U}, {0UL, 4U}})
@@ -179,7 +167,7 @@ TEST_F(DibDraws, CompressedPixelsAreAsManyAsStatedButNoMoreThanThereAre)
 // The table is looked for behind 40 bytes, here as everywhere.
 TEST_F(DibDraws, TablesBehindLongHeadersAreTheSameAsForPixels)
 {
-    BmpParts parts = TwoPixels();
+    BmpParts parts = RedBmp();
     parts.headerSize = 108;
     parts.behindHeader = std::string("\0\0\xFF\0\0\xFF\0\0", 8) + std::string(60, '\0') + parts.behindHeader;
     DIB image;

@@ -75,6 +75,17 @@ DIB FromLetters(const std::string& rows, int depth, bool isTopDown)
     return image;
 }
 
+BmpParts RedBmp()
+{
+    BmpParts parts;
+    parts.width = 2;
+    parts.depth = 8;
+    parts.usedColors = 2;
+    parts.behindHeader = std::string("\0\0\0\0\0\0\xFF\0", 8);
+    parts.pixels = std::string("\1\0\0\0", 4);
+    return parts;
+}
+
 bool IsWithoutImage(const DIB& image)
 {
     return image.BitmapInfo() == nullptr && image.Bits() == nullptr && image.Width() == 0 && image.Height() == 0 &&

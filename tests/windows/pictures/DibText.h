@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/DIB.h"
+#include "tests/support/PictureBytes.h"
 
 #include <string>
 
@@ -17,6 +18,9 @@ unsigned ColorOf(const DIB& image, int x, int y);
 
 /// An image of 24 bits whose colours are the letters of Colors(), bottom-up.
 DIB FromLetters(const std::string& rows, int depth = 24, bool isTopDown = false);
+
+/// A bitmap file of two pixels, a red and a black one, of 8 bits with the entries black and red.
+BmpParts RedBmp();
 
 /// No block, no size, nothing.
 bool IsWithoutImage(const DIB& image);
