@@ -2,6 +2,7 @@
 #include "frame/VornCommonApp.h"
 #include "framework/include/afxwin.h"
 #include "tests/support/PumpUntil.h"
+#include "tests/support/PutCursor.h"
 #include "tests/support/ScratchKey.h"
 #include "tests/windows/tooltips/TipTest.h"
 #include "toolkit/tooltips/InfoTip.h"

@@ -6,6 +6,17 @@
 namespace vorn::test
 {
 
+namespace
+{
+POINT g_cursor{};
+
+BOOL WINAPI PlaceOfCursor(POINT* place)
+{
+    *place = g_cursor;
+    return TRUE;
+}
+} // namespace
+
 CRect WatchedTips::GetBoundsRect(CString text, int extra)
 {
     if (m_whenMeasured)
@@ -30,8 +41,9 @@ LRESULT WatchedTips::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return ToolTipCtrlEx::WindowProc(message, wParam, lParam);
 }
 
-TipTest::TipTest()
+TipTest::TipTest() : m_cursor("VornCommon.dll", "GetCursorPos", reinterpret_cast<const void*>(PlaceOfCursor))
 {
+    EXPECT_TRUE(m_cursor.IsActive());
     const LPCTSTR windowClass =
         AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1));
     m_host.CreateEx(0, windowClass, "tips", WS_POPUP | WS_VISIBLE, 200, 150, 400, 250, nullptr, nullptr);
@@ -76,6 +88,12 @@ CPoint TipTest::MiddleOf(UINT id)
     return PlaceOf(id).CenterPoint();
 }
 
+void TipTest::PutCursor(CPoint point)
+{
+    g_cursor = point;
+    ::SetCursorPos(point.x, point.y);
+}
+
 void TipTest::MouseTo(CPoint point, UINT message, WPARAM keys)
 {
     PutCursor(point);
@@ -97,7 +115,7 @@ void TipTest::Relay(UINT message, HWND window)
     MSG relayed{};
     relayed.hwnd = window != nullptr ? window : m_host.m_hWnd;
     relayed.message = message;
-    ::GetCursorPos(&relayed.pt);
+    relayed.pt = g_cursor;
     m_tips.RelayEvent(&relayed);
 }
 

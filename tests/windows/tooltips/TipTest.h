@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/include/afxwin.h"
-#include "tests/support/PutCursor.h"
+#include "tests/support/ImportRedirect.h"
 #include "tests/windows/tooltips/resource.h"
 #include "toolkit/tooltips/ToolTipCtrlEx.h"
 
@@ -40,6 +40,9 @@ protected:
     /// On the screen.
     CRect PlaceOf(UINT id);
     CPoint MiddleOf(UINT id);
+    /// The library finds the cursor there until the next call: the system may say of a place of before that it is
+    /// still, or again, the cursor's.
+    void PutCursor(CPoint point);
     /// Moves the cursor and relays the message that tells of it.
     void MouseTo(CPoint point, UINT message = WM_MOUSEMOVE, WPARAM keys = 0);
     void MouseOut();
@@ -54,6 +57,9 @@ protected:
 
     CWnd m_host;
     WatchedTips m_tips;
+
+private:
+    ImportRedirect m_cursor;
 };
 
 constexpr UINT_PTR kWaitTimer = 1;

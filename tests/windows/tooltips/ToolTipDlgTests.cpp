@@ -1,6 +1,7 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/DialogTemplateBuilder.h"
 #include "tests/support/GdiCount.h"
+#include "tests/support/PutCursor.h"
 #include "tests/support/UserCount.h"
 #include "tests/windows/tooltips/TipTest.h"
 #include "toolkit/tooltips/ToolTipDlg.h"

@@ -1,5 +1,6 @@
 #include "framework/include/afxdlgs.h"
 #include "framework/include/afxext.h"
+#include "tests/support/PutCursor.h"
 #include "tests/windows/tooltips/TipTest.h"
 #include "toolkit/tooltips/ToolTipDlgBar.h"
 #include "toolkit/tooltips/ToolTipPropertyPage.h"
