@@ -76,7 +76,7 @@ bool DIB::WritePNG(std::function<void(const char* data, unsigned size)> sink) co
 
 bool DIB::WriteJPEG(const char* path, int quality, int progressive, PaletteMapper* mapper) const
 {
-    return HasPixels(View()) &&
+    return vorn::CanWriteJpeg(View()) &&
            vorn::NoThrow(false,
                          [&]
                          {

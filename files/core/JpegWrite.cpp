@@ -185,9 +185,15 @@ void JpegWriter::ReduceLine(unsigned char* line)
 }
 } // namespace
 
+bool CanWriteJpeg(const ImageView& image)
+{
+    return image.hasRows && image.width >= 1 && image.height >= 1 && image.width <= JPEG_MAX_DIMENSION &&
+           image.height <= JPEG_MAX_DIMENSION;
+}
+
 bool EncodeJpeg(const ImageView& image, const EncodedSink& sink, const JpegWriting& how)
 {
-    if (!sink || !image.hasRows || image.width < 1 || image.height < 1)
+    if (!sink || !CanWriteJpeg(image))
         return false;
     JpegWriter writer(image, sink, how);
     return writer.Write();

@@ -16,6 +16,10 @@ struct JpegWriting
     PaletteReducer* reducer = nullptr; ///< Colours become those of its entries first; not owned.
 };
 
-/// Gives the sink a JPEG file of the picture's colours. False as for EncodePng, and for more than 65,500 pixels a side.
+/// Whether a JPEG file can hold the picture: it has rows, and no more than 65,500 pixels a side.
+bool CanWriteJpeg(const ImageView& image);
+
+/// Gives the sink a JPEG file of the picture's colours. False as for EncodePng, and when it
+/// cannot hold it.
 bool EncodeJpeg(const ImageView& image, const EncodedSink& sink, const JpegWriting& how = {});
 } // namespace vorn

@@ -318,7 +318,8 @@ TEST_F(DibCoded, JpegWritingFails)
     EXPECT_FALSE(HasFile());
     Write("before", "out");
     EXPECT_FALSE(DIB().WriteJPEG(Path().c_str(), 75, 0, nullptr));
-    EXPECT_EQ(m_folder.Read("out"), "before");
+    EXPECT_FALSE(DIB(65501, 1, 1, 0, 0, nullptr, nullptr).WriteJPEG(Path().c_str(), 75, 0, nullptr));
+    EXPECT_EQ(m_folder.Read("out"), "before") << "nothing that cannot be written costs a file";
     EXPECT_FALSE(FromLetters("R").WriteJPEG(Path("no/such/folder").c_str(), 75, 0, nullptr));
     EXPECT_FALSE(FromLetters("R").WriteJPEG(nullptr, 75, 0, nullptr));
 }
