@@ -17,6 +17,7 @@ std::size_t TableSize(const BITMAPINFOHEADER& header, int usage)
     const std::int64_t most = std::int64_t{1} << header.biBitCount;
     return static_cast<std::size_t>(std::min(TableEntries(header), most)) * (usage == DIB_PAL_COLORS ? 2 : 4);
 }
+
 // GDI draws no compressed pixels whose size is 0, which some programs write.
 DWORD SizeOf(DWORD stated, DWORD most)
 {

@@ -19,7 +19,7 @@ struct JpegWriting
 /// Whether a JPEG file can hold the picture: it has rows, and no more than 65,500 pixels a side.
 bool CanWriteJpeg(const ImageView& image);
 
-/// Gives the sink a JPEG file of the picture's colours. False as for EncodePng, and when it
-/// cannot hold it.
+/// Gives the sink a JPEG file of the picture's colours. False as for EncodePng, and where
+/// CanWriteJpeg is.
 bool EncodeJpeg(const ImageView& image, const EncodedSink& sink, const JpegWriting& how = {});
 } // namespace vorn
